@@ -1,0 +1,23 @@
+# Language, warnings and floating-point rules that hold for every target.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+# Several branches of the calculation compare doubles for exact equality: no contraction
+# into fused operations, no fast-math, the same digits on every machine.
+add_compile_options(-ffp-contract=off)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+                    -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+
+set(RIPPENSCHEIBE_SANITIZE "" CACHE STRING "Sanitizers, for instance address,undefined")
+if(RIPPENSCHEIBE_SANITIZE)
+    add_compile_options(-fsanitize=${RIPPENSCHEIBE_SANITIZE} -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${RIPPENSCHEIBE_SANITIZE})
+endif()

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "model/Wand.h"
+
+namespace rippenscheibe {
+
+// Capacity Rd (N) of one fastener of side n by design method, sheathing material and fastener kind,
+// then the rules that hold for all fasteners, then a pass of resistances and proofs when both sides
+// in use have capacity and spacing.
+void verteiler(Wand& w, Seite n);
+
+}  // namespace rippenscheibe

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "basis/Seite.h"
+#include "basis/Zahl.h"
+
+// How the record declares and describes its fields in one place. A group is a macro that lists its
+// fields, one a line: type, name, default, unit, meaning; a field of the two sides also with the two
+// names it is printed under. GRUPPE turns the list into a struct with these members and a static
+// `felder(gruppe, besucher)` that calls the visitor for each field in order:
+//     besucher(Feldangabe, Typ& feld)
+// JSON, the field index and the tests all come from this description.
+
+namespace rippenscheibe {
+
+using Texte = std::vector<std::string>;
+
+// What is to be known of a field besides its value.
+struct Feldangabe {
+    std::string_view name;       // as printed: "Wandlaenge", "Rd2", "fv0d1Term3"
+    std::string_view einheit;    // "mm", "N/mm²", "-"; empty for texts, choices and truth values
+    std::string_view bedeutung;  // one German phrase
+};
+
+// Groups joined to one flat struct, visited one after another.
+template <class... G>
+struct Gruppen : G... {
+    template <class W, class Besucher>
+    static void jedesFeld(W& w, Besucher& besucher) {
+        (G::felder(w, besucher), ...);
+    }
+};
+
+}  // namespace rippenscheibe
+
+#define RS_FELD_DECLARE(Typ, Name, Vorgabe, Einheit, Bedeutung) Typ Name{Vorgabe};
+#define RS_PAAR_DECLARE(Typ, Name, Name1, Name2, Vorgabe, Einheit, Bedeutung) \
+    Paar<Typ> Name{{Typ(Vorgabe), Typ(Vorgabe)}};
+
+#define RS_FELD_DESCRIBE(Typ, Name, Vorgabe, Einheit, Bedeutung) \
+    besucher(Feldangabe{#Name, Einheit, Bedeutung}, gruppe.Name);
+#define RS_PAAR_DESCRIBE(Typ, Name, Name1, Name2, Vorgabe, Einheit, Bedeutung) \
+    besucher(Feldangabe{Name1, Einheit, Bedeutung}, gruppe.Name[Seite::eins]); \
+    besucher(Feldangabe{Name2, Einheit, Bedeutung}, gruppe.Name[Seite::zwei]);
+
+#define RS_GRUPPE(Name, LISTE)                                    \
+    struct Name {                                                 \
+        LISTE(RS_FELD_DECLARE, RS_PAAR_DECLARE)                   \
+        template <class Gruppe, class Besucher>                   \
+        static void felder(Gruppe& gruppe, Besucher&& besucher) { \
+            LISTE(RS_FELD_DESCRIBE, RS_PAAR_DESCRIBE)             \
+        }                                                         \
+    };

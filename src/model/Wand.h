@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+
+#include "model/EigeneMaterialien.h"
+#include "model/Eingaben.h"
+#include "model/Ergebnisse.h"
+
+namespace rippenscheibe {
+
+// The record of one position: one wall panel (Wandtafel) designed to DIN 1052 (2008). Plain data with
+// flat names. One object per running program, made in `main` and handed on by reference, so that many
+// walls can be computed side by side. Results keep their values between runs; nothing clears them but
+// where a routine says so.
+//
+// Units: Wandlaenge and Wandhoehe in m; all other lengths in mm, rib sizes included; panel forces in
+// kN, line loads in kN/m, fastener forces in N, strengths in N/mm², shear flows in N/mm, section areas
+// in cm², moduli in cm³.
+struct Wand : Eingaben, Ergebnisse {
+    EigeneMaterialien eigeneMaterialien;  // the own-material table, loaded at start
+    Texte Hinweise;                       // findings of the last plausibility run
+};
+
+// Plattendicke of side n as it is stored. Side 1 is a double, side 2 single precision: the sides of
+// the position file are typed differently, and that is meant.
+inline Zahl Plattendicke(const Wand& w, Seite n) {
+    return n == Seite::eins ? Zahl(w.Plattendicke1) : Zahl(w.Plattendicke2);
+}
+
+// Sets the defaults of program start and of a new file: one routine serves both. Projekt, the
+// own-material table and every result keep their values.
+void setzeVorgaben(Wand& w);
+
+// Calls the visitor for every input field, then (ergebnisse) every result field, in their fixed order.
+template <class W, class Besucher>
+void jedeEingabe(W& w, Besucher&& besucher) {
+    Eingaben::jedesFeld(w, besucher);
+}
+template <class W, class Besucher>
+void jedesErgebnis(W& w, Besucher&& besucher) {
+    Ergebnisse::jedesFeld(w, besucher);
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "model/Wand.h"
+
+namespace rippenscheibe {
+
+// The whole design in its fixed sequence: modification factors, material values, capacities,
+// resistances, proofs, deformation, anchorage, verdict.
+void berechnungslauf(Wand& w);
+
+enum class Hinweisbehandlung { beachten, uebergehen };
+enum class Laufergebnis { gerechnet, hinweise };
+
+// What a start button does with the position: Zuweisen has to come before. Plausibility run, then,
+// unless findings stop it, the calculation run.
+Laufergebnis starte(Wand& w, Hinweisbehandlung hinweise = Hinweisbehandlung::beachten);
+
+}  // namespace rippenscheibe
