@@ -1,0 +1,102 @@
+#include "design/Verbindungsmittelabstaende.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+bool klammer(const Wand& w, Seite n) { return w.VMArt[n] == 3 || w.VMArt[n] == 8; }
+bool nagelartig(const Wand& w, Seite n) {
+    const int art = w.VMArt[n].value();
+    return (art >= 1 && art <= 7) && art != 3;
+}
+
+struct Vielfache {
+    double a1;
+    double a2;
+    double a3;
+    double a4;
+    double aRand;
+};
+
+// Meant: the routine of side 2 never writes a42 and aRand2.
+void setzeRippe(Wand& w, Seite n, const Vielfache& v) {
+    w.a1[n] = v.a1 * w.d[n];
+    w.a2[n] = v.a2 * w.d[n];
+    w.a3[n] = v.a3 * w.d[n];
+    if (n == Seite::eins) {
+        w.a4[n] = v.a4 * w.d[n];
+        w.aRand[n] = v.aRand * w.d[n];
+    }
+}
+
+// Density up to 420 kg/m³, not predrilled.
+void leichteRippe(Wand& w, Seite n) {
+    if (n == Seite::eins) {
+        setzeRippe(w, n, w.d[n] < 5 ? Vielfache{5, 5, 7, 12, 7} : Vielfache{5, 5, 10, 15, 10});
+        return;
+    }
+    // Meant: on side 2 the row of 7d asks for d1 < 5 and the row of 10d for d2 >= 5. With different
+    // diameters both or neither may apply; the later one stands.
+    w.a1[n] = 5 * w.d[n];
+    w.a2[n] = 5 * w.d[n];
+    if (w.d[Seite::eins] < 5) w.a3[n] = 7 * w.d[n];
+    if (w.d[Seite::zwei] >= 5) w.a3[n] = 10 * w.d[n];
+}
+
+void rippeNagelartig(Wand& w, Seite n) {
+    if (w.Vorgebohrt[n]) {
+        setzeRippe(w, n, {3, 3, 7, 12, 7});
+    } else if (w.rhok <= 420) {
+        leichteRippe(w, n);
+    } else if (w.rhok < 500) {
+        setzeRippe(w, n, w.d[n] < 5 ? Vielfache{7, 7, 9, 20, 15} : Vielfache{7, 7, 12, 20, 15});
+    }
+}
+
+void plattenrandNagelartig(Wand& w, Seite n) {
+    const int material = w.Material[n].value();
+    const auto setze = [&](double unbelastet, double belastet) {
+        w.aPlatteUnbelastet[n] = unbelastet * w.d[n];
+        w.aPlatte[n] = belastet * w.d[n];
+    };
+    // Material 12 is among those above 7, although gypsum-like distances exist for it.
+    if (material == 1 || material == 2 || material > 7) {
+        setze(3, 7);
+    } else if (material >= 3 && material <= 6) {
+        setze(7, 10);
+    } else if (material == 7) {
+        setze(4, 7);
+    }
+}
+
+void klammern(Wand& w, Seite n) {
+    const Zahl d = w.d[n];
+    if (w.Material[n] == 7) {
+        w.aPlatteUnbelastet[n] = 9 * d;
+        w.aPlatte[n] = 12 * d;
+        return;
+    }
+    // Meant: the sine takes the degrees as they stand, without conversion to radians.
+    const Zahl sinus = sin(w.beta);
+    w.a1[n] = (w.beta >= 30 ? 10 * sinus + 5 : Zahl(10)) * d;
+    w.a2[n] = (5 * sinus + 5) * d;
+    w.a3[n] = 10 * d;
+    w.aPlatteUnbelastet[n] = (5 * sinus + 5) * d;
+    w.aPlatte[n] = 10 * d;
+    if (n == Seite::eins) {  // meant: on side 1 only
+        w.a4[n] = 20 * d;
+        w.aRand[n] = 15 * d;
+    }
+}
+
+}  // namespace
+
+void verbindungsmittelabstaende(Wand& w, Seite n) {
+    if (nagelartig(w, n)) {
+        rippeNagelartig(w, n);
+        plattenrandNagelartig(w, n);
+    }
+    if (klammer(w, n)) klammern(w, n);
+}
+
+}  // namespace rippenscheibe
