@@ -1,0 +1,50 @@
+#include "ui/Programm.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStandardPaths>
+#include <utility>
+
+namespace rippenscheibe {
+
+Programm::Programm(std::filesystem::path programmordner, QObject* parent)
+    : QObject(parent), ordner(std::move(programmordner)) {
+    setzeVorgaben(w);
+    felder = grundmasse(w);
+}
+
+void Programm::setzeGesichert(bool gesichert) {
+    if (gesichert_ == gesichert) return;
+    gesichert_ = gesichert;
+    Q_EMIT zustandGeaendert();
+}
+
+void Programm::setzeTitel(const QString& titel) {
+    titel_ = titel;
+    Q_EMIT zustandGeaendert();
+}
+
+void Programm::zuweisen() {
+    rippenscheibe::zuweisen(w, felder);
+    Q_EMIT geaendert();
+}
+
+std::filesystem::path programmordner() {
+    const QFileInfo neben(QCoreApplication::applicationDirPath());
+    if (neben.isWritable()) return pfad(neben.absoluteFilePath());
+    const QString daten = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(daten);
+    return pfad(daten);
+}
+
+std::filesystem::path pfad(const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    return std::filesystem::path(std::u8string(reinterpret_cast<const char8_t*>(bytes.constData()),
+                                               static_cast<std::size_t>(bytes.size())));
+}
+
+char dezimalzeichen() { return QLocale().decimalPoint() == QStringLiteral(".") ? '.' : ','; }
+
+}  // namespace rippenscheibe

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "ui/Meldungen.h"
+
+namespace rippenscheibe {
+
+// Answers boxes and file dialogs from queues and records what they said. A box without an answer in the
+// queue gets the one of its Esc key; a file dialog without one is cancelled.
+class GeskripteteMeldungen : public Meldungen {
+  public:
+    std::deque<Antwort> antworten;
+    std::deque<QString> dateien;
+
+    std::vector<Meldung> gezeigt;
+    std::vector<Dateiwahl> gewaehlt;
+    int gepiept = 0;
+
+    Antwort zeige(QWidget*, const Meldung& meldung) override {
+        gezeigt.push_back(meldung);
+        if (antworten.empty()) return escape(meldung.knoepfe);
+        const Antwort antwort = antworten.front();
+        antworten.pop_front();
+        return antwort;
+    }
+    std::optional<QString> oeffnen(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
+    std::optional<QString> sichern(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
+    void piep() override { ++gepiept; }
+
+  private:
+    static Antwort escape(Knoepfe knoepfe) {
+        if (knoepfe == Knoepfe::ok) return Antwort::ok;
+        return knoepfe == Knoepfe::jaNein ? Antwort::nein : Antwort::abbrechen;
+    }
+    std::optional<QString> waehle(const Dateiwahl& wahl) {
+        gewaehlt.push_back(wahl);
+        if (dateien.empty()) return std::nullopt;
+        const QString datei = dateien.front();
+        dateien.pop_front();
+        return datei;
+    }
+};
+
+}  // namespace rippenscheibe
