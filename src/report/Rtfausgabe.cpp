@@ -1,0 +1,147 @@
+#include "report/Rtfausgabe.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+
+namespace rippenscheibe {
+
+namespace {
+
+// The number of bytes of the UTF-8 character that begins with this byte; 0 when none does.
+constexpr std::size_t zeichenlaenge(unsigned char erstes) {
+    if (erstes < 0x80) return 1;
+    if (erstes >= 0xC2 && erstes < 0xE0) return 2;
+    if (erstes >= 0xE0 && erstes < 0xF0) return 3;
+    if (erstes >= 0xF0 && erstes < 0xF5) return 4;
+    return 0;
+}
+
+// The next character of a UTF-8 text, which it is cut by. A byte that is part of none is U+FFFD.
+char32_t naechstesZeichen(std::string_view& text) {
+    constexpr char32_t ersatz = 0xFFFD;
+    constexpr std::array<char32_t, 5> kleinste{0, 0, 0x80, 0x800, 0x10000};
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+
+    const std::size_t laenge = zeichenlaenge(byte(0));
+    char32_t zeichen = laenge == 1 ? byte(0) : byte(0) & (0x7FU >> laenge);
+    bool gueltig = laenge > 0 && laenge <= text.size();
+    for (std::size_t i = 1; gueltig && i < laenge; ++i) {
+        gueltig = (byte(i) & 0xC0U) == 0x80U;
+        zeichen = (zeichen << 6U) | (byte(i) & 0x3FU);
+    }
+    const bool surrogat = zeichen >= 0xD800 && zeichen < 0xE000;
+    gueltig = gueltig && !surrogat && zeichen >= kleinste[laenge] && zeichen <= 0x10FFFF;
+    text.remove_prefix(gueltig ? laenge : 1);
+    return gueltig ? zeichen : ersatz;
+}
+
+// One UTF-16 unit as RTF writes it: a signed 16-bit number, and "?" for readers that know none.
+void haengeEinheitAn(std::string& rtf, char32_t einheit) {
+    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(static_cast<std::uint16_t>(einheit))) + "?";
+}
+
+void haengeZeichenAn(std::string& rtf, char32_t zeichen) {
+    if (zeichen == U'\n') {
+        rtf += "\\line ";
+    } else if (zeichen == U'\t') {
+        rtf += "\\tab ";
+    } else if (zeichen < 0x20 || zeichen == 0x7F) {
+        return;  // no control character is text
+    } else if (zeichen == U'\\' || zeichen == U'{' || zeichen == U'}') {
+        rtf += '\\';
+        rtf += static_cast<char>(zeichen);
+    } else if (zeichen < 0x80) {
+        rtf += static_cast<char>(zeichen);
+    } else if (zeichen < 0x10000) {
+        haengeEinheitAn(rtf, zeichen);
+    } else {
+        haengeEinheitAn(rtf, 0xD800U + ((zeichen - 0x10000U) >> 10U));
+        haengeEinheitAn(rtf, 0xDC00U + ((zeichen - 0x10000U) & 0x3FFU));
+    }
+}
+
+void haengeTextAn(std::string& rtf, std::string_view text) {
+    while (!text.empty()) haengeZeichenAn(rtf, naechstesZeichen(text));
+}
+
+// The different values of a table in the order of their first use.
+template <class T>
+std::size_t stelle(std::vector<T>& tabelle, const T& wert) {
+    const auto it = std::find(tabelle.begin(), tabelle.end(), wert);
+    if (it != tabelle.end()) return static_cast<std::size_t>(it - tabelle.begin());
+    tabelle.push_back(wert);
+    return tabelle.size() - 1;
+}
+
+class Schreiber {
+  public:
+    std::string schreibe(const Fliesstext& text) {
+        stelle(schriften_, std::string("Arial"));
+        for (const Absatz& absatz : text) schreibeAbsatz(absatz);
+        return kopf() + rumpf_ + "}\n";
+    }
+
+  private:
+    void schreibeAbsatz(const Absatz& absatz) {
+        rumpf_ += "\\pard\\plain\\f0\\fs20 ";
+        for (const Textlauf& lauf : absatz.laeufe) schreibeLauf(lauf);
+        for (const Textbild& bild : absatz.bilder) schreibeBild(bild);
+        rumpf_ += "\\par\n";
+    }
+
+    void schreibeLauf(const Textlauf& lauf) {
+        const Schrift& s = lauf.schrift;
+        rumpf_ += "{\\f" + std::to_string(stelle(schriften_, s.name));
+        rumpf_ += "\\fs" + std::to_string(2 * s.groesse);  // half points
+        // Entry 0 of the colour table is the automatic colour, and so is black.
+        if (s.farbe != Farbe::schwarz) rumpf_ += "\\cf" + std::to_string(stelle(farben_, s.farbe) + 1);
+        if (s.fett) rumpf_ += "\\b";
+        if (s.kursiv) rumpf_ += "\\i";
+        if (s.unterstrichen) rumpf_ += "\\ul";
+        rumpf_ += ' ';
+        haengeTextAn(rumpf_, lauf.text);
+        rumpf_ += '}';
+    }
+
+    void schreibeBild(const Textbild& bild) {
+        constexpr double twipsJeMm = 1440 / 25.4;
+        constexpr std::string_view ziffern = "0123456789abcdef";
+        rumpf_ += "{\\pict\\pngblip\\picwgoal" + std::to_string(std::lround(bild.breite * twipsJeMm));
+        rumpf_ += "\\pichgoal" + std::to_string(std::lround(bild.hoehe * twipsJeMm)) + "\n";
+        for (const char zeichen : bild.png) {
+            const auto byte = static_cast<unsigned char>(zeichen);
+            rumpf_ += ziffern[byte >> 4U];
+            rumpf_ += ziffern[byte & 0x0FU];
+        }
+        rumpf_ += '}';
+    }
+
+    std::string kopf() const {
+        std::string k = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\n{\\fonttbl";
+        for (std::size_t i = 0; i < schriften_.size(); ++i) {
+            k += "{\\f" + std::to_string(i) + "\\fnil ";
+            haengeTextAn(k, schriften_[i]);
+            k += ";}";
+        }
+        k += "}\n{\\colortbl;";
+        for (const Farbe farbe : farben_) {
+            const auto rgb = static_cast<std::uint32_t>(farbe);
+            k += "\\red" + std::to_string((rgb >> 16U) & 0xFFU) + "\\green" +
+                 std::to_string((rgb >> 8U) & 0xFFU) + "\\blue" + std::to_string(rgb & 0xFFU) + ";";
+        }
+        return k + "}\n\\paperw11906\\paperh16838\\margl1134\\margr1134\\deflang1031\n";
+    }
+
+    std::vector<std::string> schriften_;
+    std::vector<Farbe> farben_;
+    std::string rumpf_;
+};
+
+}  // namespace
+
+std::string alsRtf(const Fliesstext& text) { return Schreiber().schreibe(text); }
+
+}  // namespace rippenscheibe
