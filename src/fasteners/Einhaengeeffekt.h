@@ -1,0 +1,47 @@
+#pragma once
+
+#include "fasteners/Grundlagen.h"
+
+// Rope effect: the share of the withdrawal capacity that raises the shear capacity of screws and special
+// nails when DeltaRd is set (DIN 1052 (2008), 12.2 to 12.8). Only the gain is set to 0 when it is not.
+
+namespace rippenscheibe {
+
+// lef = the smaller of ln - t and lg.
+void setzeEinbindelaenge(Wand& w, Seite n);
+
+// c * 10^-6 * rho², N/mm².
+Zahl ausziehparameter(double c, Zahl rho);
+// The same for the head, always with the density 380 kg/m³ and not that of the ribs.
+Zahl kopfdurchziehparameter(double c);
+
+// At lef = m * d exactly the fastener is neither too short nor long enough: Rxk keeps its earlier value.
+enum class Einbindung { zuKurz, grenze, genuegt };
+Einbindung pruefeEinbindung(const Wand& w, Seite n, int vielfaches);
+
+// Bands of the sheathing thickness: below 12 mm Rxk is a fixed value, up to 20 mm f2k is.
+enum class Dickenband { unter12, bis20, ueber20 };
+Dickenband dickenband(const Wand& w, Seite n);
+
+inline constexpr double RxkDuennePlatte = 400;
+inline constexpr double f2kBis20 = 8;
+
+// min(f1k * d * lef; f2k * dk²).
+Zahl ausziehtragfaehigkeit(const Wand& w, Seite n);
+// Rxk by the thickness band for a fastener that reaches deep enough, with f1k as it stands. Writes f2k in the
+// bands from 12 mm on; cKopf is the c of the head above 20 mm.
+void setzeRxkNachDicke(Wand& w, Seite n, double cKopf);
+// Rxd = kmodVM * Rxk / 1.3.
+void setzeRxd(Wand& w, Seite n);
+
+// The materials for which the simplified method counts the effect: 1, 2 and above 7. For 3 to 7 the gain is
+// 0.
+bool hatEinhaengeeffekt(const Wand& w, Seite n);
+
+// The gain, 0.25 times the withdrawal capacity and at most anteil * Rk or anteil * Rd.
+void setzeDeltaRk(Wand& w, Seite n, double anteil);
+void setzeDeltaRd(Wand& w, Seite n, double anteil);
+// Adds deltaRd to Rd when the governing mode has a plastic hinge (D, E, F), told by exact equality.
+void addiereDeltaRd(Wand& w, Seite n);
+
+}  // namespace rippenscheibe
