@@ -1,0 +1,132 @@
+#include "fasteners/Schrauben.h"
+
+#include <algorithm>
+#include <array>
+
+#include "fasteners/Einhaengeeffekt.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr int mindesteinbindung = 4;  // times d, for the withdrawal
+constexpr double cAusziehen = 70;
+constexpr double cKopf = 60;
+constexpr double anteilEinhaengen = 1.0;  // the gain may reach the whole shear capacity
+
+// Smallest head diameter; it holds for these three diameters exactly and for no other. mm.
+struct Mindestkopf {
+    double d;
+    double dk;
+};
+// clang-format off
+constexpr std::array<Mindestkopf, 3> mindestkoepfe{{
+    {4.0, 7.5},
+    {4.5, 8.3},
+    {5.0, 9.2},
+}};
+// clang-format on
+static_assert(mindestkoepfe.size() == 3);
+
+bool kopfZuKlein(const Wand& w, Seite n) {
+    return std::ranges::any_of(mindestkoepfe,
+                               [&](const Mindestkopf& m) { return w.d[n] == m.d && w.dk[n] < m.dk; });
+}
+bool gewindeZuKurz(const Wand& w, Seite n) { return w.lg[n] < 0.6 * w.ln[n]; }
+
+constexpr std::array<Ausschluss, 6> ausschluesse{randrippeZuDuenn, durchmesserUnter4, durchmesserAb8,
+                                                 kopfZuKlein,      gewindeZuKurz,     einbindungUnter4d};
+
+bool hatFliessmoment(const Wand& w, Seite n, Verfahren verfahren) {
+    const bool zugfest = w.fuk[n] >= 400;
+    const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
+    if (verfahren == Verfahren::genau) return zugfest && imBereich;
+    // Side difference: side 1 does not look at fuk, side 2 knows the diameter 4 alone. Meant.
+    return n == Seite::eins ? imBereich : zugfest && w.d[n] == 4;
+}
+
+void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
+    const bool vorhanden = hatFliessmoment(w, n, verfahren);
+    w.Myk[n] = vorhanden ? fliessmoment(fliessmomentSchraube, w.fuk[n], w.d[n]) : Zahl(0);
+}
+
+void setzeGruppen(Wand& w, Seite n) {
+    const Zahl d = w.d[n];
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 4 * d});
+    } else if (n == Seite::zwei) {
+        // Side difference: all the rest takes the fibre-board value, predrilled too, and the required
+        // thickness goes by d1, the diameter of side 1. Meant.
+        w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
+        setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
+    } else if (istGipskarton(w, n)) {
+        setzeGruppe(w, n, Lochleibung::gipskarton, {0, 10 * d, 4 * d});
+    }
+    if (istEigenesMaterial(w, n)) setzeEigenesMaterial(w, n, 0.8);
+}
+
+// lef, f1k, f2k and Rxk. Both methods take the density of the ribs.
+void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
+    setzeEinbindelaenge(w, n);
+    // Side difference: side 1, simplified, leaves f1k1 alone, so that the minimum below works with what an
+    // earlier calculation left there, 0 after program start. Meant.
+    if (!(n == Seite::eins && verfahren == Verfahren::vereinfacht)) {
+        w.f1k[n] = ausziehparameter(cAusziehen, w.rhok);
+    }
+    switch (pruefeEinbindung(w, n, mindesteinbindung)) {
+        case Einbindung::zuKurz:
+            w.Rxk[n] = 0;
+            break;
+        case Einbindung::grenze:
+            break;
+        case Einbindung::genuegt:
+            setzeRxkNachDicke(w, n, cKopf);
+            break;
+    }
+}
+
+void setzeZuwachsVereinfacht(Wand& w, Seite n) {
+    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
+        w.deltaRk[n] = 0;
+        return;
+    }
+    setzeRxk(w, n, Verfahren::vereinfacht);
+    setzeDeltaRk(w, n, anteilEinhaengen);
+}
+
+void setzeZuwachsGenau(Wand& w, Seite n) {
+    if (!w.DeltaRd) {
+        w.deltaRd[n] = 0;
+        return;
+    }
+    setzeRxk(w, n, Verfahren::genau);
+    setzeRxd(w, n);
+    setzeDeltaRd(w, n, anteilEinhaengen);
+}
+
+}  // namespace
+
+void schraubenVereinfacht(Wand& w, Seite n) {
+    setzeFliessmoment(w, n, Verfahren::vereinfacht);
+    setzeGruppen(w, n);
+    setzeRk(w, n);
+    setzeZuwachsVereinfacht(w, n);
+    w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
+}
+
+void schraubenGenau(Wand& w, Seite n) {
+    setzeFliessmoment(w, n, Verfahren::genau);
+    versenke(w, n);
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
+    } else if (istGipskarton(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::gipskarton);
+    }
+    if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
+    setzeVersagensarten(w, n, Schaefte::einer);
+    w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
+    setzeZuwachsGenau(w, n);
+    addiereDeltaRd(w, n);
+}
+
+}  // namespace rippenscheibe

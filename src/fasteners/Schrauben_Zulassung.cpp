@@ -1,0 +1,170 @@
+#include "fasteners/Schrauben_Zulassung.h"
+
+#include <array>
+
+#include "fasteners/Einhaengeeffekt.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr int mindesteinbindung = 4;  // times d, for the withdrawal
+constexpr double anteilEinhaengen = 1.0;
+
+// Withdrawal by load-capacity class: f1k = auszieh * 10^-6 * rhok², f2k above 20 mm = kopf * 10^-6 * 380².
+struct Tragfaehigkeitsklasse {
+    double auszieh;
+    double kopf;
+};
+// clang-format off
+constexpr std::array<Tragfaehigkeitsklasse, 9> klassen{{
+    {60,  60},  // 1A
+    {60,  80},  // 1B
+    {60, 100},  // 1C
+    {70,  60},  // 2A
+    {70,  80},  // 2B
+    {70, 100},  // 2C
+    {80,  60},  // 3A
+    {80,  80},  // 3B
+    {80, 100},  // 3C
+}};
+// clang-format on
+static_assert(klassen.size() == 9);
+
+// The class of side n; nullptr for a number outside 1 to 9, which only a file can hold.
+const Tragfaehigkeitsklasse* klasse(const Wand& w, Seite n) {
+    const int nummer = w.VMKlasse[n].value();
+    const bool vorhanden = nummer >= 1 && nummer <= static_cast<int>(klassen.size());
+    return vorhanden ? &klassen[static_cast<std::size_t>(nummer) - 1] : nullptr;
+}
+
+bool randrippeZuDuennFuerD1(const Wand& w, Seite n) {
+    return w.hRandrippe < 14 * w.d[Seite::eins] && !w.Vorgebohrt[n];
+}
+
+constexpr std::array<Ausschluss, 4> ausschluesse{randrippeZuDuenn, durchmesserUnter4, durchmesserAb8,
+                                                 einbindungUnter4d};
+// Side difference: side 2, simplified, measures the rib depth by d1, the diameter of side 1. Meant.
+constexpr std::array<Ausschluss, 4> ausschluesseSeite2Vereinfacht{randrippeZuDuennFuerD1, durchmesserUnter4,
+                                                                  durchmesserAb8, einbindungUnter4d};
+
+bool hatFliessmoment(const Wand& w, Seite n, Verfahren verfahren) {
+    const bool zugfest = w.fuk[n] >= 400;
+    const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
+    // Side difference: the conditions of the four routines are all different but for the form. Meant.
+    if (verfahren == Verfahren::vereinfacht) {
+        return n == Seite::eins ? zugfest && imBereich : zugfest && w.d[n] == 4;
+    }
+    return n == Seite::eins ? imBereich : zugfest && w.d[n] > 4 && w.d[n] < 8;
+}
+
+void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
+    const bool vorhanden = hatFliessmoment(w, n, verfahren);
+    w.Myk[n] = vorhanden ? fliessmoment(fliessmomentSchraube, w.fuk[n], w.d[n]) : Zahl(0);
+}
+
+void setzeGruppen(Wand& w, Seite n) {
+    const Zahl d = w.d[n];
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 4 * d});
+    } else if (n == Seite::zwei) {
+        // Side difference: all the rest takes the fibre-board value, predrilled too, and the required
+        // thickness goes by d1, the diameter of side 1. Meant.
+        w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
+        setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
+    } else if (istGipskarton(w, n)) {
+        setzeGruppe(w, n, Lochleibung::gipskarton, {0, 10 * d, 4 * d});
+    }
+}
+
+bool istGipskartonGenau(const Wand& w, Seite n) {
+    // Side difference: side 1 takes its upper bound from the material of side 2. Meant.
+    if (n == Seite::eins) return w.Material[Seite::eins] >= 3 && w.Material[Seite::zwei] <= 6;
+    return istGipskarton(w, n);
+}
+
+// Rxk of a screw that reaches deep enough. Below 12 mm the parameters are not assigned.
+void setzeRxkTiefGenug(Wand& w, Seite n, Verfahren verfahren) {
+    const Dickenband band = dickenband(w, n);
+    if (band == Dickenband::unter12) {
+        w.Rxk[n] = RxkDuennePlatte;
+        return;
+    }
+    const Tragfaehigkeitsklasse* k = klasse(w, n);
+    if (k != nullptr) w.f1k[n] = ausziehparameter(k->auszieh, w.rhok);
+    if (band == Dickenband::bis20) {
+        w.f2k[n] = f2kBis20;
+    } else if (k != nullptr) {
+        w.f2k[n] = kopfdurchziehparameter(k->kopf);
+    }
+    // Side difference: side 2, exact, up to 20 mm computes the parameters only; Rxk2 keeps its value. Meant.
+    if (n == Seite::zwei && verfahren == Verfahren::genau && band == Dickenband::bis20) return;
+    w.Rxk[n] = ausziehtragfaehigkeit(w, n);
+}
+
+void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
+    setzeEinbindelaenge(w, n);
+    switch (pruefeEinbindung(w, n, mindesteinbindung)) {
+        case Einbindung::zuKurz:
+            w.Rxk[n] = 0;
+            break;
+        case Einbindung::grenze:
+            break;
+        case Einbindung::genuegt:
+            setzeRxkTiefGenug(w, n, verfahren);
+            break;
+    }
+}
+
+// Side difference: in the band that leaves Rxk2 alone Rxd2 keeps its value too, and the gain is formed from
+// it. Meant.
+bool laesstRxdStehen(const Wand& w, Seite n) {
+    return n == Seite::zwei && dickenband(w, n) == Dickenband::bis20 &&
+           pruefeEinbindung(w, n, mindesteinbindung) == Einbindung::genuegt;
+}
+
+void setzeZuwachsVereinfacht(Wand& w, Seite n) {
+    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
+        w.deltaRk[n] = 0;
+        return;
+    }
+    setzeRxk(w, n, Verfahren::vereinfacht);
+    setzeDeltaRk(w, n, anteilEinhaengen);
+}
+
+void setzeZuwachsGenau(Wand& w, Seite n) {
+    if (!w.DeltaRd) {
+        w.deltaRd[n] = 0;
+        return;
+    }
+    setzeRxk(w, n, Verfahren::genau);
+    if (!laesstRxdStehen(w, n)) setzeRxd(w, n);
+    setzeDeltaRd(w, n, anteilEinhaengen);
+}
+
+}  // namespace
+
+void schraubenZulassungVereinfacht(Wand& w, Seite n) {
+    setzeFliessmoment(w, n, Verfahren::vereinfacht);
+    setzeGruppen(w, n);
+    setzeRk(w, n);
+    setzeZuwachsVereinfacht(w, n);
+    const auto& regeln = n == Seite::eins ? ausschluesse : ausschluesseSeite2Vereinfacht;
+    w.Rd[n] = ausgeschlossen(w, n, regeln) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
+}
+
+void schraubenZulassungGenau(Wand& w, Seite n) {
+    setzeFliessmoment(w, n, Verfahren::genau);
+    versenke(w, n);
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
+    } else if (istGipskartonGenau(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::gipskarton);
+    }
+    setzeVersagensarten(w, n, Schaefte::einer);
+    w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
+    setzeZuwachsGenau(w, n);
+    addiereDeltaRd(w, n);
+}
+
+}  // namespace rippenscheibe

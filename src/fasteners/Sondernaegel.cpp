@@ -1,0 +1,115 @@
+#include "fasteners/Sondernaegel.h"
+
+#include <array>
+
+#include "fasteners/Einhaengeeffekt.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr int mindesteinbindung = 8;       // times d, for the withdrawal
+constexpr int groessteEinbindung = 20;     // times d
+constexpr double cAusziehen = 50;          // classes 3A to 3C
+constexpr double beiwertVorgebohrt = 0.7;  // of f1k
+constexpr double anteilEinhaengen = 0.5;   // the gain reaches half the shear capacity at most
+
+// Head parameter above 20 mm thickness, c of c * 10^-6 * 380², of the classes that have a rope effect.
+constexpr int ersteKlasse = 7;
+constexpr std::array<double, 3> cKopf{60, 80, 100};  // 3A, 3B, 3C
+static_assert(cKopf.size() == 3);
+
+bool dickerAls8(const Wand& w, Seite n) { return w.d[n] > 8; }
+
+constexpr std::array<Ausschluss, 4> ausschluesse{randrippeZuDuenn, dickerAls8, kuerzerAls10,
+                                                 einbindungUnter4d};
+
+void setzeFliessmoment(Wand& w, Seite n) {
+    w.Myk[n] = w.fuk[n] >= 600 ? fliessmoment(fliessmomentNagel, w.fuk[n], w.d[n]) : Zahl(0);
+}
+
+void setzeGruppen(Wand& w, Seite n) {
+    const Zahl d = w.d[n];
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
+    } else if (n == Seite::zwei) {
+        // Side difference: side 2 has no gypsum group; all the rest has A = 0 and no fhkPlatte2. Meant.
+        setzeBeiwerte(w, n, {0, 7 * d, 9 * d});
+    } else if (istGipskarton(w, n)) {
+        setzeGruppe(w, n, Lochleibung::gipskarton, {1.1, 10 * d, 9 * d});
+    }
+    if (istEigenesMaterial(w, n)) setzeEigenesMaterial(w, n, 0.8);
+}
+
+// lef, f1k, f2k and Rxk. Classes below 3A have no withdrawal capacity.
+void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
+    setzeEinbindelaenge(w, n);
+    if (w.lef[n] > groessteEinbindung * w.d[n]) w.lef[n] = groessteEinbindung * w.d[n];
+
+    const int klasse = w.VMKlasse[n].value() - ersteKlasse;
+    if (klasse < 0 || klasse >= static_cast<int>(cKopf.size())) {
+        w.Rxk[n] = 0;
+        return;
+    }
+    // The simplified method has no density: f1k is 0 there, and only a sheathing below 12 mm gives a gain.
+    // Meant.
+    const Zahl rho = verfahren == Verfahren::vereinfacht ? Zahl(0) : Zahl(w.rhok);
+    const Zahl f1k = ausziehparameter(cAusziehen, rho);
+    w.f1k[n] = w.Vorgebohrt[n] ? beiwertVorgebohrt * f1k : f1k;
+
+    const Einbindung einbindung = pruefeEinbindung(w, n, mindesteinbindung);
+    if (einbindung == Einbindung::zuKurz) {
+        w.Rxk[n] = 0;
+        return;
+    }
+    // At lef = 8 d exactly the simplified method keeps Rxk, the exact one goes on. Meant.
+    if (einbindung == Einbindung::grenze && verfahren == Verfahren::vereinfacht) return;
+    setzeRxkNachDicke(w, n, cKopf[static_cast<std::size_t>(klasse)]);
+}
+
+void setzeZuwachsVereinfacht(Wand& w, Seite n) {
+    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
+        w.deltaRk[n] = 0;
+        return;
+    }
+    setzeRxk(w, n, Verfahren::vereinfacht);
+    setzeDeltaRk(w, n, anteilEinhaengen);
+}
+
+void setzeZuwachsGenau(Wand& w, Seite n) {
+    if (!w.DeltaRd) {
+        w.deltaRd[n] = 0;
+        return;
+    }
+    setzeRxk(w, n, Verfahren::genau);
+    setzeRxd(w, n);
+    setzeDeltaRd(w, n, anteilEinhaengen);
+}
+
+}  // namespace
+
+void sondernaegelVereinfacht(Wand& w, Seite n) {
+    setzeFliessmoment(w, n);
+    setzeGruppen(w, n);
+    setzeRk(w, n);
+    setzeZuwachsVereinfacht(w, n);
+    w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
+}
+
+void sondernaegelGenau(Wand& w, Seite n) {
+    setzeFliessmoment(w, n);
+    versenke(w, n);
+    // Both sides alike: here side 2 knows gypsum board too.
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
+    } else if (istGipskarton(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::gipskarton);
+    }
+    if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
+    setzeVersagensarten(w, n, Schaefte::einer);
+    w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
+    setzeZuwachsGenau(w, n);
+    addiereDeltaRd(w, n);
+}
+
+}  // namespace rippenscheibe
