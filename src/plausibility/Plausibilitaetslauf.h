@@ -2,10 +2,15 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "model/Wand.h"
 
 namespace rippenscheibe {
+
+// Where the input that a finding names is made: the three fields of the main window (Abmessungen) or
+// one of the input dialogs.
+enum class Eingabeort { unbekannt, Abmessungen, Rippen, Beplankung, Verbindungsmittel };
 
 // Checks the whole input and fills w.Hinweise with one German text a finding, in fixed order. It
 // changes no input, but lef of both sides and, for some findings, Rd. Any finding blocks the run.
@@ -14,7 +19,11 @@ void plausibilitaetslauf(Wand& w);
 // The general fastener check of both sides, which the fastener dialog also runs on accept.
 Texte allgemeinePruefung(const Wand& w);
 
-// The first refusal of the sheathing dialog, or nothing.
+// The first refusal of the sheathing dialog, or nothing. It looks at side 2 of a one-sided wall too.
 std::optional<std::string> beplankungPruefung(const Wand& w);
+
+// Where the input is made that a finding of the plausibility run names; `unbekannt` for any text that
+// is none of its findings.
+Eingabeort ort(std::string_view hinweis);
 
 }  // namespace rippenscheibe
