@@ -71,7 +71,7 @@ bool Tastenregel::eventFilter(QObject* object, QEvent* event) {
 }
 
 Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, const QString& name,
-                 const QString& titel)
+                 const QString& titel, Tippen tippen, const QStringList& enterWeiter)
     : QDialog(parent), programm_(programm), meldungen_(meldungen) {
     setObjectName(name);
     setWindowTitle(titel);
@@ -91,9 +91,9 @@ Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, cons
     fusszeile_->addStretch(1);
     aussen->addLayout(fusszeile_);
 
-    auto* regel =
-        new Tastenregel(this, {QStringLiteral("Text"), QStringLiteral("Comb"), QStringLiteral("Mate")});
-    connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
+    auto* regel = new Tastenregel(this, enterWeiter);
+    if (tippen == Tippen::aendertPosition)
+        connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
 }
 
 QPushButton* Fenster::schaltflaeche(const QString& name, const QString& text) {

@@ -33,15 +33,20 @@ class Tastenregel : public QObject {
     QStringList enterWeiter_;
 };
 
-// Base of every secondary window: modal, on top, the key rule above ("Text", "Comb" and "Mate" move on,
-// any typed character marks the position as changed), a content area and a row of buttons beneath it.
+// Whether a character typed in a window marks the position as changed.
+enum class Tippen { aendertPosition, aendertNichts };
+
+// Base of every secondary window: modal, on top, the key rule above, a content area and a row of buttons
+// beneath it.
 class Fenster : public QDialog {
     Q_OBJECT
 
   public:
     // `name` is the object name, "Form4"; `titel` the caption as it stands.
     Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, const QString& name,
-            const QString& titel);
+            const QString& titel, Tippen tippen = Tippen::aendertPosition,
+            const QStringList& enterWeiter = {QStringLiteral("Text"), QStringLiteral("Comb"),
+                                              QStringLiteral("Mate")});
 
     static constexpr int raster = 8;  // px, the grid of all layouts
 
