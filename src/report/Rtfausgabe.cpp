@@ -38,9 +38,20 @@ char32_t naechstesZeichen(std::string_view& text) {
     return gueltig ? zeichen : ersatz;
 }
 
-// One UTF-16 unit as RTF writes it: a signed 16-bit number, and "?" for readers that know none.
+// A byte of Windows-1252 in hexadecimal.
+void haengeByteAn(std::string& rtf, unsigned char byte) {
+    constexpr std::string_view ziffern = "0123456789abcdef";
+    rtf += "\\'";
+    rtf += ziffern[byte >> 4U];
+    rtf += ziffern[byte & 0x0FU];
+}
+
+// One UTF-16 unit as RTF writes it: a signed 16-bit number, then one character for readers that know no
+// Unicode. That is written in hexadecimal because some readers drop the word behind a plain one.
 void haengeEinheitAn(std::string& rtf, char32_t einheit) {
-    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(static_cast<std::uint16_t>(einheit))) + "?";
+    const bool inLatin1 = einheit >= 0xA0 && einheit <= 0xFF;
+    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(static_cast<std::uint16_t>(einheit)));
+    haengeByteAn(rtf, inLatin1 ? static_cast<unsigned char>(einheit) : '?');
 }
 
 void haengeZeichenAn(std::string& rtf, char32_t zeichen) {
@@ -63,8 +74,18 @@ void haengeZeichenAn(std::string& rtf, char32_t zeichen) {
     }
 }
 
+// A blank at the start or behind another blank is written in hexadecimal: some readers join blanks.
 void haengeTextAn(std::string& rtf, std::string_view text) {
-    while (!text.empty()) haengeZeichenAn(rtf, naechstesZeichen(text));
+    char32_t voriges = U' ';
+    while (!text.empty()) {
+        const char32_t zeichen = naechstesZeichen(text);
+        if (zeichen == U' ' && voriges == U' ') {
+            haengeByteAn(rtf, ' ');
+        } else {
+            haengeZeichenAn(rtf, zeichen);
+        }
+        voriges = zeichen;
+    }
 }
 
 // The different values of a table in the order of their first use.
