@@ -113,7 +113,7 @@ const std::vector<Grenzfall> grenzfaelle{
     // tensile strength
     {3, 7, {}, fuk, 600, unter(600), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 600 N/mm²!"},
     {3, 6, {}, fuk, 400, unter(400), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 400 N/mm² "},
-    {7, 2, {}, fuk, 600, unter(600), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 600 N/mm²"},
+    {7, 2, {{d, 2}}, fuk, 600, unter(600), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 600 N/mm²"},
     {7, 3, {}, fuk, 800, unter(800), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 800 N/mm²"},
     {1, 5, {}, fuk, 400, unter(400), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 400 N/mm²"},
     {3, 8, {{d, 1.25}}, fuk, 950, unter(950), "Fließmoment zu klein! Laut DIN 18182-3 bei Durchmessern von 1,0 bis 1,25mm mindestens 950 N/mm²!"},
@@ -220,6 +220,16 @@ struct Wandfall {
     Eingabeort ort;
 };
 
+// Core of 60 mm, gypsum board on side 2, nails of side 1 that reach too far.
+void gipskartonInDuennerWand(Wand& w, double d2, int VMArt2) {
+    w.hRandrippe = 60;
+    w.ln[Seite::eins] = 70;
+    w.Material[Seite::zwei] = 3;
+    w.VMArt[Seite::zwei] = VMArt2;
+    w.d[Seite::zwei] = d2;
+    w.av[Seite::zwei] = 80;
+    w.fuk[Seite::zwei] = 950;
+}
 void dickeKronoply(Wand& w) {
     w.Wandlaenge = 1.25;
     w.Material = {{Ganzzahl{12}, Ganzzahl{12}}};
@@ -240,6 +250,8 @@ const std::vector<Wandfall> wandfaelle{
     {"wall shorter than a clear bay", [](Wand& w) { dickeKronoply(w); w.Rippenabstand = 1410; }, [](Wand& w) { dickeKronoply(w); w.Rippenabstand = 1410.001; },
      {"Wandlänge ist kleiner als Rippenabstand - 2 x b,Randrippe --> unzulässig!"}, Eingabeort::Abmessungen},
     {"wall shorter than panel 1", [](Wand& w) { w.Plattenbreite[seite1] = 5000; }, [](Wand& w) { w.Plattenbreite[seite1] = ueber(5000); },
+     {"Wandlänge ist kleiner Plattenbreite der Beplankung 1 --> unzulässig!"}, platte},
+    {"one-sided wall shorter than panel 1", [](Wand& w) { w.Einseitig = true; w.Plattenbreite[seite2] = 6000; }, [](Wand& w) { w.Einseitig = true; w.Plattenbreite[seite1] = 6000; },
      {"Wandlänge ist kleiner Plattenbreite der Beplankung 1 --> unzulässig!"}, platte},
     {"wall shorter than panel 2", [](Wand& w) { w.Plattenbreite[seite2] = 5000; }, [](Wand& w) { w.Plattenbreite[seite2] = ueber(5000); },
      {"Wandlänge ist kleiner Plattenbreite der Beplankung 2 --> unzulässig!"}, platte},
@@ -262,10 +274,14 @@ const std::vector<Wandfall> wandfaelle{
      {"Verhältnis b/h der Innenrippen darf bei einseitiger Beplankung maximal 4 sein!"}, Eingabeort::Rippen},
     // 50 x 15 = 750 mm, of side 2 on a one-sided wall too; a side of 2 mm switches the check off
     {"rib spacing", [](Wand& w) { w.Rippenabstand = 750; }, [](Wand& w) { w.Rippenabstand = ueber(750); }, {rippenabstand}, Eingabeort::Abmessungen},
+    {"rib spacing by side 1", [](Wand& w) { w.Rippenabstand = 750; w.t[seite2] = 20; }, [](Wand& w) { w.Rippenabstand = ueber(750); w.t[seite2] = 20; }, {rippenabstand}, Eingabeort::Abmessungen},
+    {"rib spacing, 2 mm on side 1", [](Wand& w) { w.Material[seite1] = 13; w.t[seite1] = 2; }, [](Wand& w) { w.Material[seite1] = 13; w.t[seite1] = ueber(2); }, {rippenabstand}, Eingabeort::Abmessungen},
     {"rib spacing by the hidden side", [](Wand& w) { w.Einseitig = true; w.t[seite2] = 2; }, [](Wand& w) { w.Einseitig = true; w.t[seite2] = ueber(2); }, {rippenabstand}, Eingabeort::Abmessungen},
     // core 60: 60 - (60 - 15) = 15 = 4 x 3.75; both sides are freed by one that is predrilled
     {"overlapping fasteners of side 2", [](Wand& w) { w.hRandrippe = 60; w.ln[seite2] = 60; w.d[seite2] = 3.75; w.av[seite2] = 80; }, [](Wand& w) { w.hRandrippe = 60; w.ln[seite2] = ueber(60); w.d[seite2] = 3.75; w.av[seite2] = 80; }, {uebergreifen}, Eingabeort::Verbindungsmittel},
     {"overlap freed by predrilling", [](Wand& w) { w.hRandrippe = 60; w.ln[seite1] = 70; w.Vorgebohrt[seite2] = true; }, [](Wand& w) { w.hRandrippe = 60; w.ln[seite1] = 70; }, {uebergreifen}, Eingabeort::Verbindungsmittel},
+    {"overlap freed by drywall screws on side 2", [](Wand& w) { gipskartonInDuennerWand(w, 4.0, 6); }, [](Wand& w) { gipskartonInDuennerWand(w, 4.0, 7); }, {uebergreifen}, Eingabeort::Verbindungsmittel},
+    {"overlap freed by drywall staples on side 2", [](Wand& w) { gipskartonInDuennerWand(w, 1.5, 8); }, [](Wand& w) { gipskartonInDuennerWand(w, 1.5, 7); }, {uebergreifen}, Eingabeort::Verbindungsmittel},
     {"overlap by the hidden side", [](Wand& w) { w.Einseitig = true; w.ln[seite2] = 160; }, [](Wand& w) { w.Einseitig = true; w.ln[seite2] = 170; }, {uebergreifen}, Eingabeort::Verbindungsmittel},
     {"fastener through the wall", [](Wand& w) { w.ln[seite2] = 175; w.Vorgebohrt[seite1] = true; }, [](Wand& w) { w.ln[seite2] = 176; w.Vorgebohrt[seite1] = true; },
      {"Beplankung 2: Die Länge l des VM ist größer als die Wanddicke + Beplankung 2! Bitte ändern!", "Beplankung 2: Verbindungsmittel zu lang!"}, Eingabeort::Verbindungsmittel},
@@ -274,6 +290,8 @@ const std::vector<Wandfall> wandfaelle{
      {"Beplankung 1: Länge der Klammer zu groß! Maximal 65*d!"}, Eingabeort::Verbindungsmittel},
     {"screws to approval have no test of the head at 4 mm", [](Wand& w) { w.VMArt[seite1] = 5; w.d[seite1] = 4; w.av[seite1] = 80; }, [](Wand& w) { w.VMArt[seite1] = 4; w.d[seite1] = 4; w.av[seite1] = 80; },
      {"Beplankung 1: " + std::string(kopf4)}, Eingabeort::Verbindungsmittel},
+    {"widely spaced screws", [](Wand& w) { w.VMArt[seite1] = 5; w.d[seite1] = 4; w.av[seite1] = 320; }, [](Wand& w) { w.VMArt[seite1] = 5; w.d[seite1] = 4; w.av[seite1] = 321; },
+     {"Beplankung 1: Verbindungsmittelabstand av zu groß! Darf bei Schrauben höchstens 80*d bzw. 200 mm betragen!"}, Eingabeort::Verbindungsmittel},
 };
 // clang-format on
 
@@ -353,11 +371,11 @@ TEST(Plausibilitaet, TheThreadCheckLeavesTheEffectiveLengthOfEachSide) {
     EXPECT_EQ(w.lef[seite2].value(), 35.0);  // ln - t = 50 - 15
 }
 
-// Nail of 4 mm in a core of 60 mm: 14 d = 56 passes; with the density 600 of a run before,
+// Nail of 4 mm in a core of just under 66 mm: 14 d = 56 passes; with the density 600 of a run before,
 // (13 x 4 - 30) x 600 / 200 = 66 does not. Predrilling lifts the rule.
 TEST(Plausibilitaet, TheRibDepthCheckUsesTheDensityOfTheLastRunAndTakesTheCapacity) {
     Wand w = neueWand();
-    w.hRandrippe = 60;
+    w.hRandrippe = unter(66);
     w.d[seite2] = 4;
     w.av[seite2] = 80;
     w.Rd = {{Feld{500}, Feld{600}}};
@@ -367,6 +385,9 @@ TEST(Plausibilitaet, TheRibDepthCheckUsesTheDensityOfTheLastRunAndTakesTheCapaci
     EXPECT_EQ(hinweise(w).size(), 1U);
     EXPECT_EQ(w.Rd[seite1].value(), 500.0);
     EXPECT_EQ(w.Rd[seite2].value(), 0.0);
+    w.hRandrippe = 66;
+    EXPECT_EQ(jeZeile(hinweise(w)), "");
+    w.hRandrippe = 60;
     w.Vorgebohrt[seite2] = true;
     EXPECT_EQ(jeZeile(hinweise(w)), "");
     w.ln[seite1] = 80;
