@@ -107,6 +107,9 @@ class Anweisungsleser {
         beende();
     }
 
+    // Whether all statements are read.
+    bool amEnde() const { return stelle_ >= text_.size(); }
+
     // The fields that kept their values so far, in the order of the statements.
     const std::vector<Uebersprungen>& uebersprungen() const { return uebersprungen_; }
     std::vector<Uebersprungen> uebersprungeneFelder() && { return std::move(uebersprungen_); }
