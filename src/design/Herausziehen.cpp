@@ -42,11 +42,12 @@ const Klassenzeile* klasse(const Wand& w) {
 
 // Parameters of one kind of fastener.
 struct Ausziehart {
-    double mindestens;   // least penetration as a multiple of d
-    Zahl f1k;            // N/mm²; failed: not assigned
-    Zahl kopfparameter;  // factor of f2k above 20 mm; failed: not assigned
-    Zahl kopfflaeche;    // dk², mm²
-    double duenn = 0;    // below this thickness no resistance, mm
+    double mindestens;         // least penetration as a multiple of d
+    Zahl f1k;                  // N/mm²; failed: not assigned
+    Zahl kopfparameter;        // factor of f2k above 20 mm; failed: not assigned
+    Zahl kopfflaeche;          // dk², mm²
+    double duenn = 0;          // below this thickness no resistance, mm
+    bool f1kErstAb12 = false;  // f1k is assigned only where the thickness asks for it
 };
 
 // The resistance of one shank by the thickness of the sheathing, N.
@@ -54,7 +55,7 @@ void widerstand(Wand& w, const Ausziehart& art) {
     const Zahl d = w.d[S1];
     const Zahl t = w.t[S1];
     const Zahl schwelle = art.mindestens * d;
-    w.f1k[S1] = art.f1k;
+    if (!art.f1kErstAb12) w.f1k[S1] = art.f1k;
     if (w.lef[S1] < schwelle || t < art.duenn) {
         w.Rxk[S1] = kein;
         return;
@@ -65,6 +66,7 @@ void widerstand(Wand& w, const Ausziehart& art) {
         w.Rxk[S1] = 400;
         return;
     }
+    w.f1k[S1] = art.f1k;
     // Meant: the head term has the fixed density 380 kg/m³.
     w.f2k[S1] = t <= 20 ? Zahl(8) : art.kopfparameter * 1e-6 * (380.0 * 380.0);
     w.Rxk[S1] = Min(w.f1k[S1] * d * w.lef[S1], w.f2k[S1] * art.kopfflaeche);
@@ -111,7 +113,8 @@ void ausziehwiderstand(Wand& w) {
         case Art::SchraubenMitZulassung: {
             w.lef[S1] = Min(einschlag, w.lg[S1]);
             const Zahl f1k = zeile != nullptr ? zeile->schrauben * 1e-6 * rho2 : Zahl::fehlgeschlagen();
-            widerstand(w, {4, f1k, kopfklasse, kopf2});
+            // Meant: thinner sheathing leaves f1k1 as it was.
+            widerstand(w, {4, f1k, kopfklasse, kopf2, 0, true});
             break;
         }
         default:
