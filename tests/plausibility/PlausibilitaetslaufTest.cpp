@@ -159,6 +159,8 @@ const std::vector<Grenzfall> grenzfaelle{
     {1, 1, {}, d, 11.4, 11.5, "Wegen Spaltgefahr des Holzes müssen die Rippen bei nicht vorgebohrten Nagelverb. eine Mindesthöhe nach DIN 1052(2008) 12.5.2 (13) aufweisen!", Eingabeort::Rippen},
     {1, 1, {{d, 3}}, av, 60, unter(60), "Verbindungsmittelabstand av zu klein! av muss mindestens 20*d sein!"},
     {1, 1, {{d, 2}}, av, 160, ueber(160), "Verbindungsmittelabstand av zu groß! Darf bei Nägeln und Klammern höchstens 80*d bzw. 150 mm betragen!"},
+    {1, 3, {{d, 2}}, av, 160, ueber(160), "Verbindungsmittelabstand av zu groß! Darf bei Nägeln und Klammern höchstens 80*d bzw. 150 mm betragen!"},
+    {3, 7, {{d, 2}}, av, 160, ueber(160), "Verbindungsmittelabstand av zu groß! Darf bei Nägeln und Klammern höchstens 80*d bzw. 150 mm betragen!"},
     {3, 8, {{d, 2}}, av, 160, ueber(160), "Verbindungsmittelabstand av zu groß! Darf bei Nägeln und Klammern höchstens 80*d bzw. 150 mm betragen!"},
     {3, 6, {{d, 4}}, av, 320, ueber(320), "Verbindungsmittelabstand av zu groß! Darf bei Schrauben höchstens 80*d bzw. 200 mm betragen!"},
     {1, 1, {}, lp, 625, unter(625), "Breite der Platte zu klein! Muß mindestens ein Viertel der Tafelhöhe sein!", platte},
@@ -266,7 +268,7 @@ const std::vector<Wandfall> wandfaelle{
     // 2.5 / 4 = 0.625 m; the joint silences the finding on the panel width, not the proportions
     {"jointed panel 1 narrower than a quarter of the height", [](Wand& w) { w.Gestossen[seite1] = true; w.Plattenbreite[seite1] = 625; }, [](Wand& w) { w.Gestossen[seite1] = true; w.Plattenbreite[seite1] = unter(625); },
      {imperfektionen, vereinfacht}, Eingabeort::Abmessungen},
-    {"jointed panel 2 narrower than a quarter of the height", [](Wand& w) { w.Einseitig = true; w.Plattenbreite[seite2] = 600; }, [](Wand& w) { w.Gestossen[seite2] = true; w.Plattenbreite[seite2] = 600; },
+    {"jointed panel 2 narrower than a quarter of the height", [](Wand& w) { w.Einseitig = true; w.Plattenbreite[seite2] = 600; }, [](Wand& w) { w.Gestossen[seite2] = true; w.Plattenbreite[seite2] = unter(625); },
      {imperfektionen, vereinfacht}, Eingabeort::Abmessungen},
     {"slender edge ribs, one-sided", [](Wand& w) { w.Einseitig = true; w.bRandrippe = 40; w.bInnenrippe = 40; }, [](Wand& w) { w.Einseitig = true; w.bRandrippe = unter(40); w.bInnenrippe = 30; },
      {"Verhältnis b/h der Randrippen darf bei einseitiger Beplankung maximal 4 sein!"}, Eingabeort::Rippen},
