@@ -26,7 +26,7 @@ std::optional<std::string> Berichtsbau::text(Teile teile) const {
 }
 
 void Berichtsbau::zeile(double abstand, Teile teile, Stil stil) {
-    neu(Textzeile{.stil = stil, .abstand = abstand, .grenze = {}, .text = text(teile), .ausnutzung = {}});
+    neu(Textzeile{.stil = stil, .abstand = abstand, .text = text(teile)});
 }
 
 void Berichtsbau::ueberschrift(Stil stil, std::string_view text, double abstand,
@@ -57,7 +57,6 @@ void Berichtsbau::ausnutzung(double abstand, std::string_view name, Zahl eta, Te
     if (!ende) ganz.reset();
     neu(Textzeile{.stil = Stil::text,
                   .abstand = abstand,
-                  .grenze = {},
                   .text = std::move(ganz),
                   .ausnutzung = Ausnutzung{std::string(name), eta.value(), erfuellt}});
 }
@@ -66,7 +65,6 @@ void Berichtsbau::urteil(double abstand, std::string_view name, Zahl eta, bool e
     const double anzeige = eta.failed() ? std::numeric_limits<double>::infinity() : eta.value();
     neu(Textzeile{.stil = Stil::text,
                   .abstand = abstand,
-                  .grenze = {},
                   .text = text(teile),
                   .ausnutzung = Ausnutzung{std::string(name), anzeige, erfuellt}});
 }

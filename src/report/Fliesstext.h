@@ -24,9 +24,9 @@ struct Textbild {
 
 // A paragraph: its runs, then its pictures.
 struct Absatz {
-    std::vector<Textlauf> laeufe;
-    std::vector<Textbild> bilder;
-    std::optional<Ausnutzung> ausnutzung;  // of a proof line
+    std::vector<Textlauf> laeufe{};
+    std::vector<Textbild> bilder{};
+    std::optional<Ausnutzung> ausnutzung{};  // of a proof line
 };
 
 using Fliesstext = std::vector<Absatz>;

@@ -49,12 +49,12 @@ class Seiten {
   private:
     void kopf() {
         if (Kopfzaehler_ < 2 && auftrag_.anlauf) auftrag_.anlauf();
-        druckeKopf(f_, auftrag_.kopf, seitenzahl(auftrag_, seite_));
+        druckeKopf(f_, auftrag_.einstellungen, seitenzahl(auftrag_, seite_));
     }
 
     // The number of the page is kept whether or not the foot line itself is switched on.
     void fuss() {
-        druckeFuss(f_, auftrag_.kopf, auftrag_.Projekt, auftrag_.Position);
+        druckeFuss(f_, auftrag_.einstellungen, auftrag_.Projekt, auftrag_.Position);
         const Seitenzaehlung& z = auftrag_.zaehlung;
         if (z.SeitenzahlDrucken && z.Suffix == 0) LetzteSeite_ = seite_ + z.Startseite - 1;
     }
@@ -115,7 +115,7 @@ class Seiten {
 std::string seitenzahl(const Druckauftrag& auftrag, int seite) {
     const Seitenzaehlung& z = auftrag.zaehlung;
     if (!z.SeitenzahlDrucken) return {};
-    const std::string wort = auftrag.kopf.BlattStattSeite ? "Blatt " : "Seite ";
+    const std::string wort = auftrag.einstellungen.BlattStattSeite ? "Blatt " : "Seite ";
     if (z.Suffix != 0) {
         return wort + std::to_string(z.Startseite) + "." + std::to_string(seite + z.Suffix - 1) + z.IndexText;
     }

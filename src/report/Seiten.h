@@ -18,7 +18,7 @@ struct Seitenzaehlung {
 };
 
 struct Druckauftrag {
-    Seitenkopf kopf;
+    Einstellungen einstellungen;  // head and foot
     Seitenzaehlung zaehlung;
     std::string Projekt;   // foot line
     std::string Position;  // foot line

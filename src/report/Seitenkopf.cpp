@@ -1,5 +1,7 @@
 #include "report/Seitenkopf.h"
 
+#include <string>
+
 namespace rippenscheibe {
 
 namespace {
@@ -35,36 +37,36 @@ Schrift kopfschrift(const std::string& name, bool fett, bool kursiv, bool unters
     return s;
 }
 
-void druckeKopftexte(Zeichenflaeche& f, const Seitenkopf& kopf, double x) {
-    if (kopf.ProgrammnameDrucken && kopf.Kopfvorlage != ohneKopf) f.text(x, 6, Programmzeile);
-    if (kopf.Kopfvorlage == vorgegeben) {
+void druckeKopftexte(Zeichenflaeche& f, const Einstellungen& e, double x) {
+    if (e.ProgrammnameDrucken && e.Kopfvorlage.value() != ohneKopf) f.text(x, 6, Programmzeile);
+    if (e.Kopfvorlage.value() == vorgegeben) {
         f.setzeSchrift({});
-        f.text(x, 12, Vorlagenzeile1);
-        f.text(x, 17, Vorlagenzeile2);
+        f.text(x, 12, kopfzeile1Vorlage0);
+        f.text(x, 17, kopfzeile2Vorlage0);
         return;
     }
     // The room of the program's name is kept free in the template without head too.
-    f.setzeSchrift(kopfschrift(kopf.Kopf1Schrift, kopf.Kopf1Fett, kopf.Kopf1Kursiv, kopf.Kopf1Unterstrichen));
-    f.text(x, kopf.ProgrammnameDrucken ? 12 : 6, kopf.Kopfzeile1);
-    f.setzeSchrift(kopfschrift(kopf.Kopf2Schrift, kopf.Kopf2Fett, kopf.Kopf2Kursiv, kopf.Kopf2Unterstrichen));
-    f.text(x, kopf.ProgrammnameDrucken ? 17 : 11, kopf.Kopfzeile2);
+    f.setzeSchrift(kopfschrift(e.Kopf1Schrift, e.Kopf1Fett, e.Kopf1Kursiv, e.Kopf1Unterstrichen));
+    f.text(x, e.ProgrammnameDrucken ? 12 : 6, e.Kopfzeile1);
+    f.setzeSchrift(kopfschrift(e.Kopf2Schrift, e.Kopf2Fett, e.Kopf2Kursiv, e.Kopf2Unterstrichen));
+    f.text(x, e.ProgrammnameDrucken ? 17 : 11, e.Kopfzeile2);
 }
 
 }  // namespace
 
-void druckeKopf(Zeichenflaeche& f, const Seitenkopf& kopf, std::string_view seitenzahl) {
-    druckeRahmen(f, kopf.Kopfvorlage);
+void druckeKopf(Zeichenflaeche& f, const Einstellungen& e, std::string_view seitenzahl) {
+    druckeRahmen(f, e.Kopfvorlage.value());
     f.setzeSchrift({.fett = true});
-    if (kopf.LogoDrucken) f.bild(Bild::logo, {23, 6, 15, 15});
-    druckeKopftexte(f, kopf, kopf.LogoDrucken ? 40 : 24);
+    if (e.LogoDrucken) f.bild(Bild::logo, {23, 6, 15, 15});
+    druckeKopftexte(f, e, e.LogoDrucken ? 40 : 24);
     f.setzeSchrift({});
     if (!seitenzahl.empty()) f.text(170, 6, seitenzahl);
     f.setzeStrich(punkte(1));
 }
 
-void druckeFuss(Zeichenflaeche& f, const Seitenkopf& kopf, std::string_view projekt,
+void druckeFuss(Zeichenflaeche& f, const Einstellungen& e, std::string_view projekt,
                 std::string_view position) {
-    if (!kopf.FusszeileDrucken) return;
+    if (!e.FusszeileDrucken) return;
     f.setzeStrich(punkte(5));
     f.rahmen(zwischen(20, 274, 195, 280), Farbe::schwarz);
     f.setzeSchrift({.groesse = 8, .fett = true});

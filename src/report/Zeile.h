@@ -85,9 +85,9 @@ struct Ausnutzung {
 struct Textzeile {
     Stil stil = Stil::text;
     double abstand = 0.0;
-    std::optional<double> grenze;
-    std::optional<std::string> text;
-    std::optional<Ausnutzung> ausnutzung;
+    std::optional<double> grenze{};
+    std::optional<std::string> text{};
+    std::optional<Ausnutzung> ausnutzung{};
 };
 
 // A picture at x and at the cursor plus `versatz`.
