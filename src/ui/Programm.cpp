@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QPrinter>
 #include <QStandardPaths>
 #include <utility>
 
@@ -13,6 +14,26 @@ Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {
     setzeVorgaben(w);
     felder = grundmasse(w);
+}
+
+Programm::~Programm() = default;
+
+void Programm::ladeEinstellungen() {
+    liesEinstellungen(datei(einstellungsdatei), einstellungen);
+    projekte = liesProjektliste(datei(projektlistendatei));
+    projekteGelesen_ = projekte;
+    w.Projekt = projekte.Projekt;
+    DialogOrdner = qtext(einstellungen.StandardPfad);
+}
+
+std::optional<Dateifehler> Programm::sichereProjekte() {
+    projekte.Projekt = w.Projekt;
+    return rippenscheibe::sichereProjektliste(datei(projektlistendatei), projekte, projekteGelesen_);
+}
+
+QPrinter& Programm::drucker() {
+    if (drucker_ == nullptr) drucker_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *drucker_;
 }
 
 void Programm::setzeGesichert(bool gesichert) {
@@ -29,6 +50,18 @@ void Programm::setzeTitel(const QString& titel) {
 void Programm::zuweisen() {
     rippenscheibe::zuweisen(w, felder);
     Q_EMIT geaendert();
+}
+
+void Programm::einstellungenLaden() {
+    liesEinstellungen(datei(einstellungsdatei), einstellungen);
+    projekte = liesProjektliste(datei(projektlistendatei));
+    gelesen_ = projekte;
+    w.Projekt = projekte.Projekt;
+}
+
+std::optional<Dateifehler> Programm::projekteSichern() {
+    projekte.Projekt = w.Projekt;
+    return sichereProjektliste(datei(projektlistendatei), projekte, gelesen_);
 }
 
 std::filesystem::path programmordner() {

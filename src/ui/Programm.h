@@ -3,11 +3,19 @@
 #include <QObject>
 #include <QString>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "model/Einstellungen.h"
+#include "model/Projektliste.h"
 #include "model/Wand.h"
 #include "run/Zuweisen.h"
+
+class QWidget;
+
+class QPrinter;
 
 namespace rippenscheibe {
 
@@ -22,17 +30,31 @@ class Programm : public QObject {
   public:
     // `ordner` is the program's folder: all small files live there.
     explicit Programm(std::filesystem::path ordner, QObject* parent = nullptr);
+    ~Programm() override;
 
     Wand w;
     Grundmasse felder;
 
     std::filesystem::path ordner;
+    Einstellungen einstellungen;
+    Projektliste projekte;
+    int AktuellesProjekt = 1;  // counts from 1
+
     std::string Dateiname;                    // full path of the open position file, "" for a new one
     bool Sperre = false;                      // no Zuweisen on a change of the three fields
     bool SpeichernUnter = false;              // leaving the project dialog saves the position
     Dateiaktion Aktion = Dateiaktion::keine;  // the pending file action
     QString DialogDateiname;                  // the file name that the file dialog holds
     QString DialogOrdner;                     // its initial folder
+
+    // Reads settings and project list from the program's folder; what is missing keeps its default. The
+    // project of the list becomes the project of the position.
+    void ladeEinstellungen();
+    // Writes the project list, with what another running program added to it meanwhile.
+    [[nodiscard]] std::optional<Dateifehler> sichereProjekte();
+
+    // The printer that the printer setup and the print window share; made on first use.
+    QPrinter& drucker();
 
     bool Gesichert() const { return gesichert_; }  // nothing changed since the last save
     void setzeGesichert(bool gesichert);
@@ -53,6 +75,9 @@ class Programm : public QObject {
   private:
     bool gesichert_ = true;
     QString titel_;
+    Projektliste projekteGelesen_;  // as they were in the file
+    std::unique_ptr<QPrinter> drucker_;
+    Projektliste gelesen_;  // the project list as this program read it
 };
 
 // The folder of the executable where it can be written (portable use), else the user's data folder of the
