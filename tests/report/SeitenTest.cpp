@@ -14,6 +14,7 @@ using Art = Aufzeichnung::Art;
 Druckauftrag auftrag() {
     Druckauftrag a;
     a.einstellungen.Kopfvorlage = 2;
+    a.einstellungen.Kopfzeile1 = a.einstellungen.Kopfzeile2 = "Kopf";
     a.zaehlung = {.SeitenzahlDrucken = true, .Startseite = 1, .Suffix = 0, .IndexText = ""};
     return a;
 }
