@@ -1,0 +1,56 @@
+#pragma once
+
+#include "fasteners/Grundlagen.h"
+#include "fasteners/Verteiler.h"
+
+namespace rippenscheibe::pruefung {
+
+// One fastener in its sheathing, the same on both sides; lengths in mm, fuk in N/mm².
+struct Mittel {
+    Art art = Art::naegel;
+    int material = 1;
+    double t = 15;
+    double d = 2.7;
+    double ln = 50;
+    double fuk = 600;
+    double dk = 6;
+    double lg = 25;
+};
+
+inline void setze(Wand& w, Seite n, const Mittel& m) {
+    w.VMArt[n] = static_cast<int>(m.art);
+    w.Material[n] = m.material;
+    w.d[n] = m.d;
+    w.ln[n] = m.ln;
+    w.fuk[n] = m.fuk;
+    w.t[n] = m.t;
+    w.dk[n] = m.dk;
+    w.lg[n] = m.lg;
+    if (n == Seite::eins) w.Plattendicke1 = m.t;
+    if (n == Seite::zwei) w.Plattendicke2 = m.t;
+}
+
+// A wall with this fastener on both sides in timber C24 and kmod = 0.9. Its spacing is 0, so that no proof
+// runs after the capacity. The own materials differ in column 7 alone: row 1 has 1, and so on to row 5.
+inline Wand wand(const Mittel& m, Verfahren verfahren) {
+    Wand w;
+    w.rhok = 350;
+    w.GenauesVerfahren = verfahren == Verfahren::vereinfacht ? 1 : 2;
+    for (const Seite n : beideSeiten) {
+        setze(w, n, m);
+        w.av[n] = 0;
+        w.kmodVM[n] = 0.9;
+        w.rhokBeplankung[n] = 600;
+        w.EigenesMaterial[n] = 5;
+    }
+    for (int formel = 1; formel <= 5; ++formel) {
+        EigeneMaterialien::Zeile zeile;
+        zeile.zellen[6].wert = 6;
+        zeile.zellen[7].wert = formel;
+        zeile.zellen[20].wert = 33.3;
+        w.eigeneMaterialien.zeilen.push_back(zeile);
+    }
+    return w;
+}
+
+}  // namespace rippenscheibe::pruefung
