@@ -5,6 +5,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QStandardPaths>
 
 namespace rippenscheibe {
 
@@ -51,7 +53,9 @@ Antwort antwort(int schaltflaeche) {
 
 std::optional<QString> waehle(QFileDialog& dialog, const Dateiwahl& wahl) {
     dialog.setObjectName(QStringLiteral("CmDialog1"));
-    if (!wahl.ordner.isEmpty() && QFileInfo(wahl.ordner).isDir()) dialog.setDirectory(wahl.ordner);
+    const bool vorhanden = !wahl.ordner.isEmpty() && QFileInfo(wahl.ordner).isDir();
+    dialog.setDirectory(vorhanden ? wahl.ordner
+                                  : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog.setNameFilters(wahl.filter.split(QStringLiteral(";;")));
     dialog.setDefaultSuffix(wahl.endung);
     if (!wahl.vorschlag.isEmpty()) dialog.selectFile(wahl.vorschlag);
@@ -79,6 +83,10 @@ std::optional<QString> Plattformmeldungen::sichern(QWidget* fenster, const Datei
     QFileDialog dialog(fenster, wahl.titel);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     return waehle(dialog, wahl);
+}
+
+void Plattformmeldungen::richteDruckerEin(QWidget* fenster, QPrinter& drucker) {
+    QPageSetupDialog(&drucker, fenster).exec();
 }
 
 void Plattformmeldungen::piep() { QApplication::beep(); }

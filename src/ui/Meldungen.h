@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <optional>
 
+class QPrinter;
 class QWidget;
 
 namespace rippenscheibe {
@@ -41,6 +42,8 @@ class Meldungen {
     virtual std::optional<QString> oeffnen(QWidget* fenster, const Dateiwahl& wahl) = 0;
     // The chosen file to write, confirmed where it exists, or nothing after a cancel.
     virtual std::optional<QString> sichern(QWidget* fenster, const Dateiwahl& wahl) = 0;
+    // Lets the user choose the printer and its paper.
+    virtual void richteDruckerEin(QWidget* fenster, QPrinter& drucker) = 0;
     virtual void piep() = 0;
 
     void kritisch(QWidget* fenster, const QString& titel, const QString& text) {
@@ -57,6 +60,7 @@ class Plattformmeldungen : public Meldungen {
     Antwort zeige(QWidget* fenster, const Meldung& meldung) override;
     std::optional<QString> oeffnen(QWidget* fenster, const Dateiwahl& wahl) override;
     std::optional<QString> sichern(QWidget* fenster, const Dateiwahl& wahl) override;
+    void richteDruckerEin(QWidget* fenster, QPrinter& drucker) override;
     void piep() override;
 };
 

@@ -52,18 +52,6 @@ void Programm::zuweisen() {
     Q_EMIT geaendert();
 }
 
-void Programm::einstellungenLaden() {
-    liesEinstellungen(datei(einstellungsdatei), einstellungen);
-    projekte = liesProjektliste(datei(projektlistendatei));
-    gelesen_ = projekte;
-    w.Projekt = projekte.Projekt;
-}
-
-std::optional<Dateifehler> Programm::projekteSichern() {
-    projekte.Projekt = w.Projekt;
-    return sichereProjektliste(datei(projektlistendatei), projekte, gelesen_);
-}
-
 std::filesystem::path programmordner() {
     const QFileInfo neben(QCoreApplication::applicationDirPath());
     if (neben.isWritable()) return pfad(neben.absoluteFilePath());

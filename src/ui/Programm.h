@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <filesystem>
-#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,8 +12,6 @@
 #include "model/Projektliste.h"
 #include "model/Wand.h"
 #include "run/Zuweisen.h"
-
-class QWidget;
 
 class QPrinter;
 
@@ -38,8 +36,8 @@ class Programm : public QObject {
     std::filesystem::path ordner;
     Einstellungen einstellungen;
     Projektliste projekte;
-    int AktuellesProjekt = 1;  // counts from 1
 
+    std::string Positionspfad;                // folder of the position file, from the project data
     std::string Dateiname;                    // full path of the open position file, "" for a new one
     bool Sperre = false;                      // no Zuweisen on a change of the three fields
     bool SpeichernUnter = false;              // leaving the project dialog saves the position
@@ -69,15 +67,15 @@ class Programm : public QObject {
     std::filesystem::path datei(std::string_view name) const { return ordner / name; }
 
   Q_SIGNALS:
-    void geaendert();         // the record changed
-    void zustandGeaendert();  // Gesichert, Dateiname or the caption changed
+    void geaendert();                         // the record changed
+    void zustandGeaendert();                  // Gesichert, Dateiname or the caption changed
+    void dateiBenutzt(const QString& datei);  // a dialog saved the position under this name
 
   private:
     bool gesichert_ = true;
     QString titel_;
     Projektliste projekteGelesen_;  // as they were in the file
     std::unique_ptr<QPrinter> drucker_;
-    Projektliste gelesen_;  // the project list as this program read it
 };
 
 // The folder of the executable where it can be written (portable use), else the user's data folder of the

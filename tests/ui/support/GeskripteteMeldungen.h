@@ -17,6 +17,7 @@ class GeskripteteMeldungen : public Meldungen {
     std::vector<Meldung> gezeigt;
     std::vector<Dateiwahl> gewaehlt;
     int gepiept = 0;
+    int druckerEingerichtet = 0;
 
     Antwort zeige(QWidget*, const Meldung& meldung) override {
         gezeigt.push_back(meldung);
@@ -27,6 +28,7 @@ class GeskripteteMeldungen : public Meldungen {
     }
     std::optional<QString> oeffnen(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
     std::optional<QString> sichern(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
+    void richteDruckerEin(QWidget*, QPrinter&) override { ++druckerEingerichtet; }
     void piep() override { ++gepiept; }
 
   private:
