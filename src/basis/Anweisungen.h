@@ -59,7 +59,9 @@ template <class T>
 void anfuegen(std::string& text, Gespeichert<T> wert) {
     anfuegen(text, wert.value());
 }
+// The value as a statement holds it.
 template <class T>
+requires requires(std::string& text, const T& wert) { anfuegen(text, wert); }
 std::string schreibweise(const T& wert) {
     std::string text;
     anfuegen(text, wert);
