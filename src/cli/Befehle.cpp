@@ -1,0 +1,210 @@
+#include "cli/Befehle.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "basis/Anweisungen.h"
+#include "basis/Dateischreiber.h"
+#include "basis/Zeichensatz.h"
+#include "cli/Feldwerte.h"
+#include "model/EigeneMaterialienDatei.h"
+#include "model/Positionsdatei.h"
+#include "plausibility/Plausibilitaetslauf.h"
+#include "report/Rtfausgabe.h"
+#include "report/Textausgabe.h"
+#include "run/Zuweisen.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+Rueckgabe hoehere(Rueckgabe a, Rueckgabe b) { return std::max(a, b); }
+
+// Carries out one command over all its files.
+class Arbeit {
+  public:
+    Arbeit(const Auftrag& auftrag, const fs::path& programmordner, const Ausgaben& ausgaben)
+        : auftrag_(auftrag), programmordner_(programmordner), ausgaben_(ausgaben) {}
+
+    Rueckgabe rechne() {
+        if (!ladeMaterialien()) return Rueckgabe::dateifehler;
+        Rueckgabe rueckgabe = Rueckgabe::erfuellt;
+        auto wand = frischeWand();
+        for (const fs::path& datei : auftrag_.dateien) {
+            if (auftrag_.zustand == Zustand::jeDatei) wand = frischeWand();
+            rueckgabe = hoehere(rueckgabe, rechneDatei(datei, *wand));
+        }
+        if (auftrag_.ausgabe == Ausgabeart::rtf && !berichte_.empty()) gibAus(alsRtf(berichte_));
+        return hoehere(rueckgabe, schreibeZieldatei());
+    }
+
+    Rueckgabe pruefe() {
+        if (!ladeMaterialien()) return Rueckgabe::dateifehler;
+        Rueckgabe rueckgabe = Rueckgabe::erfuellt;
+        for (const fs::path& datei : auftrag_.dateien) {
+            const auto wand = frischeWand();
+            rueckgabe = hoehere(rueckgabe, pruefeDatei(datei, *wand));
+        }
+        return rueckgabe;
+    }
+
+    Rueckgabe neu() {
+        const auto wand = frischeWand();
+        gibAus(kodiert(positionstext(*wand)));
+        return schreibeZieldatei();
+    }
+
+    Rueckgabe uebertrage() {
+        const auto wand = frischeWand();
+        if (!lade(auftrag_.dateien.front(), *wand)) return Rueckgabe::dateifehler;
+        gibAus(kodiert(positionstext(*wand)));
+        return schreibeZieldatei();
+    }
+
+    Rueckgabe felder() {
+        gibAus(auftrag_.ausgabe == Ausgabeart::json ? feldverzeichnisJson() : feldverzeichnisText());
+        return schreibeZieldatei();
+    }
+
+  private:
+    Rueckgabe rechneDatei(const fs::path& datei, Wand& w) {
+        const std::optional<Grundmasse> felder = lade(datei, w);
+        if (!felder) return Rueckgabe::dateifehler;
+        Laufergebnis ergebnis = Laufergebnis::hinweise;
+        for (int lauf = 0; lauf < auftrag_.laeufe; ++lauf) {
+            zuweisen(w, *felder);
+            ergebnis = starte(w, auftrag_.hinweise);
+        }
+        const bool gerechnet = ergebnis == Laufergebnis::gerechnet;
+        meldeErgebnis(datei, w, gerechnet);
+        gibErgebnisAus(datei, w, gerechnet);
+        if (!w.Hinweise.empty()) return Rueckgabe::hinweise;
+        return w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
+    }
+
+    Rueckgabe pruefeDatei(const fs::path& datei, Wand& w) {
+        if (!lade(datei, w)) return Rueckgabe::dateifehler;
+        plausibilitaetslauf(w);
+        std::string text;
+        for (const std::string& hinweis : w.Hinweise) text += datei.string() + ": " + hinweis + "\n";
+        gibAus(w.Hinweise.empty() ? datei.string() + ": keine Hinweise\n" : text);
+        return w.Hinweise.empty() ? Rueckgabe::erfuellt : Rueckgabe::hinweise;
+    }
+
+    // Opens a position as the window program does; the three fields of its main window come back. Nothing
+    // when the file cannot be opened: it is reported and the record is untouched.
+    std::optional<Grundmasse> lade(const fs::path& datei, Wand& w) const {
+        if (!istPositionsdatei(datei.string())) {
+            melde(datei, std::string(falscheEndung));
+            return std::nullopt;
+        }
+        const Dateiinhalt inhalt = liesDatei(datei);
+        if (inhalt.fehler) {
+            ausgaben_.meldungen(inhalt.fehler->text + "\n");
+            return std::nullopt;
+        }
+        for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), w)) {
+            melde(datei, beschreibung(feld));
+        }
+        const Grundmasse felder = grundmasse(w);
+        zuweisen(w, felder);
+        return felder;
+    }
+
+    void meldeErgebnis(const fs::path& datei, const Wand& w, bool gerechnet) const {
+        if (!gerechnet) {
+            melde(datei, "Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!");
+        }
+        for (const std::string& hinweis : w.Hinweise) melde(datei, hinweis);
+        if (gerechnet && !w.AlleNachweiseErfuellt) {
+            melde(datei, "Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! ");
+        }
+    }
+
+    void gibErgebnisAus(const fs::path& datei, const Wand& w, bool gerechnet) {
+        if (auftrag_.ausgabe == Ausgabeart::json) {
+            gibAus(jsonZeile(datei.string(), w, gerechnet));
+            return;
+        }
+        if (!gerechnet) return;
+        Berichtsoptionen optionen;
+        optionen.dezimalzeichen = auftrag_.dezimalzeichen;
+        Fliesstext text = fliesstext(bericht(w, auftrag_.form, optionen));
+        if (auftrag_.ausgabe == Ausgabeart::text) {
+            gibAus(alsText(text));
+        } else {
+            std::move(text.begin(), text.end(), std::back_inserter(berichte_));
+        }
+    }
+
+    void melde(const fs::path& datei, const std::string& text) const {
+        ausgaben_.meldungen(datei.string() + ": " + text + "\n");
+    }
+
+    void gibAus(std::string_view text) {
+        if (auftrag_.nach) {
+            zieldatei_ += text;
+        } else {
+            ausgaben_.standard(text);
+        }
+    }
+
+    Rueckgabe schreibeZieldatei() const {
+        if (!auftrag_.nach) return Rueckgabe::erfuellt;
+        const std::optional<Dateifehler> fehler = schreibeDauerhaft(*auftrag_.nach, zieldatei_);
+        if (!fehler) return Rueckgabe::erfuellt;
+        ausgaben_.meldungen(fehler->text + "\n");
+        return Rueckgabe::dateifehler;
+    }
+
+    // Own materials that the command names have to be there; those of the program's folder need not.
+    bool ladeMaterialien() {
+        const Dateiinhalt inhalt = liesDatei(auftrag_.material.value_or(programmordner_ / materialdatei));
+        if (inhalt.fehler && auftrag_.material) {
+            ausgaben_.meldungen(inhalt.fehler->text + "\n");
+            return false;
+        }
+        materialien_ = eigeneMaterialienAus(dekodiert(inhalt.bytes));
+        return true;
+    }
+
+    // The record as at program start.
+    std::unique_ptr<Wand> frischeWand() const {
+        auto wand = std::make_unique<Wand>();
+        wand->eigeneMaterialien = materialien_;
+        return wand;
+    }
+
+    const Auftrag& auftrag_;
+    const fs::path& programmordner_;
+    const Ausgaben& ausgaben_;
+    EigeneMaterialien materialien_;
+    std::string zieldatei_;
+    Fliesstext berichte_;
+};
+
+}  // namespace
+
+Rueckgabe fuehreAus(const Auftrag& auftrag, const fs::path& programmordner, const Ausgaben& ausgaben) {
+    Arbeit arbeit(auftrag, programmordner, ausgaben);
+    switch (auftrag.befehl) {
+        case Befehl::rechne:
+            return arbeit.rechne();
+        case Befehl::pruefe:
+            return arbeit.pruefe();
+        case Befehl::neu:
+            return arbeit.neu();
+        case Befehl::uebertrage:
+            return arbeit.uebertrage();
+        case Befehl::felder:
+            return arbeit.felder();
+    }
+    return Rueckgabe::aufruf;
+}
+
+}  // namespace rippenscheibe

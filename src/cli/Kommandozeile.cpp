@@ -1,0 +1,188 @@
+#include "cli/Kommandozeile.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr std::string_view rueckgabewerte =
+    "Rückgabewert: 0 alle Nachweise erfüllt, 1 ein Nachweis nicht erfüllt, 2 Hinweise, 3 Datei fehlt oder\n"
+    "ist nicht lesbar oder nicht schreibbar, 64 falscher Aufruf; bei mehreren Dateien der höchste.";
+
+// The word of an option and what it stands for.
+template <class T>
+struct Wort {
+    std::string_view wort;
+    T wert;
+};
+
+constexpr std::array<Wort<Ausgabeart>, 3> ausgabearten{
+    {{"text", Ausgabeart::text}, {"rtf", Ausgabeart::rtf}, {"json", Ausgabeart::json}}};
+constexpr std::array<Wort<Ausgabeart>, 2> feldausgabearten{
+    {{"text", Ausgabeart::text}, {"json", Ausgabeart::json}}};
+constexpr std::array<Wort<Form>, 3> formen{
+    {{"ansicht", Form::ansicht}, {"lang", Form::lang}, {"kurz", Form::kurz}}};
+constexpr std::array<Wort<char>, 2> dezimalzeichen{{{"komma", ','}, {"punkt", '.'}}};
+
+template <class T, std::size_t N>
+std::string aufzaehlung(const std::array<Wort<T>, N>& woerter) {
+    std::string text;
+    for (std::size_t i = 0; i < N; ++i) {
+        if (i > 0) text += "|";
+        text += woerter[i].wort;
+    }
+    return text;
+}
+
+[[noreturn]] void weiseZurueck(const std::string& option, const std::string& wert,
+                               const std::string& erlaubt) {
+    throw CLI::ValidationError(option, "\"" + wert + "\" geht nicht, möglich: " + erlaubt);
+}
+
+template <class T, std::size_t N>
+void fuegeWahlHinzu(CLI::App& befehl, const std::string& option, const std::array<Wort<T>, N>& woerter,
+                    T& ziel, const std::string& erklaerung) {
+    const std::string erlaubt = aufzaehlung(woerter);
+    befehl
+        .add_option_function<std::string>(
+            option,
+            [&woerter, &ziel, option, erlaubt](const std::string& wert) {
+                const auto treffer = std::find_if(woerter.begin(), woerter.end(),
+                                                  [&](const Wort<T>& w) { return w.wort == wert; });
+                if (treffer == woerter.end()) weiseZurueck(option, wert, erlaubt);
+                ziel = treffer->wert;
+            },
+            erklaerung)
+        ->option_text(erlaubt);
+}
+
+void fuegeLaeufeHinzu(CLI::App& befehl, int& laeufe) {
+    befehl
+        .add_option_function<std::string>(
+            "--laeufe",
+            [&laeufe](const std::string& wert) {
+                int zahl = 0;
+                const char* const ende = wert.data() + wert.size();
+                const auto [stelle, fehler] = std::from_chars(wert.data(), ende, zahl);
+                if (fehler != std::errc{} || stelle != ende || zahl < 1) {
+                    weiseZurueck("--laeufe", wert, "eine ganze Zahl ab 1");
+                }
+                laeufe = zahl;
+            },
+            "so viele Läufe im selben Zustand, als würde so oft gestartet (sonst 1)")
+        ->option_text("N");
+}
+
+CLI::Option* fuegeDateiHinzu(CLI::App& befehl, const std::string& option,
+                             std::optional<std::filesystem::path>& ziel, const std::string& erklaerung) {
+    return befehl
+        .add_option_function<std::string>(
+            option, [&ziel](const std::string& wert) { ziel = wert; }, erklaerung)
+        ->option_text("DATEI");
+}
+
+void fuegeDateienHinzu(CLI::App& befehl, std::vector<std::filesystem::path>& dateien, bool mehrere) {
+    CLI::Option* const option = befehl.add_option_function<std::vector<std::string>>(
+        "DATEI",
+        [&dateien](const std::vector<std::string>& werte) { dateien.assign(werte.begin(), werte.end()); },
+        mehrere ? "Positionsdateien (.rsw)" : "Positionsdatei (.rsw)");
+    option->required()->option_text(mehrere ? "..." : " ");
+    if (!mehrere) option->expected(1);
+}
+
+// What CLI11 complains about, in German. Its texts begin with the name of the option.
+std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app) {
+    const std::string text = fehler.what();
+    const std::string option = text.substr(0, text.find_first_of(": "));
+    std::string unbekannt;
+    for (const std::string& angabe : app.remaining(true)) unbekannt += " " + angabe;
+    if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
+        if (!app.get_subcommands().empty()) return "Es fehlt eine Angabe: " + option + ".";
+        return unbekannt.empty() ? "Es fehlt ein Befehl." : "Unbekannter Befehl:" + unbekannt;
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&fehler) != nullptr) {
+        return text.find("At Most") != std::string::npos ? option + " darf nur einmal stehen."
+                                                         : option + " fehlt der Wert.";
+    }
+    if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) return "Unbekannte Angabe:" + unbekannt;
+    return text;
+}
+
+}  // namespace
+
+std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> angaben) {
+    Auftrag auftrag;
+    CLI::App app("Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)", "rippenscheibe-cli");
+    app.set_help_flag("-h,--help", "diese Hilfe");
+    app.set_version_flag("--version", "rippenscheibe-cli " RIPPENSCHEIBE_VERSION, "Version");
+    app.footer("Hilfe zu einem Befehl: rippenscheibe-cli BEFEHL --help\n\n" + std::string(rueckgabewerte));
+    app.get_formatter()->label("Usage", "Aufruf");
+    app.get_formatter()->label("OPTIONS", "Optionen");
+    app.get_formatter()->label("SUBCOMMAND", "BEFEHL");
+    app.get_formatter()->label("Positionals", "Angaben");
+    app.option_defaults()->group("Optionen");
+    app.get_help_ptr()->group("Optionen");
+    app.get_version_ptr()->group("Optionen");
+    app.require_subcommand(1);
+
+    const auto befehl = [&](const std::string& name, const std::string& erklaerung,
+                            Befehl welcher) -> CLI::App& {
+        CLI::App* const neu = app.add_subcommand(name, erklaerung)->group("Befehle");
+        neu->footer("");
+        neu->get_help_ptr()->group("Optionen");
+        neu->callback([&auftrag, welcher] { auftrag.befehl = welcher; });
+        return *neu;
+    };
+
+    CLI::App& rechne = befehl("rechne", "bemisst Wände und gibt den Bericht aus", Befehl::rechne);
+    fuegeDateienHinzu(rechne, auftrag.dateien, true);
+    fuegeWahlHinzu(rechne, "--ausgabe", ausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
+    fuegeWahlHinzu(rechne, "--form", formen, auftrag.form, "Form von Text und RTF (sonst ansicht)");
+    fuegeDateiHinzu(rechne, "--material", auftrag.material,
+                    "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
+    fuegeLaeufeHinzu(rechne, auftrag.laeufe);
+    rechne.add_flag_callback(
+        "--sitzung", [&] { auftrag.zustand = Zustand::gemeinsam; },
+        "alle Dateien nacheinander in einem Zustand, wie im Fensterprogramm");
+    rechne.add_flag_callback(
+        "--trotz-hinweisen", [&] { auftrag.hinweise = Hinweisbehandlung::uebergehen; },
+        "trotz Hinweisen rechnen");
+    fuegeWahlHinzu(rechne, "--dezimal", dezimalzeichen, auftrag.dezimalzeichen,
+                   "Dezimalzeichen der Berichte (sonst komma)");
+    fuegeDateiHinzu(rechne, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+
+    CLI::App& pruefe = befehl("pruefe", "gibt nur die Hinweise aus", Befehl::pruefe);
+    fuegeDateienHinzu(pruefe, auftrag.dateien, true);
+    fuegeDateiHinzu(pruefe, "--material", auftrag.material,
+                    "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
+
+    CLI::App& neu = befehl("neu", "schreibt eine Position mit allen Vorgaben", Befehl::neu);
+    fuegeDateiHinzu(neu, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+
+    CLI::App& uebertrage =
+        befehl("uebertrage", "liest eine Position und schreibt sie wieder", Befehl::uebertrage);
+    fuegeDateienHinzu(uebertrage, auftrag.dateien, false);
+    fuegeDateiHinzu(uebertrage, "-o", auftrag.nach, "dorthin schreiben")->required();
+
+    CLI::App& felder = befehl("felder", "gibt das Verzeichnis aller Felder aus", Befehl::felder);
+    fuegeWahlHinzu(felder, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
+
+    try {
+        app.parse(std::vector<std::string>(angaben.rbegin(), angaben.rend()));
+    } catch (const CLI::CallForHelp&) {
+        return Auskunft{app.help(), Rueckgabe::erfuellt};
+    } catch (const CLI::CallForVersion& version) {
+        return Auskunft{version.what() + std::string("\n"), Rueckgabe::erfuellt};
+    } catch (const CLI::ParseError& fehler) {
+        return Auskunft{aufDeutsch(fehler, app) + "\nHilfe: rippenscheibe-cli --help\n", Rueckgabe::aufruf};
+    }
+    return auftrag;
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "report/Bericht.h"
+#include "run/Berechnungslauf.h"
+
+namespace rippenscheibe {
+
+// What the program tells its caller; with several files the highest.
+enum class Rueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
+
+enum class Befehl { rechne, pruefe, neu, uebertrage, felder };
+enum class Ausgabeart { text, rtf, json };
+enum class Zustand { jeDatei, gemeinsam };  // a fresh position for each file, or one for all
+
+// A command with its options.
+struct Auftrag {
+    Befehl befehl = Befehl::rechne;
+    std::vector<std::filesystem::path> dateien;
+    Ausgabeart ausgabe = Ausgabeart::text;
+    Form form = Form::ansicht;
+    std::optional<std::filesystem::path> material;  // the own materials; else those of the program's folder
+    int laeufe = 1;
+    Zustand zustand = Zustand::jeDatei;
+    Hinweisbehandlung hinweise = Hinweisbehandlung::beachten;
+    char dezimalzeichen = ',';
+    std::optional<std::filesystem::path> nach;  // write there instead of standard output
+};
+
+// Help, version or a usage error, in German.
+struct Auskunft {
+    std::string text;
+    Rueckgabe rueckgabe = Rueckgabe::erfuellt;
+};
+
+// `angaben` are the arguments without the program's name.
+std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> angaben);
+
+}  // namespace rippenscheibe

@@ -1,0 +1,45 @@
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <variant>
+#include <vector>
+
+#include "cli/Befehle.h"
+#include "cli/Kommandozeile.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace rippenscheibe;
+
+fs::path programmordner() {
+    std::error_code fehler;
+    return fs::read_symlink("/proc/self/exe", fehler).parent_path();
+}
+
+void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
+
+Rueckgabe laufe(const std::vector<std::string>& angaben) {
+    const auto gelesen = liesKommandozeile(angaben);
+    if (const auto* auskunft = std::get_if<Auskunft>(&gelesen)) {
+        schreibe(auskunft->rueckgabe == Rueckgabe::erfuellt ? stdout : stderr, auskunft->text);
+        return auskunft->rueckgabe;
+    }
+    const Ausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
+                            [](std::string_view text) { schreibe(stderr, text); }};
+    return fuehreAus(std::get<Auftrag>(gelesen), programmordner(), ausgaben);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Rueckgabe rueckgabe = laufe(std::vector<std::string>(argv + 1, argv + argc));
+    // A report that did not arrive whole must not look like one.
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        schreibe(stderr, "Die Ausgabe kann nicht geschrieben werden.\n");
+        rueckgabe = Rueckgabe::dateifehler;
+    }
+    return static_cast<int>(rueckgabe);
+}
