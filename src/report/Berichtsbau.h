@@ -94,7 +94,9 @@ void Berichtsbau::rippen(const Wand& w, double ersterAbstand, Jede&& jede) {
     constexpr double seitenende = 260;
     const int anzahl = listenlaenge(w);
     for (int i = 1; i <= anzahl; ++i) {
-        jede(rippenname(i, anzahl), i, i == 1 ? ersterAbstand : 0.0);
+        // The lines of ribs above 200 fall out, the cursor moves on.
+        if (i < static_cast<int>(Rippenfeld::laenge))
+            jede(rippenname(i, anzahl), i, i == 1 ? ersterAbstand : 0.0);
         if (i == anzahl) break;
         neu(Vorschub{zeilenabstand});
         neu(Zeilenpruefung{seitenende});
