@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/Fenster.h"
+
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+
+namespace rippenscheibe {
+
+// "  Projektdaten": the names that identify a position on paper and in the file system, and the list of
+// projects with their folders. When the window was opened for "Speichern unter", leaving it saves the
+// position under a chosen name.
+class Form15 : public Fenster {
+    Q_OBJECT
+
+  public:
+    Form15(Programm& programm, Meldungen& meldungen, QWidget* parent = nullptr);
+
+    void reject() override;
+
+  private:
+    QLineEdit* textfeld(QGridLayout* grid, int index, const QString& beschriftung);
+    void lade();
+    void waehleProjekt(int eintrag);
+    void zurueckZumHauptfenster();
+    void merkeProjekt();
+    void sichernUnter();
+
+    QComboBox* projekt_;
+    QLineEdit* position_ = nullptr;
+    QLineEdit* datum_ = nullptr;
+    QLineEdit* bemerkung_ = nullptr;
+    QLineEdit* pfad_ = nullptr;
+};
+
+}  // namespace rippenscheibe
