@@ -1,0 +1,51 @@
+#include "model/Materialverwaltung.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/EigeneMaterialienDatei.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+bool gleich(const EigeneMaterialien::Zeile& a, const EigeneMaterialien::Zeile& b) {
+    return a.name == b.name &&
+           std::equal(a.zellen.begin(), a.zellen.end(), b.zellen.begin(),
+                      [](const auto& x, const auto& y) { return x.leer == y.leer && x.wert == y.wert; });
+}
+
+bool enthaelt(const EigeneMaterialien& tabelle, const EigeneMaterialien::Zeile& zeile) {
+    return std::any_of(tabelle.zeilen.begin(), tabelle.zeilen.end(),
+                       [&](const auto& andere) { return gleich(zeile, andere); });
+}
+
+}  // namespace
+
+bool nimmtWeitereAuf(const EigeneMaterialien& tabelle) {
+    return tabelle.zeilen.size() < EigeneMaterialien::hoechstens;
+}
+
+bool loesche(EigeneMaterialien& tabelle, std::size_t zeile) {
+    if (tabelle.zeilen.size() <= 1 || zeile >= tabelle.zeilen.size()) return false;
+    tabelle.zeilen.erase(tabelle.zeilen.begin() + static_cast<std::ptrdiff_t>(zeile));
+    return true;
+}
+
+std::optional<Dateifehler> sichereEigeneMaterialien(const std::filesystem::path& datei,
+                                                    EigeneMaterialien& tabelle,
+                                                    const EigeneMaterialien& gelesen) {
+    const Dateisperre sperre(datei.parent_path());
+    EigeneMaterialien neu = tabelle;
+    for (const auto& zeile : liesEigeneMaterialien(datei).zeilen) {
+        // The row that stands for an empty table is no material.
+        const bool leer = gleich(zeile, EigeneMaterialien::Zeile{});
+        if (!leer && nimmtWeitereAuf(neu) && !enthaelt(gelesen, zeile) && !enthaelt(neu, zeile))
+            neu.zeilen.push_back(zeile);
+    }
+    auto fehler = schreibeEigeneMaterialien(datei, neu);
+    if (!fehler) tabelle = std::move(neu);
+    return fehler;
+}
+
+}  // namespace rippenscheibe
