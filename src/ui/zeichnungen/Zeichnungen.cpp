@@ -1,0 +1,87 @@
+#include "ui/zeichnungen/Zeichnungen.h"
+
+#include <optional>
+
+#include "ui/zeichnungen/Skizzen.h"
+
+namespace rippenscheibe {
+
+void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w,
+             const Zeichenstil& stil) {
+    Zeichner z(painter, flaeche, stil);
+    if (z.zuKlein()) return;
+    switch (was) {
+        case Zeichnung::ansicht:
+            return zeichneAnsicht(z, w);
+        case Zeichnung::rippen:
+            return zeichneRippen(z, w);
+        case Zeichnung::beplankung:
+            return zeichneBeplankung(z, w);
+        case Zeichnung::verbindungsmittel1:
+            return zeichneVerbindungsmittel(z, w, Seite::eins);
+        case Zeichnung::verbindungsmittel2:
+            return zeichneVerbindungsmittel(z, w, Seite::zwei);
+        case Zeichnung::anker:
+            return zeichneAnker(z, w, ankergruppe(w.Ankertyp.value()));
+        case Zeichnung::last:
+            return zeichneLast(z, w, w.Lastfall.value(), w.WindQuer);
+        case Zeichnung::schubfluss:
+            return zeichneSchubfluss(z, w);
+        case Zeichnung::stoesse:
+            return zeichneStoesse(z);
+        case Zeichnung::oeffnungen:
+            return zeichneOeffnungen(z);
+        case Zeichnung::gruppen:
+            return zeichneGruppen(z);
+        case Zeichnung::ueberstand:
+            return zeichneUeberstand(z, w);
+        case Zeichnung::rollbild:
+            return zeichneRollbild(z, w);
+        case Zeichnung::startbild:
+            return zeichneStartbild(z, w);
+    }
+}
+
+void zeichneBild(QPainter& painter, const QRectF& flaeche, Bild bild, const Wand& w,
+                 const Zeichenstil& stil) {
+    Zeichner z(painter, flaeche, stil);
+    if (z.zuKlein()) return;
+    switch (bild) {
+        case Bild::system:
+            return zeichneAnsicht(z, w);
+        case Bild::rippe:
+            return zeichneRippen(z, w);
+        case Bild::lastHorizontal:
+            return zeichneLast(z, w, 1, false);
+        case Bild::lastHorizontalQuer:
+            return zeichneLast(z, w, 1, true);
+        case Bild::lastVertikal:
+            return zeichneLast(z, w, 2, false);
+        case Bild::lastVertikalQuer:
+            return zeichneLast(z, w, 2, true);
+        case Bild::lastBeide:
+            return zeichneLast(z, w, 3, false);
+        case Bild::lastBeideQuer:
+            return zeichneLast(z, w, 3, true);
+        case Bild::schnittkraefte:
+            return zeichneSchubfluss(z, w);
+        case Bild::ankerHD:
+            return zeichneAnker(z, w, Ankergruppe::HD);
+        case Bild::ankerHTT:
+            return zeichneAnker(z, w, Ankergruppe::HTT);
+        case Bild::ankerHD2P:
+            return zeichneAnker(z, w, Ankergruppe::HD2P);
+        case Bild::ankerHD2PSG:
+            return zeichneAnker(z, w, Ankergruppe::HD2PSG);
+        case Bild::detail1:
+            return zeichneStoesse(z);
+        case Bild::detail2:
+            return zeichneOeffnungen(z);
+        case Bild::detail3:
+            return zeichneGruppen(z);
+        case Bild::logo:
+            return;
+    }
+}
+
+}  // namespace rippenscheibe
