@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "model/Positionsdatei.h"
 #include "ui/Dateiablauf.h"
 #include "ui/Meldungen.h"
 #include "ui/Pfadwahl.h"
@@ -61,10 +62,7 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     connect(waehlen, &QPushButton::clicked, this, [this] {
         programm_.Positionspfad = utf8(pfad_->text());
         Pfadwahl wahl(programm_, meldungen_, this, Pfadwahl::Zweck::positionspfad);
-        if (wahl.exec() == QDialog::Accepted) {
-            pfad_->setText(wahl.pfad());
-            programm_.setzeGesichert(false);
-        }
+        if (wahl.exec() == QDialog::Accepted) pfad_->setText(wahl.pfad());
     });
     QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Zurück zum Hauptfenster"));
     ende->setDefault(true);
@@ -86,11 +84,10 @@ QLineEdit* Form15::textfeld(QGridLayout* grid, int index, const QString& beschri
 void Form15::lade() {
     // Empty entries keep their place in the list, but there is nothing to choose in them.
     const auto& eintraege = programm_.projekte.eintraege;
-    programm_.AktuellesProjekt = 1;
     for (std::size_t i = 0; i < eintraege.size(); ++i) {
         if (!eintraege[i].name.empty()) projekt_->addItem(qtext(eintraege[i].name), static_cast<int>(i));
-        if (eintraege[i].name == programm_.w.Projekt && programm_.AktuellesProjekt == 1)
-            programm_.AktuellesProjekt = static_cast<int>(i) + 1;
+        if (eintraege[i].name == programm_.w.Projekt && aktuellesProjekt_ == 1)
+            aktuellesProjekt_ = static_cast<int>(i) + 1;
     }
     projekt_->setCurrentIndex(
         projekt_->findText(qtext(programm_.w.Projekt), Qt::MatchFixedString | Qt::MatchCaseSensitive));
@@ -105,9 +102,8 @@ void Form15::lade() {
 
 void Form15::waehleProjekt(int eintrag) {
     const int stelle = projekt_->itemData(eintrag).toInt();
-    programm_.AktuellesProjekt = stelle + 1;
+    aktuellesProjekt_ = stelle + 1;
     pfad_->setText(qtext(programm_.projekte.eintraege[static_cast<std::size_t>(stelle)].pfad));
-    programm_.setzeGesichert(false);
 }
 
 // A project that is not in the list is added with the folder as it was entered, an empty one too; an
@@ -122,11 +118,13 @@ void Form15::merkeProjekt() {
 
 void Form15::zurueckZumHauptfenster() {
     Wand& w = programm_.w;
+    const std::string vorher = positionstext(w);
     w.Projekt = utf8(projekt_->currentText());
     w.Position = utf8(position_->text());
     w.Datum = utf8(datum_->text());
     w.PositionsBemerkung = utf8(bemerkung_->text());
     programm_.Positionspfad = utf8(pfad_->text());
+    if (positionstext(w) != vorher) programm_.setzeGesichert(false);
     merkeProjekt();
     if (programm_.Positionspfad.empty()) programm_.Positionspfad = programm_.einstellungen.StandardPfad;
     if (programm_.SpeichernUnter) sichernUnter();

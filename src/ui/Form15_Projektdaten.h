@@ -17,6 +17,9 @@ class Form15 : public Fenster {
   public:
     Form15(Programm& programm, Meldungen& meldungen, QWidget* parent = nullptr);
 
+    // AktuellesProjekt: the selected entry of the project list, from 1.
+    int AktuellesProjekt() const { return aktuellesProjekt_; }
+
     void reject() override;
 
   private:
@@ -32,6 +35,7 @@ class Form15 : public Fenster {
     QLineEdit* datum_ = nullptr;
     QLineEdit* bemerkung_ = nullptr;
     QLineEdit* pfad_ = nullptr;
+    int aktuellesProjekt_ = 1;
 };
 
 }  // namespace rippenscheibe

@@ -8,6 +8,7 @@
 #include <QTextCursor>
 #include <QVBoxLayout>
 
+#include "model/Positionsdatei.h"
 #include "model/Textvorlagen.h"
 #include "ui/Form800_Textvorlagen.h"
 #include "ui/Programm.h"
@@ -96,20 +97,17 @@ QPlainTextEdit* Form222::textfeld(const QString& name, const QString& titel, con
         name == QStringLiteral("Text2") ? Vorlagenart::vorbemerkungen : Vorlagenart::zusatzbemerkungen;
     connect(laden, &QPushButton::clicked, this, [this, feld, art] {
         Textvorlagenfenster fenster(programm_, meldungen_, this, art);
-        if (fenster.exec() != QDialog::Accepted) return;
-        zeigeText(*feld, fenster.text());
-        programm_.setzeGesichert(false);
+        if (fenster.exec() == QDialog::Accepted) zeigeText(*feld, fenster.text());
     });
-    connect(leeren, &QPushButton::clicked, this, [this, feld] {
-        feld->clear();
-        programm_.setzeGesichert(false);
-    });
+    connect(leeren, &QPushButton::clicked, feld, &QPlainTextEdit::clear);
     return feld;
 }
 
 void Form222::uebernehmen() {
+    const std::string vorher = positionstext(programm_.w);
     setzeZusatzbemerkungen(programm_.w, textAus(*zusatz_));
     setzeVorbemerkungen(programm_.w, textAus(*vor_));
+    if (positionstext(programm_.w) != vorher) programm_.setzeGesichert(false);
     Q_EMIT programm_.geaendert();
     accept();
 }
