@@ -200,10 +200,9 @@ void Anweisungsleser::beginne() { zustand_ = stelle_ < text_.size() ? Zustand::f
 
 // Goes behind the next line end. What is left of the line is of no interest.
 void Anweisungsleser::beende() {
-    if (stelle_ >= text_.size()) return;
     const std::size_t zeilenende = text_.find('\n', stelle_);
     stelle_ = zeilenende == std::string_view::npos ? text_.size() : zeilenende + 1;
-    ++zeile_;
+    ++zeile_;  // behind the end of the file too: there the missing statements are counted
 }
 
 // Reads the field at the current place and goes behind its comma, or, at the end of the line, to the line

@@ -49,8 +49,9 @@ std::string ursache(int fehlernummer) {
 }
 
 Dateifehler nichtGeschrieben(const fs::path& datei, int fehlernummer) {
-    return {"Die Datei \"" + datei.string() + "\" kann nicht geschrieben werden: " + ursache(fehlernummer) +
-            "."};
+    const std::string grund =
+        fehlernummer == ENOENT ? "der Ordner ist nicht vorhanden" : ursache(fehlernummer);
+    return {"Die Datei \"" + datei.string() + "\" kann nicht geschrieben werden: " + grund + "."};
 }
 
 Dateifehler nichtGelesen(const fs::path& datei, int fehlernummer) {
