@@ -1,0 +1,245 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <clocale>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "basis/Dateischreiber.h"
+#include "basis/Zeichensatz.h"
+#include "cli/Befehle.h"
+#include "model/Positionsdatei.h"
+
+namespace rippenscheibe {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path beispiele = RIPPENSCHEIBE_BEISPIELE;
+
+std::string beispiel(const std::string& name) { return (beispiele / (name + ".rsw")).string(); }
+
+struct Ergebnis {
+    int rueckgabe = 0;
+    std::string ausgabe;
+    std::string meldungen;
+};
+
+// Runs the tool with the folder of the examples as the program's folder.
+Ergebnis tool(const std::vector<std::string>& angaben) {
+    const auto gelesen = liesKommandozeile(angaben);
+    if (const auto* auskunft = std::get_if<Auskunft>(&gelesen)) {
+        return {static_cast<int>(auskunft->rueckgabe), auskunft->text, {}};
+    }
+    Ergebnis ergebnis;
+    const Ausgaben ausgaben{[&](std::string_view text) { ergebnis.ausgabe += text; },
+                            [&](std::string_view text) { ergebnis.meldungen += text; }};
+    ergebnis.rueckgabe = static_cast<int>(fuehreAus(std::get<Auftrag>(gelesen), beispiele, ausgaben));
+    return ergebnis;
+}
+
+nlohmann::ordered_json json(const std::vector<std::string>& angaben) {
+    const std::string ausgabe = tool(angaben).ausgabe;
+    return nlohmann::ordered_json::parse(ausgabe.substr(ausgabe.find_last_of('\n', ausgabe.size() - 2) + 1));
+}
+
+class Befehle : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string muster = (fs::temp_directory_path() / "rippenscheibe-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(muster.data()), nullptr);
+        ordner = muster;
+    }
+    void TearDown() override { fs::remove_all(ordner); }
+
+    std::string datei(const std::string& name) const { return (ordner / name).string(); }
+    std::string schreibe(const std::string& name, const std::string& bytes) const {
+        EXPECT_FALSE(schreibeDauerhaft(ordner / name, bytes));
+        return datei(name);
+    }
+
+    fs::path ordner;
+};
+
+TEST_F(Befehle, AWrongCallIsToldInGermanWithCode64) {
+    struct Fall {
+        std::vector<std::string> angaben;
+        std::string text;
+    };
+    const Fall faelle[] = {
+        {{}, "Es fehlt ein Befehl."},
+        {{"quatsch"}, "Unbekannter Befehl: quatsch"},
+        {{"rechne"}, "Es fehlt eine Angabe: DATEI."},
+        {{"rechne", "a.rsw", "--wild"}, "Unbekannte Angabe: --wild"},
+        {{"rechne", "a.rsw", "--form"}, "--form fehlt der Wert."},
+        {{"rechne", "a.rsw", "--form", "breit"}, "--form: \"breit\" geht nicht, möglich: ansicht|lang|kurz"},
+        {{"rechne", "a.rsw", "--form", "lang", "--form", "kurz"}, "--form darf nur einmal stehen."},
+        {{"rechne", "a.rsw", "--laeufe", "0"}, "--laeufe: \"0\" geht nicht, möglich: eine ganze Zahl ab 1"},
+        {{"rechne", "a.rsw", "--laeufe", "2x"}, "--laeufe: \"2x\" geht nicht, möglich: eine ganze Zahl ab 1"},
+        {{"uebertrage", "a.rsw"}, "Es fehlt eine Angabe: -o."},
+        {{"uebertrage", "a.rsw", "b.rsw", "-o", "c.rsw"}, "DATEI darf nur einmal stehen."},
+        {{"felder", "--ausgabe", "rtf"}, "--ausgabe: \"rtf\" geht nicht, möglich: text|json"},
+    };
+    for (const Fall& f : faelle) {
+        const Ergebnis e = tool(f.angaben);
+        EXPECT_EQ(e.rueckgabe, 64) << f.text;
+        EXPECT_EQ(e.ausgabe, f.text + "\nHilfe: rippenscheibe-cli --help\n");
+    }
+}
+
+TEST_F(Befehle, HelpIsGermanThroughout) {
+    for (const std::string befehl : {"", "rechne", "pruefe", "neu", "uebertrage", "felder"}) {
+        const Ergebnis e = tool(befehl.empty() ? std::vector<std::string>{"--help"}
+                                               : std::vector<std::string>{befehl, "--help"});
+        EXPECT_EQ(e.rueckgabe, 0);
+        EXPECT_NE(e.ausgabe.find("Aufruf: rippenscheibe-cli"), std::string::npos);
+        for (const std::string englisch :
+             {"Usage", "Options", "REQUIRED", "TEXT", "INT", "Positionals", "Subcommands"}) {
+            EXPECT_EQ(e.ausgabe.find(englisch), std::string::npos) << befehl << ": " << englisch;
+        }
+    }
+}
+
+TEST_F(Befehle, OneJsonLineAFileHoldsEveryFieldInFixedOrder) {
+    const auto j = json({"rechne", "--ausgabe", "json", beispiel("zweiseitig")});
+    std::vector<std::string> schluessel;
+    for (const auto& [name, wert] : j.items()) schluessel.push_back(name);
+    EXPECT_EQ(schluessel,
+              (std::vector<std::string>{"datei", "hinweise", "erfuellt", "eingaben", "ergebnisse"}));
+    EXPECT_EQ(j["erfuellt"], true);
+    EXPECT_EQ(j["eingaben"]["Projekt"], "Einfamilienhaus Am Hang");
+    EXPECT_EQ(j["eingaben"]["Zusatzbemerkungen"].size(), 2U);
+    EXPECT_EQ(j["eingaben"]["Vorbemerkungen"].size(), 3U);
+    EXPECT_EQ(j["eingaben"]["FussrippeLinksDurchgehend"], false);
+    // Single precision, widened: the float nearest to 0.45.
+    EXPECT_EQ(j["eingaben"]["gkWand"], static_cast<double>(0.45F));
+    EXPECT_EQ(j["eingaben"]["gkWand"].dump(), "0.44999998807907104");
+    EXPECT_EQ(j["ergebnisse"]["Ftd"].size(), 11U);  // 6.25 m / 0.625 m + 1 ribs
+
+    // The index names the same fields, each once.
+    const auto felder = nlohmann::ordered_json::parse(tool({"felder", "--ausgabe", "json"}).ausgabe);
+    std::set<std::string> namen;
+    for (const auto& feld : felder) {
+        const std::string name = feld["name"];
+        EXPECT_TRUE(namen.insert(name).second) << name;
+        EXPECT_TRUE(j[feld["art"] == "Eingabe" ? "eingaben" : "ergebnisse"].contains(name)) << name;
+        EXPECT_FALSE(feld["bedeutung"].get<std::string>().empty()) << name;
+    }
+    EXPECT_EQ(felder.size(), j["eingaben"].size() + j["ergebnisse"].size());
+}
+
+TEST_F(Befehle, FindingsStopTheRunUnlessToldOtherwise) {
+    const auto angehalten = json({"rechne", "--ausgabe", "json", beispiel("hinweise")});
+    EXPECT_GE(angehalten["hinweise"].size(), 6U);
+    EXPECT_TRUE(angehalten["erfuellt"].is_null());
+    EXPECT_TRUE(angehalten["ergebnisse"].is_null());
+    const auto gerechnet = json({"rechne", "--ausgabe", "json", "--trotz-hinweisen", beispiel("hinweise")});
+    EXPECT_TRUE(gerechnet["erfuellt"].is_boolean());
+    EXPECT_EQ(gerechnet["hinweise"], angehalten["hinweise"]);
+
+    const Ergebnis text = tool({"rechne", beispiel("hinweise")});
+    EXPECT_EQ(text.ausgabe, "");
+    EXPECT_NE(
+        text.meldungen.find("Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!"),
+        std::string::npos);
+    const Ergebnis pruefung = tool({"pruefe", beispiel("hinweise"), beispiel("einseitig")});
+    EXPECT_EQ(pruefung.rueckgabe, 2);
+    EXPECT_NE(pruefung.ausgabe.find("einseitig.rsw: keine Hinweise\n"), std::string::npos);
+}
+
+TEST_F(Befehle, TheHighestCodeOfAllFilesCounts) {
+    const std::string gut = beispiel("einseitig");
+    const std::string schwach = beispiel("nicht_erfuellt");
+    const std::string fehlerhaft = beispiel("hinweise");
+    EXPECT_EQ(tool({"rechne", gut}).rueckgabe, 0);
+    EXPECT_EQ(tool({"rechne", schwach, gut}).rueckgabe, 1);
+    EXPECT_EQ(tool({"rechne", schwach, fehlerhaft, gut}).rueckgabe, 2);
+    const Ergebnis fehlend = tool({"rechne", datei("fehlt.rsw"), gut, fehlerhaft});
+    EXPECT_EQ(fehlend.rueckgabe, 3);
+    EXPECT_NE(fehlend.meldungen.find("fehlt.rsw\" kann nicht gelesen werden: nicht vorhanden."),
+              std::string::npos);
+    EXPECT_FALSE(fehlend.ausgabe.empty());
+    EXPECT_EQ(tool({"rechne", "--material", datei("fehlt.dat"), gut}).rueckgabe, 3);
+    EXPECT_EQ(tool({"rechne", gut, "-o", datei("kein/ordner.txt")}).rueckgabe, 3);
+}
+
+TEST_F(Befehle, AFileWithoutTheEndingIsRefused) {
+    const std::string name = schreibe("wand.RSW", liesDatei(beispiel("einseitig")).bytes);
+    const Ergebnis e = tool({"rechne", name});
+    EXPECT_EQ(e.rueckgabe, 3);
+    EXPECT_EQ(e.meldungen, name + ": Datei passt nicht zum Programm!\n");
+}
+
+TEST_F(Befehle, SkippedFieldsAreReportedWithLineFieldAndWhatWasKept) {
+    std::string bytes = liesDatei(beispiel("einseitig")).bytes;
+    const std::size_t zahl = bytes.find("3.75,2.6,");
+    ASSERT_NE(zahl, std::string::npos);
+    bytes.replace(zahl, 4, "drei");
+    const std::string name = schreibe("wand.rsw", bytes);
+    const Ergebnis e = tool({"uebertrage", name, "-o", datei("neu.rsw")});
+    EXPECT_EQ(e.rueckgabe, 0);
+    EXPECT_TRUE(
+        e.meldungen.starts_with(name + ": Zeile 7, Wandlaenge: nicht lesbar (drei), beibehalten: 5\n"));
+}
+
+TEST_F(Befehle, RunsInOneStateAreRunsOfOneSession) {
+    // The exact distribution of vertical loads compounds from pass to pass: a second run differs.
+    const std::string wand = beispiel("decke_und_wind");
+    const auto einer = json({"rechne", "--ausgabe", "json", wand})["ergebnisse"];
+    const auto zwei = json({"rechne", "--ausgabe", "json", "--laeufe", "2", wand})["ergebnisse"];
+    const auto sitzung = json({"rechne", "--ausgabe", "json", "--sitzung", wand, wand})["ergebnisse"];
+    const auto getrennt = json({"rechne", "--ausgabe", "json", wand, wand})["ergebnisse"];
+    EXPECT_NE(einer, zwei);
+    EXPECT_EQ(zwei, sitzung);
+    EXPECT_EQ(einer, getrennt);
+}
+
+TEST_F(Befehle, ExamplesAreTransferredByteForByte) {
+    int anzahl = 0;
+    for (const auto& eintrag : fs::directory_iterator(beispiele)) {
+        if (eintrag.path().extension() != ".rsw") continue;
+        ++anzahl;
+        const Ergebnis e = tool({"uebertrage", eintrag.path().string(), "-o", datei("neu.rsw")});
+        EXPECT_EQ(e.meldungen, "");
+        EXPECT_EQ(liesDatei(datei("neu.rsw")).bytes, liesDatei(eintrag.path()).bytes) << eintrag.path();
+    }
+    EXPECT_GE(anzahl, 8);
+}
+
+TEST_F(Befehle, ReportsGoWhereTheyAreToldWithTheMarkTheyAreTold) {
+    const std::string wand = beispiel("einseitig");
+    const std::string komma = tool({"rechne", wand}).ausgabe;
+    const std::string punkt = tool({"rechne", "--dezimal", "punkt", wand}).ausgabe;
+    EXPECT_NE(komma.find("2,600 m"), std::string::npos);
+    EXPECT_NE(punkt.find("2.600 m"), std::string::npos);
+    EXPECT_EQ(tool({"rechne", wand, "-o", datei("bericht.txt")}).ausgabe, "");
+    EXPECT_EQ(liesDatei(datei("bericht.txt")).bytes, komma);
+
+    // Several files make one rich text.
+    const std::string rtf = tool({"rechne", "--ausgabe", "rtf", wand, wand}).ausgabe;
+    EXPECT_EQ(rtf.find("{\\rtf1"), 0U);
+    EXPECT_EQ(rtf.find("{\\rtf1", 1), std::string::npos);
+}
+
+TEST_F(Befehle, TheLocaleChangesNothing) {
+    const std::vector<std::string> angaben{"rechne", "--ausgabe", "json", beispiel("windsog")};
+    const std::string vorher = tool(angaben).ausgabe;
+    // Where a locale is not installed nothing changes anyway.
+    for (const char* name : {"de_DE.UTF-8", "tr_TR.UTF-8"}) {
+        std::setlocale(LC_ALL, name);
+        EXPECT_EQ(tool(angaben).ausgabe, vorher) << name;
+    }
+    std::setlocale(LC_ALL, "C");
+}
+
+TEST_F(Befehle, ANewPositionHasAllDefaults) {
+    EXPECT_EQ(tool({"neu"}).ausgabe, positionstext(Wand{}));
+    EXPECT_EQ(tool({"neu", "-o", datei("neu.rsw")}).rueckgabe, 0);
+    EXPECT_EQ(tool({"rechne", datei("neu.rsw")}).meldungen, "");
+}
+
+}  // namespace
+}  // namespace rippenscheibe
