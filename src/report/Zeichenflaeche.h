@@ -31,6 +31,7 @@ class Zeichenflaeche {
     virtual void text(double x, double y, std::string_view text) = 0;
     virtual void rahmen(const Rechteck& rechteck, Farbe farbe) = 0;
     virtual void flaeche(const Rechteck& rechteck, Farbe farbe) = 0;
+    // A picture has no ground of its own: a long line may reach into its margin.
     virtual void bild(Bild bild, const Rechteck& rechteck) = 0;
     virtual void neueSeite() = 0;
 
