@@ -15,6 +15,7 @@ struct Mittel {
     double fuk = 600;
     double dk = 6;
     double lg = 25;
+    bool vorgebohrt = false;
 };
 
 inline void setze(Wand& w, Seite n, const Mittel& m) {
@@ -26,6 +27,7 @@ inline void setze(Wand& w, Seite n, const Mittel& m) {
     w.t[n] = m.t;
     w.dk[n] = m.dk;
     w.lg[n] = m.lg;
+    w.Vorgebohrt[n] = m.vorgebohrt;
     if (n == Seite::eins) w.Plattendicke1 = m.t;
     if (n == Seite::zwei) w.Plattendicke2 = m.t;
 }

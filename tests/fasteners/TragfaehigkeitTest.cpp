@@ -22,6 +22,7 @@ struct Fall {
 };
 
 const Mittel nagel{Art::naegel, 1, 15, 2.7, 50, 600};
+const Mittel nagelVorgebohrt{Art::naegel, 1, 15, 2.7, 50, 600, 6, 25, true};
 const Mittel nagelGips{Art::naegel, 3, 12.5, 2.5, 40, 600};
 const Mittel nagelP4{Art::naegel, 8, 15, 2.7, 50, 600};
 const Mittel sondernagel{Art::sondernaegel, 2, 15, 3.0, 60, 600};
@@ -46,6 +47,8 @@ TEST(Tragfaehigkeit, IsTheOneByHandForEachKindMethodAndSide) {
         // My = 0.3*600*2.7^2.6 = 2381.3, fh = 65*2.7^-0.7*15^0.1 = 42.518, root 739.42;
         // tvorh = 15/18.9 = 0.7937: Rk = 0.8*739.42*0.7937 = 469.47
         {"nails in OSB", einfach, nagel, 384.11, 384.11},
+        // fh = 50*2.7^-0.6*15^0.2 = 47.355, root 780.35: Rk = 495.46
+        {"predrilled nails in OSB", einfach, nagelVorgebohrt, 405.38, 405.38},
         // My = 1949.5, fh = 3.9*2.5^-0.6*12.5^0.7 = 13.187, root 358.52, tvorh = 12.5/25: Rk = 1.1*358.52*0.5 =
         // 197.19; side 2 has A = 0
         {"nails in gypsum board", einfach, nagelGips, 161.33, 0},
@@ -75,6 +78,9 @@ TEST(Tragfaehigkeit, IsTheOneByHandForEachKindMethodAndSide) {
         // fhRippe = 0.082*350*2.7^-0.3 = 21.305, b = 0.5011, r = 35/15: D = 42.518*15*2.7/2.5011 *
         // (sqrt(2*0.5011*1.5011 + 4*0.5011*2.5011*2381.3/(42.518*2.7*15^2)) - 0.5011) = 620.5
         {"nails in OSB", genau, nagel, 465.37, 465.37},
+        // fh = 47.355, fhRippe = 0.082*(1 - 0.027)*350 = 27.925, b = 0.5897: D = 1917.9/2.5897*(sqrt(2.3805) - 0.5897)
+        // = 705.9
+        {"predrilled nails in OSB", genau, nagelVorgebohrt, 529.44, 529.44},
         // fh = 13.187, fhRippe = 21.802, b = 1.6533: D = 412.1/3.6533*(sqrt(8.7734 + 9.1438) - 1.6533) = 291.0
         {"nails in gypsum board", genau, nagelGips, 218.23, 218.23},
         // P4 takes the fibre-board formula: fh = 7*2.7^-0.7*15^0.9 = 39.960, b = 0.5331: D = 599.4

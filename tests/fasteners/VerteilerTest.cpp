@@ -48,6 +48,12 @@ TEST(Verteiler, ABoardBesideGypsumFibreBoardNeeds12Millimetres) {
     }
 }
 
+TEST(Verteiler, TwoGypsumFibreBoardsMayBeThinner) {
+    Wand w = wand({Art::naegel, 7, 10, 2.5}, einfach);
+    for (const Seite n : beideSeiten) verteiler(w, n);
+    for (const Seite n : beideSeiten) EXPECT_GT(w.Rd[n].value(), 0);
+}
+
 TEST(Verteiler, TheFibreBoardRuleSeesTheCountersunkThickness) {
     Wand w = wand({Art::naegel, 1, 13}, genau);
     pruefung::setze(w, s1, {Art::naegel, 7, 12.5, 2.5, 50, 600});
