@@ -118,9 +118,11 @@ void seitenansicht(Zeichner& z, const QRectF& r, const Fuss& f, const Ankerform&
         return;
     }
     if (a.zweiteilig) {  // the lower part overlaps the upper and carries the foot
-        z.rechteck({kante + blech, f.ok - 0.42 * hoehe, blech, 0.42 * hoehe}, z.stil().nebentinte,
-                   Strich::mass, stahl);
-        z.kreis({kante + 1.6 * blech, f.ok - 0.33 * hoehe}, 0.45 * blech, stahl, Strich::mass, stahl);
+        const double ueberlappung = 0.42 * hoehe;
+        z.rechteck({kante + blech, f.ok - ueberlappung, blech, ueberlappung}, stahl, Strich::mass,
+                   z.stil().grund);
+        z.linie({kante - 0.3 * t, f.ok - 0.8 * ueberlappung},
+                {kante + 3.0 * blech, f.ok - 0.8 * ueberlappung}, Strich::schnitt, stahl);
     }
     z.rechteck({kante, f.ok - 0.5 * t, fuss, 0.5 * t}, stahl, Strich::mass, stahl);
     z.vieleck({{kante + blech, f.ok - 0.5 * t},
@@ -184,8 +186,8 @@ void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe) {
     const double rippe = std::min(0.48 * halb, 6.0 * t);
 
     const Textart titel{1.05, true, {}};
-    z.text({r.width() / 2.0, 1.4 * t}, z.gekuerzt(ankerzeile(w, gruppe), r.width() - 2.0 * t, titel),
-           Qt::AlignHCenter, titel);
+    z.textPassend({r.width() / 2.0, 1.4 * t}, ankerzeile(w, gruppe), Qt::AlignHCenter, r.width() - 2.0 * t,
+                  titel);
     const QRectF links(1.5 * t, 0.0, halb, r.height());
     const QRectF rechts(r.width() - 1.0 * t - halb, 0.0, halb, r.height());
     seitenansicht(z, links, f, a, rippe);

@@ -68,8 +68,8 @@ void plattenstoss(Zeichner& z, const QRectF& r) {
                   {0.3 * t, dicke + 0.45 * tief, 0.8 * t, 0.0});
     for (const double x : {linke.left(), rechte.right()})
         z.bruchlinie({x, y + tief + dicke + 0.4 * t}, {x, y + tief - 0.4 * t}, z.stil().tinte);
-    z.text({mitte, r.top() + 1.4 * t}, QStringLiteral("Plattenstoß nur auf der Rippe"), Qt::AlignHCenter,
-           {0.95, true, {}});
+    z.textPassend({mitte, r.top() + 1.4 * t}, QStringLiteral("Plattenstoß nur auf der Rippe"),
+                  Qt::AlignHCenter, r.width() - t, {0.95, true, {}});
 }
 
 // A joint of the edge rib with two splice plates.
@@ -148,10 +148,10 @@ void zeichneOeffnungen(Zeichner& z) {
     z.linie(loch.topRight(), loch.bottomLeft(), Strich::mass, z.stil().nebentinte);
     const double radius = 0.7 * seite;  // 280 to 200
     z.kreis(rund, radius, z.stil().grund, Strich::schnitt, z.stil().tinte);
-    const QString klein = QStringLiteral("≤ 200");
     const Textart art{0.95, false, z.stil().tinte};
-    z.text({loch.center().x(), loch.bottom() + 0.5 * t}, klein + QStringLiteral(" x 200"),
-           Qt::AlignHCenter | Qt::AlignTop, {0.95, true, z.stil().tinte});
+    z.textPassend({loch.center().x(), loch.bottom() + 0.5 * t}, QStringLiteral("≤ 200 x 200"),
+                  Qt::AlignHCenter | Qt::AlignTop, 0.25 * wand.width() - 1.4 * tafel.rippe,
+                  {0.95, true, z.stil().tinte});
     z.linie(rund + QPointF(-radius, 0.0), rund + QPointF(radius, 0.0), Strich::mass, z.stil().tinte);
     z.text(rund + QPointF(0.0, radius + 0.5 * t), QStringLiteral("d ≤ 280"), Qt::AlignHCenter | Qt::AlignTop,
            {0.95, true, z.stil().tinte});
@@ -212,8 +212,9 @@ void zeichneGruppen(Zeichner& z) {
     }
     kette.texte.pop_back();
     z.massWaagerecht(wand.bottom() + 3.6 * t, wand.bottom() + 1.4 * t, kette);
-    z.text({wand.left(), 1.6 * t}, QStringLiteral("Kopf- und Fußrippe durchgehend, jede Tafel verankert"),
-           Qt::AlignLeft, {0.95, false, {}});
+    z.textPassend({r.center().x(), 1.6 * t},
+                  QStringLiteral("Kopf- und Fußrippe durchgehend, jede Tafel verankert"), Qt::AlignHCenter,
+                  r.width() - 1.5 * t, {0.95, false, {}});
     z.text({wand.center().x(), r.height() - 2.6 * t}, QStringLiteral("Ersatzlänge l = l1 + l2 + l3"),
            Qt::AlignHCenter, {1.0, true, {}});
     z.text({wand.center().x(), r.height() - 1.0 * t}, QStringLiteral("Tür und Fenster tragen nicht mit"),

@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <numeric>
 
 #include "ui/zeichnungen/Skizzen.h"
 
@@ -12,11 +14,10 @@ namespace {
 constexpr double ueberstand = 30.0;  // mm, counted on each side that runs on
 
 // A rib in section, centred on `mitte`, with its width below and its height at the left.
-void querschnitt(Zeichner& z, QPointF mitte, QSizeF masse, double f, const QString& name, double titelhoehe) {
+void querschnitt(Zeichner& z, QPointF mitte, QSizeF masse, double f) {
     const QSizeF s = masse * f;
     const QRectF r(mitte.x() - s.width() / 2.0, mitte.y() - s.height() / 2.0, s.width(), s.height());
     z.hirnholz(r);
-    z.text({mitte.x(), titelhoehe}, name, Qt::AlignHCenter, {0.95, true, {}});
     const double t = z.t();
     z.massSenkrecht(r.left() - 0.9 * t, r.left(),
                     {{r.bottom(), r.top()}, {z.zahl("0.000", masse.height() / 1000.0)}});
@@ -69,19 +70,39 @@ void zeichneRippen(Zeichner& z, const Wand& w) {
     const double luft = 3.4 * t;             // beside each section, for its dimension
     const double breite = r.width() - rechts - 3.0 * luft - t;
     const double hoehe = r.height() - 5.6 * t;
-    const double f = std::min(std::max(1.0, breite) / (g.bRandrippe + g.bInnenrippe + g.hRippe),
-                              std::max(1.0, hoehe) / std::max(g.hRippe, g.bKopfFussrippe));
-    const double rest = std::max(0.0, breite - f * (g.bRandrippe + g.bInnenrippe + g.hRippe)) / 3.0;
+    struct Spalte {
+        QSizeF masse;
+        QString name;
+    };
+    const std::array<Spalte, 3> spalten{{{{g.bRandrippe, g.hRippe}, QStringLiteral("Randrippe")},
+                                         {{g.bInnenrippe, g.hRippe}, QStringLiteral("Innenrippe")},
+                                         {{g.hRippe, g.bKopfFussrippe}, QStringLiteral("Kopf-/Fußrippe")}}};
+    const double platz = r.width() - rechts - t;
+    Textart titel{0.95, true, {}};
+    double titelbreite = 0.0;
+    for (const Spalte& s : spalten) titelbreite += z.textbreite(s.name, titel) + t;
+    titel.faktor *= std::min(1.0, 0.85 * platz / titelbreite);
+    double f = std::min(std::max(1.0, breite) / (g.bRandrippe + g.bInnenrippe + g.hRippe),
+                        std::max(1.0, hoehe) / std::max(g.hRippe, g.bKopfFussrippe));
+    // A column is as wide as its section with the dimension, or as its title.
+    const auto spaltenbreite = [&](const Spalte& s) {
+        return std::max(s.masse.width() * f + luft, z.textbreite(s.name, titel) + t);
+    };
+    const auto gesamt = [&] {
+        return std::accumulate(spalten.begin(), spalten.end(), 0.0,
+                               [&](double summe, const Spalte& s) { return summe + spaltenbreite(s); });
+    };
+    for (int i = 0; i < 20 && gesamt() > platz; ++i) f *= 0.92;
+    const double rest = std::max(0.0, platz - gesamt()) / 3.0;
     const double mitte = 2.0 * t + hoehe / 2.0;
     double x = 0.0;
-    const auto spalte = [&](QSizeF masse, const char* name) {
-        x += luft + rest / 2.0;
-        querschnitt(z, {x + masse.width() * f / 2.0, mitte}, masse, f, QString::fromUtf8(name), 1.2 * t);
-        x += masse.width() * f + rest / 2.0;
-    };
-    spalte({g.bRandrippe, g.hRippe}, "Randrippe");
-    spalte({g.bInnenrippe, g.hRippe}, "Innenrippe");
-    spalte({g.hRippe, g.bKopfFussrippe}, "Kopf-/Fußrippe");
+    for (const Spalte& s : spalten) {
+        const double spalte = spaltenbreite(s) + rest;
+        const double achse = x + (spalte + (spalte - s.masse.width() * f > luft ? 0.4 * luft : luft)) / 2.0;
+        z.text({achse, 1.2 * t}, s.name, Qt::AlignHCenter, titel);
+        querschnitt(z, {achse, mitte}, s.masse, f);
+        x += spalte;
+    }
 
     const double links = r.width() - rechts + 1.5 * t;
     const double halb = (rechts - 2.0 * t) / 2.0;
@@ -133,16 +154,18 @@ void zeichneBeplankung(Zeichner& z, const Wand& w) {
     const QRectF schnitt =
         hochformat ? QRectF(0, 0, r.width(), 0.5 * r.height()) : QRectF(0, 0, 0.5 * r.width(), r.height());
     const auto name = [&](Seite n) {
-        return z.gekuerzt(QStringLiteral("Beplankung %1: %2, %3 mm")
-                              .arg(nummer(n))
-                              .arg(plattenname(w, n), z.zahl("0.0", Plattendicke(w, n).value())),
-                          schnitt.width() - t);
+        return QStringLiteral("Beplankung %1: %2, %3 mm")
+            .arg(nummer(n))
+            .arg(plattenname(w, n), z.zahl("0.0", Plattendicke(w, n).value()));
     };
     const QRectF bild = schnitt.adjusted(t, 2.6 * t, -t, -2.4 * t);
     const QRectF gezeichnet = zeichneSchnitt(z, bild, w, Schnittbeschriftung::masse);
-    z.text({gezeichnet.left(), gezeichnet.top() - 1.2 * t},
-           g.einseitig ? QStringLiteral("Seite 2: nicht beplankt") : name(Seite::zwei), Qt::AlignLeft);
-    z.text({gezeichnet.left(), gezeichnet.bottom() + 4.3 * t}, name(Seite::eins), Qt::AlignLeft);
+    const double breite = schnitt.right() - gezeichnet.left() - 0.8 * t;
+    z.textPassend({gezeichnet.left(), gezeichnet.top() - 1.2 * t},
+                  g.einseitig ? QStringLiteral("Seite 2: nicht beplankt") : name(Seite::zwei), Qt::AlignLeft,
+                  breite);
+    z.textPassend({gezeichnet.left(), gezeichnet.bottom() + 4.3 * t}, name(Seite::eins), Qt::AlignLeft,
+                  breite);
 
     QRectF rechts = hochformat ? QRectF(0, 0.5 * r.height(), r.width(), 0.5 * r.height())
                                : QRectF(0.5 * r.width(), 0, 0.5 * r.width(), r.height());
@@ -215,9 +238,8 @@ void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n) {
     const double dk = istKlammer(v.art) ? klammerruecken : v.dk;
     zeichneVM(z, {kopf, y}, {1.0, 0.0}, v.art, {v.d * f, v.ln * f, dk * f, v.lg * f});
 
-    z.text({r.width() / 2.0, 1.3 * t},
-           z.gekuerzt(verbindungsmittelname(w, n, z), r.width() - t, {1.0, true, {}}), Qt::AlignHCenter,
-           {1.0, true, {}});
+    z.textPassend({r.width() / 2.0, 1.3 * t}, verbindungsmittelname(w, n, z), Qt::AlignHCenter, r.width() - t,
+                  {1.0, true, {}});
     QString querschnitt = QStringLiteral("d = %1").arg(z.zahl("0.00", v.d));
     if (!istKlammer(v.art) && v.art != schnellbauschraube)
         querschnitt += QStringLiteral(",  dk = %1").arg(z.zahl("0.0", v.dk));

@@ -32,7 +32,7 @@ Wandbild zeichneWandbild(Zeichner& z, const QRectF& platz, const Wand& w) {
         rippen = std::clamp<std::size_t>(p.geometrie->anzahlRippen(), 2, 6);
     }
     const double breite = std::min(platz.width(), platz.height() * verhaeltnis);
-    const double hoehe = std::min(platz.height(), breite / std::min(verhaeltnis, 1.1));
+    const double hoehe = std::min(platz.height(), breite / std::min(verhaeltnis, 0.85));
     Wandbild b;
     b.r = QRectF(platz.center().x() - breite / 2.0, platz.bottom() - hoehe, breite, hoehe);
     b.rippe = std::min(0.05 * breite, 0.9 * z.t());

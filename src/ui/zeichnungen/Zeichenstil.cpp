@@ -39,10 +39,11 @@ Zeichenstil Zeichenstil::dunkel() {
     s.grund = QColor(0x1F2428);
     s.tinte = QColor(0xE8ECEF);
     s.nebentinte = QColor(0xA3AEB6);
-    // Lines and arrows that stand on the dark ground are ink too.
+    // Lines, bolts and arrows that stand on the dark ground are ink too.
     s.plattenlinie[Seite::eins] = QColor(0xE0BC7E);
     s.plattenlinie[Seite::zwei] = QColor(0x9CC3D8);
     s.last = QColor(0xF2776D);
+    s.stahl = QColor(0x6F7F8C);
     return s;
 }
 

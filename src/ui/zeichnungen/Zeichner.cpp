@@ -153,6 +153,14 @@ void Zeichner::text(QPointF punkt, const QString& text, Qt::Alignment lage, cons
     painter_.restore();
 }
 
+void Zeichner::textPassend(QPointF punkt, const QString& text, Qt::Alignment lage, double breite,
+                           const Textart& art) {
+    constexpr double kleinste = 0.75;
+    Textart passend = art;
+    passend.faktor *= std::clamp(breite / std::max(1e-6, textbreite(text, art)), kleinste, 1.0);
+    this->text(punkt, gekuerzt(text, breite * 1.001, passend), lage, passend);
+}
+
 void Zeichner::schild(QPointF mitte, const QString& text, const Textart& art) {
     const QSizeF s(textbreite(text, art) + 0.6 * t(), 1.3 * t() * art.faktor);
     QColor grund = stil_.grund;

@@ -68,7 +68,10 @@ class Zeichner {
 
     // Text at a point: `lage` says which side of the text the point is (as Qt::Alignment).
     void text(QPointF punkt, const QString& text, Qt::Alignment lage, const Textart& art = {});
-    // The same on a patch of ground, for a label that stands before lines. The point is its middle.
+    // The same in a given width: a long text shrinks to three quarters before it is cut.
+    void textPassend(QPointF punkt, const QString& text, Qt::Alignment lage, double breite,
+                     const Textart& art = {});
+    // Text on a patch of ground, for a label that stands before lines. The point is its middle.
     void schild(QPointF mitte, const QString& text, const Textart& art = {});
     double textbreite(const QString& text, const Textart& art = {}) const;
     QString gekuerzt(const QString& text, double breite, const Textart& art = {}) const;
