@@ -1,5 +1,6 @@
 #include "ui/Eingabedialog.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -10,9 +11,11 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "model/Positionsdatei.h"
 #include "ui/Meldungen.h"
 #include "ui/Programm.h"
 #include "ui/Werteingabe.h"
+#include "ui/zeichnungen/Zeichnungsansicht.h"
 
 namespace rippenscheibe {
 
@@ -23,10 +26,10 @@ Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* 
     spalten->setSpacing(2 * raster);
     felder_ = new QVBoxLayout;
     felder_->setSpacing(raster + raster / 2);
-    skizze_ = new QVBoxLayout;
-    skizze_->setSpacing(raster);
+    skizzen_ = new QVBoxLayout;
+    skizzen_->setSpacing(raster);
     spalten->addLayout(felder_);
-    spalten->addLayout(skizze_, 1);
+    spalten->addLayout(skizzen_, 1);
     inhalt()->addLayout(spalten, 1);
 
     QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
@@ -36,16 +39,48 @@ Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* 
     connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void Eingabedialog::uebernehmen() {
-    if (const std::optional<Ablehnung> ablehnung = uebernimm()) {
-        meldungen_.kritisch(this, ablehnung->titel, ablehnung->text);
-        return;
-    }
-    nachUebernahme();
-    accept();
+void Eingabedialog::beginne() {
+    lade(programm_.w);
+    laedt_ = false;
+    folgeAenderungen();
+    zeichneNeu();
 }
 
-void Eingabedialog::nachUebernahme() { programm_.zuweisen(); }
+void Eingabedialog::folgeAenderungen() {
+    for (auto* feld : findChildren<Werteingabe*>())
+        connect(feld, &Werteingabe::geaendert, this, &Eingabedialog::zeichneNeu);
+    for (auto* feld : findChildren<QAbstractButton*>())
+        if (feld->isCheckable()) connect(feld, &QAbstractButton::toggled, this, &Eingabedialog::zeichneNeu);
+    for (auto* feld : findChildren<QComboBox*>())
+        connect(feld, &QComboBox::currentIndexChanged, this, &Eingabedialog::zeichneNeu);
+}
+
+void Eingabedialog::zeichneNeu() {
+    Wand w = programm_.w;
+    schreibe(w);
+    zuweisen(w, programm_.felder);
+    for (Zeichnungsansicht* ansicht : ansichten_) ansicht->setzeWand(w);
+}
+
+Zeichnungsansicht* Eingabedialog::skizziere(Zeichnung was) {
+    auto* ansicht = new Zeichnungsansicht(was, this);
+    ansicht->setzeDezimalzeichen(dezimalzeichen());
+    skizzen_->addWidget(ansicht, 1);
+    ansichten_.push_back(ansicht);
+    return ansicht;
+}
+
+void Eingabedialog::uebernehmen() {
+    const std::string vorher = positionstext(programm_.w);
+    schreibe(programm_.w);
+    if (positionstext(programm_.w) != vorher) programm_.setzeGesichert(false);
+    if (const std::optional<Ablehnung> grund = ablehnung(programm_.w)) {
+        meldungen_.kritisch(this, grund->titel, grund->text);
+        return;
+    }
+    programm_.zuweisen();
+    accept();
+}
 
 Werteingabe* Eingabedialog::werteingabe(const QString& name, const Wertvorgabe& vorgabe) {
     return new Werteingabe(name, vorgabe, this);
@@ -58,17 +93,27 @@ QCheckBox* Eingabedialog::ankreuzfeld(const QString& name, const QString& text) 
     return feld;
 }
 
-QRadioButton* Eingabedialog::option(const QString& name, const QString& text) {
+QButtonGroup* Eingabedialog::optionen(const QString& name, std::initializer_list<Optionstext> texte) {
+    auto* auswahl = new QButtonGroup(this);
+    for (const Optionstext& eintrag : texte) option(auswahl, name, eintrag.index, eintrag.text);
+    return auswahl;
+}
+
+QRadioButton* Eingabedialog::option(QButtonGroup* auswahl, const QString& name, int index,
+                                    const QString& text) {
     auto* feld = new QRadioButton(text, this);
-    feld->setObjectName(name);
+    feld->setObjectName(QStringLiteral("%1(%2)").arg(name).arg(index));
     feld->setAccessibleName(text.simplified());
+    auswahl->addButton(feld, index);
     return feld;
 }
 
-QComboBox* Eingabedialog::liste(const QString& name, const QString& beschriftung) {
+QComboBox* Eingabedialog::liste(const QString& name, const QString& bezeichnung,
+                                std::span<const std::string_view> eintraege) {
     auto* feld = new QComboBox(this);
     feld->setObjectName(name);
-    feld->setAccessibleName(beschriftung.simplified());
+    feld->setAccessibleName(bezeichnung.simplified());
+    for (const std::string_view text : eintraege) feld->addItem(qtext(text));
     return feld;
 }
 
@@ -88,14 +133,29 @@ QLabel* Eingabedialog::beschriftung(const QString& text, QWidget* feld) {
     return schild;
 }
 
+QLabel* Eingabedialog::notiz(const QString& text) {
+    auto* schild = new QLabel(text, this);
+    schild->setTextFormat(Qt::PlainText);
+    schild->setForegroundRole(QPalette::PlaceholderText);
+    return schild;
+}
+
 QGroupBox* Eingabedialog::gruppe(const QString& titel) {
     auto* rahmen = new QGroupBox(titel, this);
-    auto* grid = new QGridLayout(rahmen);
-    grid->setHorizontalSpacing(raster);
-    grid->setVerticalSpacing(raster);
+    auto* felder = new QGridLayout(rahmen);
+    felder->setHorizontalSpacing(raster);
+    felder->setVerticalSpacing(raster);
     return rahmen;
 }
 
 QGridLayout* Eingabedialog::grid(QGroupBox* gruppe) { return static_cast<QGridLayout*>(gruppe->layout()); }
+
+void Eingabedialog::waehle(QComboBox* liste, const Ganzzahl& index) {
+    liste->setCurrentIndex(index.value() - 1);
+}
+
+void Eingabedialog::uebernimm(const QComboBox* liste, Ganzzahl& index) {
+    if (liste->currentIndex() >= 0) index = liste->currentIndex() + 1;
+}
 
 }  // namespace rippenscheibe

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/Fenster.h"
+
+class QButtonGroup;
+class QLabel;
+
+namespace rippenscheibe {
+
+class Werteingabe;
+
+// "  Eigengewicht ermitteln": the self-weight of the wall in kN/m from the fixed unit weights. It changes no
+// record; an accept hands its result to the load dialog.
+class Form14 : public Fenster {
+    Q_OBJECT
+
+  public:
+    Form14(Programm& programm, Meldungen& meldungen, QWidget* parent);
+
+    double gkWand() const;  // kN/m
+
+  private:
+    void rechne();
+
+    QButtonGroup* daemmung_;  // id 0: present, 1: none
+    Werteingabe* dicke_;
+    Werteingabe* ergebnis_;
+    QLabel* ohneWichte_;
+};
+
+}  // namespace rippenscheibe
