@@ -6,6 +6,7 @@ class QWidget;
 
 namespace rippenscheibe {
 
+class Form5;
 class Meldungen;
 
 // The windows that others open: input dialogs, small tools, report and settings.
@@ -31,5 +32,8 @@ enum class Fensterart {
 
 // Opens a window over `fenster` and waits until it is closed.
 void oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster);
+
+// Opens the fastener catalogue over the fastener dialog; a click in it fills the boxes of side n.
+void oeffneKatalog(Form5& dialog, Seite n, Programm& programm, Meldungen& meldungen);
 
 }  // namespace rippenscheibe

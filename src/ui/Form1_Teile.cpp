@@ -1,0 +1,56 @@
+#include "ui/Form1_Teile.h"
+
+#include <QPainter>
+
+namespace rippenscheibe {
+
+Kurzzeile::Kurzzeile(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setForegroundRole(QPalette::PlaceholderText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void Kurzzeile::setzeText(const QString& text) {
+    setText(text);
+    setzeHinweis();
+}
+
+QSize Kurzzeile::minimumSizeHint() const { return {0, fontMetrics().height() + 2}; }
+
+void Kurzzeile::paintEvent(QPaintEvent*) {
+    QPainter maler(this);
+    maler.setPen(palette().color(foregroundRole()));
+    const QString gezeigt = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    maler.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, gezeigt);
+}
+
+void Kurzzeile::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    setzeHinweis();
+}
+
+void Kurzzeile::setzeHinweis() {
+    const bool passt = fontMetrics().horizontalAdvance(text()) <= contentsRect().width();
+    setToolTip(passt ? QString() : text());
+}
+
+Hinweisliste::Hinweisliste(QWidget* parent) : QListWidget(parent) {
+    setWordWrap(true);
+    setAlternatingRowColors(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void Hinweisliste::zeige(const QStringList& hinweise) {
+    clear();
+    addItems(hinweise);
+}
+
+void Hinweisliste::paintEvent(QPaintEvent* event) {
+    QListWidget::paintEvent(event);
+    if (count() > 0) return;
+    QPainter maler(viewport());
+    maler.setPen(palette().color(QPalette::PlaceholderText));
+    maler.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("keine Hinweise"));
+}
+
+}  // namespace rippenscheibe
