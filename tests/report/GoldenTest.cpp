@@ -1,3 +1,6 @@
+#include <array>
+#include <cstdint>
+#include <cstdio>
 #include <set>
 
 #include "model/EigeneMaterialienDatei.h"
@@ -38,6 +41,59 @@ std::string seiten(const Wand& w, Form form) {
     tests::Aufzeichnung flaeche;
     druckeSeiten(flaeche, bericht(w, form), auftrag);
     return flaeche.protokoll();
+}
+
+// All inputs and results as text, numbers to twelve digits.
+struct Sammler {
+    std::string text;
+
+    void nimm(const Feldangabe& feld, double wert) {
+        std::array<char, 40> puffer{};
+        std::snprintf(puffer.data(), puffer.size(), "=%.12g;", wert == 0 ? 0.0 : wert);
+        text.append(feld.name).append(puffer.data());
+    }
+    template <class T>
+    void operator()(const Feldangabe& feld, const Gespeichert<T>& wert) {
+        nimm(feld, static_cast<double>(wert.value()));
+    }
+    void operator()(const Feldangabe& feld, bool wert) { nimm(feld, wert ? 1 : 0); }
+    void operator()(const Feldangabe& feld, const std::string& wert) { text.append(feld.name).append(wert); }
+    void operator()(const Feldangabe& feld, const Rippenfeld& werte) {
+        for (int i = 0; i < static_cast<int>(Rippenfeld::laenge); ++i) nimm(feld, werte(i).value());
+    }
+    template <class Zeilen>
+    void operator()(const Feldangabe& feld, const Zeilen& zeilen) {
+        for (const auto& zeile : zeilen) (*this)(feld, zeile);
+    }
+};
+
+// FNV-1a, the same on every machine.
+std::uint64_t pruefsumme(std::string_view text) {
+    std::uint64_t summe = 14695981039346656037U;
+    for (const char zeichen : text) summe = (summe ^ static_cast<unsigned char>(zeichen)) * 1099511628211U;
+    return summe;
+}
+
+// One signature an example over every field after a first and a second run: a refactoring keeps it, a
+// change of behaviour changes it on purpose.
+TEST(Golden, TheSignatureOverAllResultsIsTheApprovedOne) {
+    std::set<std::string> zeilen;
+    for (const std::filesystem::path& datei : beispiele()) {
+        Wand w;
+        w.eigeneMaterialien = liesEigeneMaterialien(ordner / materialdatei);
+        liesPosition(datei, w);
+        Sammler sammler;
+        for (int lauf = 0; lauf < 2; ++lauf) {
+            zuweisen(w, grundmasse(w));
+            starte(w, Hinweisbehandlung::uebergehen);
+            jedeEingabe(w, sammler);
+            jedesErgebnis(w, sammler);
+        }
+        zeilen.insert(datei.stem().string() + " " + std::to_string(pruefsumme(sammler.text)) + "\n");
+    }
+    std::string signatur;
+    for (const std::string& zeile : zeilen) signatur += zeile;
+    tests::erwarteGolden("signatur.txt", signatur);
 }
 
 TEST(Golden, TheReportsOfTheExamplesAreTheApprovedOnes) {
