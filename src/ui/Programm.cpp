@@ -8,10 +8,14 @@
 #include <QStandardPaths>
 #include <utility>
 
+// Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.
+static void verbindeRessourcen() { Q_INIT_RESOURCE(ressourcen); }
+
 namespace rippenscheibe {
 
 Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {
+    verbindeRessourcen();
     setzeVorgaben(w);
     felder = grundmasse(w);
 }

@@ -30,10 +30,6 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     waehleSprache();
 
-    // Qt's own buttons, menus and dialogs in German, whatever the locale: the program is.
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
-
     QCommandLineParser befehlszeile;
     befehlszeile.setApplicationDescription(
         QStringLiteral("Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)"));
@@ -45,6 +41,10 @@ int main(int argc, char** argv) {
     const QString datei = befehlszeile.positionalArguments().value(0);
 
     Programm programm(programmordner());
+    // Qt's own buttons, menus and dialogs in German, whatever the locale: the program is.
+    QTranslator deutsch;
+    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
+
     Plattformmeldungen meldungen;
     Form0 startbild(programm);
     std::unique_ptr<Form1> hauptfenster;
