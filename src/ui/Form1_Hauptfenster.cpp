@@ -26,6 +26,7 @@
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "model/EigeneMaterialienDatei.h"
 #include "plausibility/Plausibilitaetslauf.h"
@@ -70,13 +71,14 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     mitte->setChildrenCollapsible(false);
     mitte->addWidget(baueLinkeSpalte());
     mitte->addWidget(baueRechteSpalte());
+    mitte->setSizes({380, 800});
     mitte->setStretchFactor(0, 0);
     mitte->setStretchFactor(1, 1);
     setCentralWidget(mitte);
     baueMenue();
     baueWerkzeugleiste();
     baueStatuszeile();
-    setzeSymbole();
+    setzeFarben();
 
     auto* regel = new Tastenregel(this, {QStringLiteral("Text"), QStringLiteral("Mate")});
     connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
@@ -116,7 +118,7 @@ QWidget* Form1::baueLinkeSpalte() {
     rollen->setFrameShape(QFrame::NoFrame);
     rollen->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     rollen->setFocusPolicy(Qt::NoFocus);
-    rollen->setMinimumWidth(inhalt->sizeHint().width() + 2 * raster);
+    rollen->setMinimumWidth(std::max(inhalt->sizeHint().width() + 2 * raster, 340));
     aussen->addWidget(rollen, 1);
 
     const auto startknopf = [&](const QString& name, const QString& text, Fensterart ausgabe) {
@@ -133,8 +135,9 @@ QWidget* Form1::baueLinkeSpalte() {
     };
     startknopf(QStringLiteral("ComErgDruck"), QStringLiteral("Berechnung starten und Werte ausdrucken"),
                Fensterart::druck);
-    startknopf(QStringLiteral("ComErgEin2"), QStringLiteral("Berechnung starten und Ergebnisse einsehen"),
-               Fensterart::ergebnisse);
+    einsehen_ =
+        startknopf(QStringLiteral("ComErgEin2"), QStringLiteral("Berechnung starten und Ergebnisse einsehen"),
+                   Fensterart::ergebnisse);
     return spalte;
 }
 
@@ -230,7 +233,7 @@ QWidget* Form1::baueRechteSpalte() {
     teiler->addWidget(rahmen);
     teiler->setStretchFactor(0, 1);
     teiler->setStretchFactor(1, 0);
-    teiler->setSizes({560, 130});
+    teiler->setSizes({580, 110});
     teiler->setContentsMargins(0, raster, raster, raster);
     return teiler;
 }
@@ -358,6 +361,7 @@ void Form1::baueStatuszeile() {
     statusBar()->setToolTip(QStringLiteral("Klick öffnet den Kalender"));
     const auto feld = [this](const QString& text, int dehnung) {
         auto* schild = new QLabel(text, this);
+        schild->setContentsMargins(0, 0, 2 * raster, 0);
         schild->installEventFilter(this);
         statusBar()->addPermanentWidget(schild, dehnung);
     };
@@ -367,8 +371,13 @@ void Form1::baueStatuszeile() {
     statusBar()->installEventFilter(this);
 }
 
-// Each icon is drawn twice: for a light and for a dark ground.
-void Form1::setzeSymbole() {
+// What follows the colours of the desktop: each icon is drawn twice, for a light and for a dark ground, and
+// the default action stands in the accent colour.
+void Form1::setzeFarben() {
+    QPalette akzent = palette();
+    akzent.setColor(QPalette::Button, palette().color(QPalette::Highlight));
+    akzent.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
+    einsehen_->setPalette(akzent);
     const bool dunkel = palette().color(QPalette::Window).lightness() < 128;
     for (const Symboltraeger& traeger : symbole_)
         traeger.setze(QIcon(QStringLiteral(":/icons/%1%2.svg")
@@ -543,7 +552,7 @@ void Form1::dropEvent(QDropEvent* event) {
 
 void Form1::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) setzeSymbole();
+    if (event->type() == QEvent::PaletteChange) setzeFarben();
 }
 
 bool Form1::eventFilter(QObject* object, QEvent* event) {

@@ -56,7 +56,7 @@ class Form1 : public QMainWindow {
     QGroupBox* baueEingabe();
     QAction* befehl(QMenu* menue, const QString& name, const QString& text,
                     const std::function<void()>& ausfuehren);
-    void setzeSymbole();
+    void setzeFarben();
 
     void zeige();
     void zeigeTitel();
@@ -85,6 +85,7 @@ class Form1 : public QMainWindow {
     std::vector<Symboltraeger> symbole_;
     Zeichnungsansicht* ansicht_ = nullptr;
     Hinweisliste* hinweise_ = nullptr;
+    QPushButton* einsehen_ = nullptr;
     QMenu* zuletzt_ = nullptr;
     bool endeBestaetigt_ = false;
 };
