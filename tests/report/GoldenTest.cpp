@@ -1,6 +1,6 @@
 #include <array>
+#include <charconv>
 #include <cstdint>
-#include <cstdio>
 #include <set>
 
 #include "model/EigeneMaterialienDatei.h"
@@ -49,8 +49,9 @@ struct Sammler {
 
     void nimm(const Feldangabe& feld, double wert) {
         std::array<char, 40> puffer{};
-        std::snprintf(puffer.data(), puffer.size(), "=%.12g;", wert == 0 ? 0.0 : wert);
-        text.append(feld.name).append(puffer.data());
+        const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert == 0 ? 0.0 : wert,
+                                        std::chars_format::general, 12);
+        text.append(feld.name).append("=").append(puffer.data(), ende.ptr).append(";");
     }
     template <class T>
     void operator()(const Feldangabe& feld, const Gespeichert<T>& wert) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
+#include "basis/Zahlenformat.h"
 #include "report/Zeichenflaeche.h"
 
 namespace rippenscheibe::tests {
@@ -63,9 +63,7 @@ class Aufzeichnung : public Zeichenflaeche {
         std::string alles;
         for (const Eintrag& e : eintraege) {
             if (e.art == Art::lesezeichen) continue;
-            char platz[100];
-            std::snprintf(platz, sizeof platz, "%d %7.2f %7.2f ", e.seite, e.wo.x, e.wo.y);
-            alles += platz;
+            alles += std::to_string(e.seite) + " " + mm(e.wo.x, 7) + " " + mm(e.wo.y, 7) + " ";
             alles += e.art == Art::text ? beschreibung(e.schrift) + "|" + e.text + "|" : form(e);
             alles += '\n';
         }
@@ -77,11 +75,15 @@ class Aufzeichnung : public Zeichenflaeche {
         return s.name + " " + std::to_string(s.groesse) + (s.fett ? "b" : "") + (s.kursiv ? "i" : "") +
                (s.unterstrichen ? "u" : "");
     }
+    // Hundredths of a millimetre, right-aligned, whatever the locale.
+    static std::string mm(double wert, std::size_t breite = 0) {
+        const std::string text = formatiere("0.00", wert, '.');
+        return text.size() < breite ? std::string(breite - text.size(), ' ') + text : text;
+    }
     static std::string form(const Eintrag& e) {
-        char mass[100];
-        std::snprintf(mass, sizeof mass, " %.2f x %.2f", e.wo.breite, e.wo.hoehe);
+        const std::string mass = " " + mm(e.wo.breite) + " x " + mm(e.wo.hoehe);
         if (e.art == Art::bild) return "Bild " + std::to_string(static_cast<int>(e.bild)) + mass;
-        return (e.art == Art::rahmen ? "Rahmen" : "Fläche") + std::string(mass);
+        return (e.art == Art::rahmen ? "Rahmen" : "Fläche") + mass;
     }
 
     Schrift schrift_;
