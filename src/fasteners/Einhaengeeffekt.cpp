@@ -52,6 +52,25 @@ void setzeDeltaRd(Wand& w, Seite n, double anteil) {
     w.deltaRd[n] = Min(anteilAusziehen * w.Rxd[n], anteil * w.Rd[n]);
 }
 
+void setzeZuwachsVereinfacht(Wand& w, Seite n, const Einhaengeregel& regel) {
+    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
+        w.deltaRk[n] = 0;
+        return;
+    }
+    regel.setzeRxk(w, n, Verfahren::vereinfacht);
+    setzeDeltaRk(w, n, regel.anteil);
+}
+
+void setzeZuwachsGenau(Wand& w, Seite n, const Einhaengeregel& regel) {
+    if (!w.DeltaRd) {
+        w.deltaRd[n] = 0;
+        return;
+    }
+    regel.setzeRxk(w, n, Verfahren::genau);
+    if (!regel.laesstRxdStehen(w, n)) setzeRxd(w, n);
+    setzeDeltaRd(w, n, regel.anteil);
+}
+
 void addiereDeltaRd(Wand& w, Seite n) {
     if (w.Rd[n] == w.RdD[n]) {
         w.Rd[n] = w.deltaRd[n] + w.RdD[n];

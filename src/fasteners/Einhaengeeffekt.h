@@ -41,6 +41,17 @@ bool hatEinhaengeeffekt(const Wand& w, Seite n);
 // The gain, 0.25 times the withdrawal capacity and at most anteil * Rk or anteil * Rd.
 void setzeDeltaRk(Wand& w, Seite n, double anteil);
 void setzeDeltaRd(Wand& w, Seite n, double anteil);
+
+// What sets the rope effect of a family apart: how it finds lef, f1k, f2k and Rxk, and which share of the
+// shear capacity the gain may reach.
+struct Einhaengeregel {
+    void (*setzeRxk)(Wand& w, Seite n, Verfahren verfahren);
+    double anteil;
+    bool (*laesstRxdStehen)(const Wand& w, Seite n) = [](const Wand&, Seite) { return false; };
+};
+// The gain of the simplified method (deltaRk) and of the exact one (Rxd, deltaRd).
+void setzeZuwachsVereinfacht(Wand& w, Seite n, const Einhaengeregel& regel);
+void setzeZuwachsGenau(Wand& w, Seite n, const Einhaengeregel& regel);
 // Adds deltaRd to Rd when the governing mode has a plastic hinge (D, E, F), told by exact equality.
 void addiereDeltaRd(Wand& w, Seite n);
 

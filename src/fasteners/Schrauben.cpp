@@ -85,24 +85,7 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     }
 }
 
-void setzeZuwachsVereinfacht(Wand& w, Seite n) {
-    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
-        w.deltaRk[n] = 0;
-        return;
-    }
-    setzeRxk(w, n, Verfahren::vereinfacht);
-    setzeDeltaRk(w, n, anteilEinhaengen);
-}
-
-void setzeZuwachsGenau(Wand& w, Seite n) {
-    if (!w.DeltaRd) {
-        w.deltaRd[n] = 0;
-        return;
-    }
-    setzeRxk(w, n, Verfahren::genau);
-    setzeRxd(w, n);
-    setzeDeltaRd(w, n, anteilEinhaengen);
-}
+constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen};
 
 }  // namespace
 
@@ -110,7 +93,7 @@ void schraubenVereinfacht(Wand& w, Seite n) {
     setzeFliessmoment(w, n, Verfahren::vereinfacht);
     setzeGruppen(w, n);
     setzeRk(w, n);
-    setzeZuwachsVereinfacht(w, n);
+    setzeZuwachsVereinfacht(w, n, einhaengeregel);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
 }
 
@@ -125,7 +108,7 @@ void schraubenGenau(Wand& w, Seite n) {
     if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
     setzeVersagensarten(w, n, Schaefte::einer);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
-    setzeZuwachsGenau(w, n);
+    setzeZuwachsGenau(w, n, einhaengeregel);
     addiereDeltaRd(w, n);
 }
 

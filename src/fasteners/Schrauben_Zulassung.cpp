@@ -123,24 +123,7 @@ bool laesstRxdStehen(const Wand& w, Seite n) {
            pruefeEinbindung(w, n, mindesteinbindung) == Einbindung::genuegt;
 }
 
-void setzeZuwachsVereinfacht(Wand& w, Seite n) {
-    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
-        w.deltaRk[n] = 0;
-        return;
-    }
-    setzeRxk(w, n, Verfahren::vereinfacht);
-    setzeDeltaRk(w, n, anteilEinhaengen);
-}
-
-void setzeZuwachsGenau(Wand& w, Seite n) {
-    if (!w.DeltaRd) {
-        w.deltaRd[n] = 0;
-        return;
-    }
-    setzeRxk(w, n, Verfahren::genau);
-    if (!laesstRxdStehen(w, n)) setzeRxd(w, n);
-    setzeDeltaRd(w, n, anteilEinhaengen);
-}
+constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen, laesstRxdStehen};
 
 }  // namespace
 
@@ -148,7 +131,7 @@ void schraubenZulassungVereinfacht(Wand& w, Seite n) {
     setzeFliessmoment(w, n, Verfahren::vereinfacht);
     setzeGruppen(w, n);
     setzeRk(w, n);
-    setzeZuwachsVereinfacht(w, n);
+    setzeZuwachsVereinfacht(w, n, einhaengeregel);
     const auto& regeln = n == Seite::eins ? ausschluesse : ausschluesseSeite2Vereinfacht;
     w.Rd[n] = ausgeschlossen(w, n, regeln) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
 }
@@ -163,7 +146,7 @@ void schraubenZulassungGenau(Wand& w, Seite n) {
     }
     setzeVersagensarten(w, n, Schaefte::einer);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
-    setzeZuwachsGenau(w, n);
+    setzeZuwachsGenau(w, n, einhaengeregel);
     addiereDeltaRd(w, n);
 }
 

@@ -67,24 +67,7 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     setzeRxkNachDicke(w, n, cKopf[static_cast<std::size_t>(klasse)]);
 }
 
-void setzeZuwachsVereinfacht(Wand& w, Seite n) {
-    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
-        w.deltaRk[n] = 0;
-        return;
-    }
-    setzeRxk(w, n, Verfahren::vereinfacht);
-    setzeDeltaRk(w, n, anteilEinhaengen);
-}
-
-void setzeZuwachsGenau(Wand& w, Seite n) {
-    if (!w.DeltaRd) {
-        w.deltaRd[n] = 0;
-        return;
-    }
-    setzeRxk(w, n, Verfahren::genau);
-    setzeRxd(w, n);
-    setzeDeltaRd(w, n, anteilEinhaengen);
-}
+constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen};
 
 }  // namespace
 
@@ -92,7 +75,7 @@ void sondernaegelVereinfacht(Wand& w, Seite n) {
     setzeFliessmoment(w, n);
     setzeGruppen(w, n);
     setzeRk(w, n);
-    setzeZuwachsVereinfacht(w, n);
+    setzeZuwachsVereinfacht(w, n, einhaengeregel);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
 }
 
@@ -108,7 +91,7 @@ void sondernaegelGenau(Wand& w, Seite n) {
     if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
     setzeVersagensarten(w, n, Schaefte::einer);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
-    setzeZuwachsGenau(w, n);
+    setzeZuwachsGenau(w, n, einhaengeregel);
     addiereDeltaRd(w, n);
 }
 
