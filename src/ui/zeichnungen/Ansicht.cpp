@@ -119,7 +119,7 @@ void Ansicht::ordneAn() {
     for (const Lastzeile& last : lastzeilen_) oben += lastzeilenhoehe(last);
     const double unten = 7.0 * t;  // ground and two dimension chains
     const bool mitSchnitt = r.height() >= 20.0 * t + oben && r.width() >= 26.0 * t;
-    const double schnitt = mitSchnitt ? std::clamp(0.27 * r.height(), 9.0 * t, 16.0 * t) : 0.0;
+    const double schnitt = mitSchnitt ? std::clamp(0.31 * r.height(), 10.0 * t, 17.0 * t) : 0.0;
 
     const double breite = std::max(1.0, r.width() - links - rechts);
     const double hoehe = std::max(1.0, r.height() - oben - unten - schnitt);

@@ -14,39 +14,6 @@ constexpr double groessteKante = 20000.0;  // pixels
 
 }  // namespace
 
-QSizeF groesse(Zeichnung was) {
-    switch (was) {
-        case Zeichnung::ansicht:
-            return {100.0, 91.0};
-        case Zeichnung::rippen:
-            return {90.0, 37.0};
-        case Zeichnung::beplankung:
-            return {90.0, 50.0};
-        case Zeichnung::verbindungsmittel1:
-        case Zeichnung::verbindungsmittel2:
-            return {60.0, 60.0};
-        case Zeichnung::anker:
-            return {66.0, 90.0};
-        case Zeichnung::last:
-            return {44.0, 70.0};
-        case Zeichnung::schubfluss:
-            return {50.0, 34.0};
-        case Zeichnung::stoesse:
-            return {103.0, 110.0};
-        case Zeichnung::oeffnungen:
-            return {102.0, 70.0};
-        case Zeichnung::gruppen:
-            return {80.0, 60.0};
-        case Zeichnung::ueberstand:
-            return {90.0, 70.0};
-        case Zeichnung::rollbild:
-            return {80.0, 250.0};
-        case Zeichnung::startbild:
-            return {120.0, 70.0};
-    }
-    return {100.0, 70.0};
-}
-
 QImage bild(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Zeichenstil& stil) {
     const double punkte = aufloesung / mmJeZoll;
     const QSizeF kanten = mm * punkte;

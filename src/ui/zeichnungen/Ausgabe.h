@@ -14,9 +14,6 @@
 
 namespace rippenscheibe {
 
-// Width by height of a drawing in the report, mm; for drawings that only the screen shows a fitting size.
-QSizeF groesse(Zeichnung was);
-
 // The drawing on paper style, `aufloesung` in dots per inch. Empty when the size or the resolution is none.
 QImage bild(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Zeichenstil& stil);
 // The same as the bytes of a PNG file that states its size.

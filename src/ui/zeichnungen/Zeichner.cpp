@@ -35,8 +35,6 @@ Zeichner::Zeichner(QPainter& painter, const QRectF& flaeche, const Zeichenstil& 
     painter_.save();
     if (!(stil_.mm > 0.0) || !std::isfinite(stil_.mm)) stil_.mm = 1.0;
     flaeche_ = QRectF(0.0, 0.0, flaeche.width() / stil_.mm, flaeche.height() / stil_.mm);
-    // A small drawing has small text, so that its parts keep their places.
-    stil_.schrifthoehe = std::min({stil_.schrifthoehe, 0.055 * flaeche_.width(), 0.075 * flaeche_.height()});
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setRenderHint(QPainter::TextAntialiasing);
     if (stil_.grundFuellen) painter_.fillRect(flaeche, stil_.grund);

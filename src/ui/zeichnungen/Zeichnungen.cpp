@@ -1,14 +1,60 @@
 #include "ui/zeichnungen/Zeichnungen.h"
 
-#include <optional>
+#include <algorithm>
 
 #include "ui/zeichnungen/Skizzen.h"
 
 namespace rippenscheibe {
 
+namespace {
+
+// A style whose text is not larger, beside the drawing, than on paper; a little more for wider fonts.
+Zeichenstil passend(Zeichnung was, const QRectF& flaeche, Zeichenstil stil) {
+    const QSizeF vorbild = groesse(was) * stil.mm;
+    const double anteil = std::min(flaeche.width() / vorbild.width(), flaeche.height() / vorbild.height());
+    if (anteil > 0.0)
+        stil.schrifthoehe = std::min(stil.schrifthoehe, 1.05 * Zeichenstil::papier().schrifthoehe * anteil);
+    return stil;
+}
+
+}  // namespace
+
+QSizeF groesse(Zeichnung was) {
+    switch (was) {
+        case Zeichnung::ansicht:
+            return {100.0, 91.0};
+        case Zeichnung::rippen:
+            return {90.0, 37.0};
+        case Zeichnung::beplankung:
+            return {90.0, 50.0};
+        case Zeichnung::verbindungsmittel1:
+        case Zeichnung::verbindungsmittel2:
+            return {60.0, 60.0};
+        case Zeichnung::anker:
+            return {66.0, 90.0};
+        case Zeichnung::last:
+            return {44.0, 70.0};
+        case Zeichnung::schubfluss:
+            return {50.0, 34.0};
+        case Zeichnung::stoesse:
+            return {103.0, 110.0};
+        case Zeichnung::oeffnungen:
+            return {102.0, 70.0};
+        case Zeichnung::gruppen:
+            return {80.0, 60.0};
+        case Zeichnung::ueberstand:
+            return {90.0, 70.0};
+        case Zeichnung::rollbild:
+            return {80.0, 250.0};
+        case Zeichnung::startbild:
+            return {120.0, 70.0};
+    }
+    return {100.0, 70.0};
+}
+
 void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w,
              const Zeichenstil& stil) {
-    Zeichner z(painter, flaeche, stil);
+    Zeichner z(painter, flaeche, passend(was, flaeche, stil));
     if (z.zuKlein()) return;
     switch (was) {
         case Zeichnung::ansicht:

@@ -2,13 +2,15 @@
 
 #include <QPainter>
 #include <QRectF>
+#include <QSizeF>
 
 #include "model/Wand.h"
 #include "report/Zeile.h"
 #include "ui/zeichnungen/Zeichenstil.h"
 
 // All drawings of the program. Each draws into `flaeche` (painter units) from the inputs of the record, in
-// one style for screen, paper and SVG. None fails: sizes that cannot be drawn give a frame with a sentence,
+// one style for screen, paper and SVG. In an area smaller than `groesse` the text
+// shrinks with it. None fails: sizes that cannot be drawn give a frame with a sentence,
 // and an area too small to read stays empty.
 
 namespace rippenscheibe {
@@ -29,6 +31,9 @@ enum class Zeichnung {
     rollbild,    // a tall picture of the whole wall, layer by layer
     startbild,
 };
+
+// Width by height of a drawing in the report, mm; for drawings that only the screen shows a fitting size.
+QSizeF groesse(Zeichnung was);
 
 void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w, const Zeichenstil& stil);
 

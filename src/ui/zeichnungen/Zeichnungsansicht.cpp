@@ -1,7 +1,9 @@
 #include "ui/zeichnungen/Zeichnungsansicht.h"
 
+#include <QFontInfo>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/zeichnungen/Ausgabe.h"
 
@@ -75,12 +77,13 @@ QSize Zeichnungsansicht::sizeHint() const {
     return (groesse(was_) * punkteJeMm).toSize();
 }
 
-QSize Zeichnungsansicht::minimumSizeHint() const { return sizeHint() / 2; }
+QSize Zeichnungsansicht::minimumSizeHint() const { return sizeHint() * 0.7; }
 
 void Zeichnungsansicht::paintEvent(QPaintEvent*) {
     Zeichenstil stil = Zeichenstil::zuPalette(palette());
     stil.dezimalzeichen = dezimalzeichen_;
     stil.familie = font().family();
+    stil.schrifthoehe = std::clamp(QFontInfo(font()).pixelSize() / stil.mm, 2.4, 6.0);
     QPainter painter(this);
     zeichne(painter, QRectF(rect()), was_, wand_, stil);
 }
