@@ -105,6 +105,15 @@ std::optional<double> alsZahl(const Rohfeld& feld) {
     return alsZahl(feld.text);
 }
 
+// The start of a text for a message, cut between characters.
+std::string gekuerzt(std::string_view text) {
+    constexpr std::size_t hoechstens = 60;
+    if (text.size() <= hoechstens) return std::string(text);
+    std::size_t ende = hoechstens;
+    while (ende > 0 && (static_cast<unsigned char>(text[ende]) & 0xC0) == 0x80) --ende;
+    return std::string(text.substr(0, ende)) + "...";
+}
+
 template <class T>
 void anfuegenMitStellen(std::string& text, T wert, int stellen) {
     if (wert == T{0}) wert = T{0};  // minus zero is written 0
@@ -184,7 +193,7 @@ std::string beschreibung(const Uebersprungen& feld) {
     std::string text = "Zeile " + std::to_string(feld.zeile) + ", " + feld.feld + ": ";
     switch (feld.grund) {
         case Grund::unlesbar:
-            text += "nicht lesbar (" + feld.gefunden + ")";
+            text += "nicht lesbar (" + gekuerzt(feld.gefunden) + ")";
             break;
         case Grund::dahinter:
             text += "steht hinter einem nicht lesbaren Feld";

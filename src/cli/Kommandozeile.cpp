@@ -98,7 +98,7 @@ void fuegeDateienHinzu(CLI::App& befehl, std::vector<std::filesystem::path>& dat
 
 // What CLI11 complains about, in German. Its texts begin with the name of the option.
 std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app) {
-    const std::string text = fehler.what();
+    std::string text = fehler.what();
     const std::string option = text.substr(0, text.find_first_of(": "));
     std::string unbekannt;
     for (const std::string& angabe : app.remaining(true)) unbekannt += " " + angabe;

@@ -79,7 +79,9 @@ std::vector<Uebersprungen> liesPositionstext(std::string_view text, Wand& w) {
         w.Zusatzbemerkungen.assign(anzahl > 0 ? anzahl : zeilenOhneAnzahl, {});
         for (std::size_t i = 0; i < anzahl; ++i) {
             const std::string name = "Zusatzbemerkungen(" + std::to_string(i + 1) + ")";
+            const bool fehlt = leser.amEnde();
             leser.lies(ziel(name, w.Zusatzbemerkungen[i]));
+            if (fehlt) break;  // one report for all that the file lacks
         }
     };
     jedeAnweisung(

@@ -129,6 +129,10 @@ TEST(Anweisungen, EverySkippedFieldIsReportedWithLineNameFoundAndKept) {
               "Zeile 1, t: steht hinter einem nicht lesbaren Feld, beibehalten: \"alt\"");
     EXPECT_EQ(beschreibung(felder[2]), "Zeile 1, c: steht hinter einem nicht lesbaren Feld, beibehalten: -3");
     EXPECT_EQ(beschreibung(felder[3]), "Zeile 2, c: fehlt, beibehalten: -3");
+    // 59 letters and the first byte of an umlaut would fit.
+    const Uebersprungen lang{1, "t", Grund::unlesbar, std::string(59, 'x') + "ää", "0"};
+    EXPECT_EQ(beschreibung(lang),
+              "Zeile 1, t: nicht lesbar (" + std::string(59, 'x') + "...), beibehalten: 0");
 }
 
 TEST(Anweisungen, NumbersAreWrittenAtFifteenOrSevenDigits) {
