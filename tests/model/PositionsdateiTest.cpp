@@ -2,6 +2,8 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <map>
+#include <sstream>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -75,6 +77,50 @@ TEST(Positionsdatei, AWrittenPositionReadsBackAndIsWrittenTheSame) {
     EXPECT_EQ(w.VMTyp[Seite::zwei], 7);
     EXPECT_EQ(w.gkWand, 0.36F);
     EXPECT_TRUE(w.Zweireihig[Seite::zwei]);
+}
+
+std::vector<std::string> geteilt(const std::string& zeile) {
+    std::vector<std::string> felder;
+    std::istringstream strom(zeile);
+    for (std::string feld; std::getline(strom, feld, ',');) felder.push_back(feld);
+    return felder;
+}
+
+TEST(Positionsdatei, EachFieldStandsAtItsPlace) {
+    const std::vector<std::string> namen{
+        "Wandlaenge,Wandhoehe,Rippenabstand,bRandrippe,bInnenrippe,bKopfFussrippe,hRandrippe,hInnenrippe",
+        "FussrippeLinksDurchgehend,FussrippeRechtsDurchgehend",
+        "Holzart,Material1,Material2,Einseitig",
+        "Gestossen1,Gestossen2,Plattendicke1,Plattendicke2,Plattenbreite1,Plattenbreite2",
+        "NKLRippen,NKLBeplankung1,NKLBeplankung2",
+        "av1,av2,d1,d2,ln1,ln2,fuk1,fuk2,VMArt1,VMArt2",
+        "VMKlasse1,VMKlasse2,dk1,dk2,lg1,lg2",
+        "Vorgebohrt1,Vorgebohrt2,Versenkt1,Versenkt2,VMTyp1,VMTyp2",
+        "Ankertyp,NachweisVerankerung,AnzahlAnkerNaegel,RdAnker,Kammnagel,kserAnker,FreierAnkerName,"
+        "Teilausnagelung",
+        "Fvk,gk,qk,wk,Fcgk,Fcqk,Lastfall,WindQuer,gkWand,KLED",
+        "GenauesVerfahren,Erhoehung20,DeltaRd,beta,KlammerWinkelOption,VertikallastVerteilung,"
+        "LagesicherungVerfahren",
+        "Zweireihig1,Zweireihig2,AnzahlAnker,EigenesMaterial1,EigenesMaterial2",
+    };
+    Wand w;
+    liesPositionstext(lauterVerschiedeneWerte(), w);
+    std::map<std::string, std::string> gelesen;
+    jedeEingabe(w, [&](const Feldangabe& angabe, const auto& feld) {
+        if constexpr (requires { schreibweise(feld); })
+            gelesen[std::string(angabe.name)] = schreibweise(feld);
+    });
+    std::istringstream strom(lauterVerschiedeneWerte());
+    std::string zeile;
+    for (int kopf = 0; kopf < 8; ++kopf) std::getline(strom, zeile);
+    for (const std::string& namenszeile : namen) {
+        std::getline(strom, zeile);
+        zeile.pop_back();  // CR
+        const std::vector<std::string> felder = geteilt(namenszeile);
+        const std::vector<std::string> werte = geteilt(zeile);
+        ASSERT_EQ(felder.size(), werte.size());
+        for (std::size_t i = 0; i < felder.size(); ++i) EXPECT_EQ(gelesen[felder[i]], werte[i]) << felder[i];
+    }
 }
 
 TEST(Positionsdatei, AFieldThatDoesNotParseLeavesItAndTheRestOfItsLine) {
