@@ -19,6 +19,10 @@
 
 namespace rippenscheibe {
 
+namespace {
+constexpr QSize kleinsteSkizze(320, 190);
+}
+
 Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* parent, const QString& name,
                              const QString& titel)
     : Fenster(programm, meldungen, parent, name, titel) {
@@ -65,6 +69,7 @@ void Eingabedialog::zeichneNeu() {
 Zeichnungsansicht* Eingabedialog::skizziere(Zeichnung was) {
     auto* ansicht = new Zeichnungsansicht(was, this);
     ansicht->setzeDezimalzeichen(dezimalzeichen());
+    ansicht->setMinimumSize(kleinsteSkizze);
     skizzen_->addWidget(ansicht, 1);
     ansichten_.push_back(ansicht);
     return ansicht;

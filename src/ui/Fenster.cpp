@@ -113,10 +113,15 @@ QPushButton* Fenster::zurueck(const QString& name) {
     return knopf;
 }
 
-// The first field, not a button, has the focus when the window shows.
+// The buttons at the bottom are built first and come last in the tab order; the first field has the focus.
 void Fenster::showEvent(QShowEvent* event) {
+    for (int i = 0; i < fusszeile_->count(); ++i)
+        if (QWidget* knopf = fusszeile_->itemAt(i)->widget();
+            knopf != nullptr && knopf != previousInFocusChain())
+            setTabOrder(previousInFocusChain(), knopf);
     QDialog::showEvent(event);
-    if (focusWidget() == nullptr || qobject_cast<QPushButton*>(focusWidget()) != nullptr) focusNextChild();
+    if (focusWidget() == nullptr || fusszeile_->indexOf(focusWidget()) >= 0)
+        if (QWidget* erstes = nachbar(this, this, true)) erstes->setFocus(Qt::TabFocusReason);
 }
 
 }  // namespace rippenscheibe

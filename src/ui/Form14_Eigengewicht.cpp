@@ -25,6 +25,8 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
         daemmung_->addButton(feld, index);
         return feld;
     };
+    auto* ohne = option(1, QStringLiteral(" keine Dämmung vorhanden"));
+    auto* mit = option(0, QStringLiteral(" Dämmung vorhanden >>>"));
     dicke_ = new Werteingabe(QStringLiteral("Textbox1(0)"),
                              {.beschriftung = QStringLiteral("Dicke der Dämmung ="),
                               .einheit = QStringLiteral("cm"),
@@ -40,8 +42,6 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
     auto* felder = new QGridLayout;
     felder->setSpacing(raster);
-    auto* ohne = option(1, QStringLiteral(" keine Dämmung vorhanden"));
-    auto* mit = option(0, QStringLiteral(" Dämmung vorhanden >>>"));
     felder->addWidget(ohne, 0, 0);
     felder->addWidget(mit, 1, 0);
     dicke_->setzeInZeile(felder, 1, 1);

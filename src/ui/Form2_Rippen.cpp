@@ -36,8 +36,12 @@ Form2::Form2(Programm& programm, Meldungen& meldungen, QWidget* parent)
 void Form2::baueQuerschnitte() {
     const auto mass = [this](int index, const QString& text, const QString& einheit,
                              const QString& bezeichnung) {
-        Wertvorgabe vorgabe{
-            .beschriftung = text, .einheit = einheit, .min = 4, .max = 1000, .maske = QStringLiteral("0.0")};
+        Wertvorgabe vorgabe{.beschriftung = text,
+                            .einheit = einheit,
+                            .min = 4,
+                            .max = 1000,
+                            .maske = QStringLiteral("0.0"),
+                            .bereichseinheit = QStringLiteral("cm")};
         Werteingabe* feld = werteingabe(QStringLiteral("Textbox1(%1)").arg(index), vorgabe);
         feld->setAccessibleName(bezeichnung);
         return feld;

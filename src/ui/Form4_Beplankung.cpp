@@ -104,6 +104,7 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     QGridLayout* felder = grid(s.rahmen);
     felder->addWidget(beschriftung(QStringLiteral("Material:"), s.material), 0, 0);
     felder->addWidget(s.material, 0, 1, 1, 2);
+    felder->addWidget(beschriftung(QStringLiteral("eigenes Material:"), s.eigenes), 1, 0);
     felder->addWidget(s.eigenes, 1, 1, 1, 2);
     s.dicke->setzeInZeile(felder, 2);
     s.breite->setzeInZeile(felder, 3);

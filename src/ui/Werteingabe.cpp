@@ -76,7 +76,8 @@ void Werteingabe::setzeWert(double wert) {
 }
 
 QString Werteingabe::bereichstext() const {
-    const QString einheit = vorgabe_.einheit.section(QLatin1Char('('), 0, 0).trimmed();
+    const QString& schild = vorgabe_.bereichseinheit.isEmpty() ? vorgabe_.einheit : vorgabe_.bereichseinheit;
+    const QString einheit = schild.section(QLatin1Char('('), 0, 0).trimmed();
     const QString text =
         QStringLiteral("zulässig: %1 bis %2").arg(grenze(vorgabe_.min), grenze(vorgabe_.max));
     return einheit.isEmpty() ? text : text + QLatin1Char(' ') + einheit;

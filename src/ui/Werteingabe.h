@@ -17,6 +17,7 @@ struct Wertvorgabe {
     double max = std::numeric_limits<double>::max();
     QString maske = QStringLiteral("0.000");  // display format
     int hoechstlaenge = 0;                    // most characters; 0 is no limit
+    QString bereichseinheit{};                // unit of the allowed range where it is not the label's
 };
 
 // Labelled value input: a label, a text box for a number, a unit. The text box is this widget, label and
