@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -124,6 +125,32 @@ TEST_F(Programmdateien, TwoProgramsThatEndLoseNoProject) {
     ASSERT_FALSE(sichereProjektliste(datei, zweite, gelesen));
     EXPECT_EQ(liesProjektliste(datei).eintraege,
               (std::vector<Projekteintrag>{{"B", "b"}, {"D", "d"}, {"C", "c"}}));
+}
+
+TEST_F(Programmdateien, ProgramsThatEndAtTheSameTimeLoseNoProject) {
+    constexpr int programme = 6;
+    constexpr int projekte = 10;
+    const fs::path datei = ordner / projektlistendatei;
+    std::vector<pid_t> kinder;
+    for (int p = 0; p < programme; ++p) {
+        const pid_t kind = ::fork();
+        ASSERT_GE(kind, 0);
+        if (kind == 0) {
+            bool gut = true;
+            for (int i = 0; i < projekte; ++i) {
+                const Projekteintrag neu{std::to_string(p), std::to_string(i)};
+                gut = !sichereProjektliste(datei, {"P", {neu}}, {}) && gut;
+            }
+            ::_exit(gut ? 0 : 1);
+        }
+        kinder.push_back(kind);
+    }
+    for (const pid_t kind : kinder) {
+        int status = -1;
+        ::waitpid(kind, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(liesProjektliste(datei).eintraege.size(), std::size_t{programme * projekte});
 }
 
 TEST_F(Programmdateien, AHandedOverPositionIsTakenOnce) {
