@@ -1,23 +1,16 @@
 #include <cstdio>
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <variant>
 #include <vector>
 
+#include "basis/Programmordner.h"
 #include "cli/Befehle.h"
 #include "cli/Kommandozeile.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using namespace rippenscheibe;
-
-fs::path programmordner() {
-    std::error_code fehler;
-    return fs::read_symlink("/proc/self/exe", fehler).parent_path();
-}
 
 void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
 
