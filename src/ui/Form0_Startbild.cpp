@@ -15,7 +15,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr QSize groesse(560, 340);
+constexpr QSize fenstergroesse(560, 340);
 constexpr int streifen = 96;  // height of the strip with the texts, px
 
 QLabel* schild(const QString& name, const QString& text, double faktor, bool fett, QWidget* parent) {
@@ -37,11 +37,11 @@ Form0::Form0(const Programm& programm, QWidget* parent)
     setObjectName(QStringLiteral("form0"));
     setWindowTitle(QStringLiteral("Rippenscheibe"));
     setAccessibleName(windowTitle());
-    setFixedSize(groesse);
+    setFixedSize(fenstergroesse);
     setFocusPolicy(Qt::StrongFocus);
 
     auto* aussen = new QVBoxLayout(this);
-    aussen->setContentsMargins(24, groesse.height() - streifen + 8, 24, 12);
+    aussen->setContentsMargins(24, fenstergroesse.height() - streifen + 8, 24, 12);
     aussen->setSpacing(2);
     aussen->addWidget(
         schild(QStringLiteral("lblProductName"), QStringLiteral("Rippenscheibe"), 2.0, true, this));

@@ -27,7 +27,7 @@ constexpr int schritt = 40;           // twips a tick
 constexpr int zeigergrenze = 6000;    // the pointer starts it above this height
 constexpr int obererRand = -5000;     // beyond it the picture ...
 constexpr int untererAnfang = 10000;  // ... comes back from below
-constexpr QSize bildgroesse(260, -obererRand / twipsJePixel);
+constexpr int rahmenbreite = 300;
 
 // A paragraph: its lines in the list of the report, from 1.
 struct Absatz {
@@ -111,14 +111,13 @@ QWidget* Form10::baueErsteKarte() {
     rahmen_->setParent(seite);
     rahmen_->setObjectName(QStringLiteral("Frame1"));
     rahmen_->setFrameShape(QFrame::StyledPanel);
-    rahmen_->setFixedWidth(bildgroesse.width() + 2 * raster);
-    rahmen_->setMinimumHeight(zeigergrenze / twipsJePixel);
+    rahmen_->setFixedWidth(rahmenbreite);
+    rahmen_->setMinimumHeight(zeigergrenze / twipsJePixel + 10 * raster);
     rahmen_->setMouseTracking(true);
     rahmen_->installEventFilter(this);
     bild_->setObjectName(QStringLiteral("Image1"));
     bild_->setAttribute(Qt::WA_TransparentForMouseEvents);
     bild_->setzeWand(programm_.w);
-    bild_->setGeometry(QRect(QPoint(raster, 0), bildgroesse));
     zeile->addWidget(rahmen_);
     return seite;
 }
@@ -129,13 +128,20 @@ bool Form10::eventFilter(QObject* object, QEvent* event) {
         const bool oben = maus.position().y() * twipsJePixel < zeigergrenze;
         if (oben && !uhr_->isActive()) uhr_->start();
     }
+    if (object == rahmen_ && event->type() == QEvent::Resize) {
+        // As tall as what passes by: its end is in sight when it jumps back.
+        bild_->resize(rahmen_->width() - 2, rahmen_->height() - obererRand / twipsJePixel);
+        legeBild();
+    }
     return Fenster::eventFilter(object, event);
 }
 
 void Form10::rolle() {
     oben_ -= schritt;
     if (oben_ < obererRand) oben_ = untererAnfang;
-    bild_->move(raster, oben_ / twipsJePixel);
+    legeBild();
 }
+
+void Form10::legeBild() { bild_->move(1, oben_ / twipsJePixel); }
 
 }  // namespace rippenscheibe

@@ -22,6 +22,7 @@ class Form10 : public Fenster {
   private:
     QWidget* baueErsteKarte();
     void rolle();
+    void legeBild();
 
     QFrame* rahmen_;
     Zeichnungsansicht* bild_;

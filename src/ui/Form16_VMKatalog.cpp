@@ -70,9 +70,9 @@ Form16::Form16(Programm& programm, Meldungen& meldungen, QWidget* dialog, Seite 
     auto* rechts = new QVBoxLayout;
     for (QVBoxLayout* spalte : {links, rechts}) spalte->setSpacing(raster);
     for (const VMKataloggruppe& gruppe : VMKataloggruppen()) {
-        // The two long lists of screws fill the column at the right.
-        const bool lang = gruppe.letzteZeile - gruppe.ersteZeile > 15;
-        (lang ? rechts : links)->addWidget(baueGruppe(gruppe));
+        // The two long lists of screws and the short one of nails fill the column at the right.
+        const int anzahl = gruppe.letzteZeile - gruppe.ersteZeile + 1;
+        (anzahl == 21 || anzahl == 3 ? rechts : links)->addWidget(baueGruppe(gruppe));
     }
     links->addStretch(1);
     rechts->addStretch(1);
@@ -86,23 +86,34 @@ Form16::Form16(Programm& programm, Meldungen& meldungen, QWidget* dialog, Seite 
     connect(ende, &QPushButton::clicked, this, &QDialog::reject);
 
     const QSize bedarf = flaeche->sizeHint();
-    rolle->setMinimumSize(bedarf.width() + 24, std::min(bedarf.height() + 4, 620));
+    rolle->setMinimumSize(bedarf.width() + 24, std::min(bedarf.height() + 4, 660));
 }
 
 QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
     auto* rahmen = new QGroupBox(qtext(gruppe.name), this);
-    auto* spalte = new QVBoxLayout(rahmen);
+    auto* spalte = new QVBoxLayout;
     spalte->setSpacing(raster / 2);
     for (const std::string_view hinweis : {gruppe.hinweis, gruppe.zusatz}) {
         if (hinweis.empty()) continue;
         auto* schild = new QLabel(qtext(hinweis), rahmen);
         schild->setTextFormat(Qt::PlainText);
-        spalte->addWidget(schild);
+        spalte->addWidget(schild, 0, Qt::AlignTop);
     }
+    // The note stands beside the buttons, above them where they need the width.
     auto* grid = new QGridLayout;
+    const bool breit = gruppe.letzteZeile - gruppe.ersteZeile > 15;
+    auto* aussen = new QBoxLayout(breit ? QBoxLayout::TopToBottom : QBoxLayout::RightToLeft, rahmen);
+    aussen->addLayout(spalte);
+    aussen->addLayout(grid);
+    if (breit) {
+        aussen->setSpacing(raster / 2);
+    } else {
+        aussen->addStretch(0);
+        spalte->addStretch(1);
+        aussen->setStretch(0, 1);
+    }
     grid->setHorizontalSpacing(raster / 2);
     grid->setVerticalSpacing(2);
-    spalte->addLayout(grid);
     const int anzahl = gruppe.letzteZeile - gruppe.ersteZeile + 1;
     const int jeSpalte = zeilenJeSpalte(anzahl);
     for (int i = 0; i < anzahl; ++i) {
