@@ -34,6 +34,8 @@
 #include "ui/Fenster.h"
 #include "ui/Form1_Teile.h"
 #include "ui/Form1_Zusammenfassung.h"
+#include "ui/Form99_EigeneMaterialien.h"
+#include "ui/Handbuch.h"
 #include "ui/Meldungen.h"
 #include "ui/Werteingabe.h"
 #include "ui/zeichnungen/Zeichnungsansicht.h"
@@ -308,6 +310,9 @@ void Form1::baueMenue() {
            [this] { oeffneFenster(Fensterart::systemkonfiguration); });
 
     QMenu* hilfe = menue(QStringLiteral("mnuHilfe"), QStringLiteral("&Hilfe"));
+    befehl(hilfe, QStringLiteral("mnuHandbuch"), QStringLiteral("&Handbuch"), [this] {
+        oeffneHandbuch(this);
+    })->setShortcut(QKeySequence(Qt::Key_F1));
     befehl(hilfe, QStringLiteral("mnuRandbedingungen"), QStringLiteral("&Randbedingungen"),
            [this] { oeffneFenster(Fensterart::randbedingungen); });
     befehl(hilfe, QStringLiteral("mnuUeber"), QStringLiteral("&Über Rippenscheibe"), [this] {
@@ -388,7 +393,7 @@ void Form1::setzeFarben() {
 
 void Form1::starte(const QString& datei) {
     programm_.ladeEinstellungen();
-    programm_.w.eigeneMaterialien = liesEigeneMaterialien(programm_.datei(materialdatei));
+    programm_.w.eigeneMaterialien = ladeEigeneMaterialien(programm_.datei(materialdatei));
     setzeVorgaben(programm_.w);
     programm_.felder = grundmasse(programm_.w);
     programm_.zuweisen();

@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QFile>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <array>
 
+#include "basis/Zeichensatz.h"
 #include "model/EigeneMaterialienDatei.h"
 #include "model/Materialverwaltung.h"
 #include "ui/Meldungen.h"
@@ -310,6 +312,16 @@ void Form99::zurueckUndSichern() {
         return;
     }
     accept();
+}
+
+EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei) {
+    std::error_code fehler;
+    if (std::filesystem::exists(datei, fehler)) return liesEigeneMaterialien(datei);
+    QFile geliefert(QStringLiteral(":/Plattenwerte.dat"));
+    if (!geliefert.open(QIODevice::ReadOnly)) return {};
+    const std::string bytes = geliefert.readAll().toStdString();
+    static_cast<void>(schreibeDauerhaft(datei, bytes));
+    return eigeneMaterialienAus(dekodiert(bytes));
 }
 
 }  // namespace rippenscheibe

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <vector>
 
 #include "model/EigeneMaterialien.h"
@@ -52,5 +53,9 @@ class Form99 : public Fenster {
     QPushButton* neu_;
     QPushButton* uebernehmen_;
 };
+
+// The table of the file; at the first start, when there is none, the one delivered with the program, which is
+// put there then. A folder that takes no file does not matter.
+EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei);
 
 }  // namespace rippenscheibe

@@ -7,6 +7,7 @@
 
 #include "ui/Form0_Startbild.h"
 #include "ui/Form1_Hauptfenster.h"
+#include "ui/Handbuch.h"
 #include "ui/Meldungen.h"
 #include "ui/Programm.h"
 
@@ -46,6 +47,7 @@ int main(int argc, char** argv) {
     if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
 
     Plattformmeldungen meldungen;
+    const Hilfetaste hilfetaste(&application);
     Form0 startbild(programm);
     std::unique_ptr<Form1> hauptfenster;
     QObject::connect(&startbild, &Form0::entladen, &application, [&] {
