@@ -4,8 +4,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QMessageBox>
 #include <QPageSetupDialog>
+#include <QPrintDialog>
 #include <QStandardPaths>
 
 namespace rippenscheibe {
@@ -87,6 +89,14 @@ std::optional<QString> Plattformmeldungen::sichern(QWidget* fenster, const Datei
 
 void Plattformmeldungen::richteDruckerEin(QWidget* fenster, QPrinter& drucker) {
     QPageSetupDialog(&drucker, fenster).exec();
+}
+
+bool Plattformmeldungen::waehleDrucker(QPrintDialog& dialog) { return dialog.exec() == QDialog::Accepted; }
+
+std::optional<QFont> Plattformmeldungen::waehleSchrift(QWidget* fenster, const QFont& schrift) {
+    bool gewaehlt = false;
+    const QFont neu = QFontDialog::getFont(&gewaehlt, schrift, fenster);
+    return gewaehlt ? std::optional(neu) : std::nullopt;
 }
 
 void Plattformmeldungen::piep() { QApplication::beep(); }

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <optional>
 
+class QFont;
+class QPrintDialog;
 class QPrinter;
 class QWidget;
 
@@ -44,6 +46,10 @@ class Meldungen {
     virtual std::optional<QString> sichern(QWidget* fenster, const Dateiwahl& wahl) = 0;
     // Lets the user choose the printer and its paper.
     virtual void richteDruckerEin(QWidget* fenster, QPrinter& drucker) = 0;
+    // Shows the print dialog; false after a cancel.
+    virtual bool waehleDrucker(QPrintDialog& dialog) = 0;
+    // The chosen font, or nothing after a cancel.
+    virtual std::optional<QFont> waehleSchrift(QWidget* fenster, const QFont& schrift) = 0;
     virtual void piep() = 0;
 
     void kritisch(QWidget* fenster, const QString& titel, const QString& text) {
@@ -61,6 +67,8 @@ class Plattformmeldungen : public Meldungen {
     std::optional<QString> oeffnen(QWidget* fenster, const Dateiwahl& wahl) override;
     std::optional<QString> sichern(QWidget* fenster, const Dateiwahl& wahl) override;
     void richteDruckerEin(QWidget* fenster, QPrinter& drucker) override;
+    bool waehleDrucker(QPrintDialog& dialog) override;
+    std::optional<QFont> waehleSchrift(QWidget* fenster, const QFont& schrift) override;
     void piep() override;
 };
 

@@ -1,11 +1,9 @@
 #include "ui/Programm.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QLocale>
 #include <QPrinter>
-#include <QStandardPaths>
+#include <system_error>
 #include <utility>
 
 // Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.
@@ -16,6 +14,8 @@ namespace rippenscheibe {
 Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {
     verbindeRessourcen();
+    std::error_code fehler;  // a folder that cannot be made shows when something is saved
+    std::filesystem::create_directories(ordner, fehler);
     setzeVorgaben(w);
     felder = grundmasse(w);
 }
@@ -36,7 +36,10 @@ std::optional<Dateifehler> Programm::sichereProjekte() {
 }
 
 QPrinter& Programm::drucker() {
-    if (drucker_ == nullptr) drucker_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (drucker_ == nullptr) {
+        drucker_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        drucker_->setPageSize(QPageSize(QPageSize::A4));  // the report is made for it
+    }
     return *drucker_;
 }
 
@@ -54,14 +57,6 @@ void Programm::setzeTitel(const QString& titel) {
 void Programm::zuweisen() {
     rippenscheibe::zuweisen(w, felder);
     Q_EMIT geaendert();
-}
-
-std::filesystem::path programmordner() {
-    const QFileInfo neben(QCoreApplication::applicationDirPath());
-    if (neben.isWritable()) return pfad(neben.absoluteFilePath());
-    const QString daten = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QDir().mkpath(daten);
-    return pfad(daten);
 }
 
 std::filesystem::path pfad(const QString& text) {

@@ -42,6 +42,7 @@ class Programm : public QObject {
     bool Sperre = false;                      // no Zuweisen on a change of the three fields
     bool SpeichernUnter = false;              // leaving the project dialog saves the position
     Dateiaktion Aktion = Dateiaktion::keine;  // the pending file action
+    bool SeitenzahlDrucken = true;            // of the last print job
     QString DialogDateiname;                  // the file name that the file dialog holds
     QString DialogOrdner;                     // its initial folder
 
@@ -77,10 +78,6 @@ class Programm : public QObject {
     Projektliste projekteGelesen_;  // as they were in the file
     std::unique_ptr<QPrinter> drucker_;
 };
-
-// The folder of the executable where it can be written (portable use), else the user's data folder of the
-// platform, which is made when it is missing.
-std::filesystem::path programmordner();
 
 // All text inside the program is UTF-8.
 inline QString qtext(std::string_view text) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QFont>
 #include <deque>
+#include <functional>
 #include <vector>
 
 #include "ui/Meldungen.h"
@@ -13,9 +15,13 @@ class GeskripteteMeldungen : public Meldungen {
   public:
     std::deque<Antwort> antworten;
     std::deque<QString> dateien;
+    std::deque<QFont> schriften;
+    bool druckAbgebrochen = false;                       // what the print dialog answers
+    std::function<void(QPrintDialog&)> imDruckdialog{};  // what the user does in it
 
     std::vector<Meldung> gezeigt;
     std::vector<Dateiwahl> gewaehlt;
+    QFont vorgelegt;  // what the font dialog began with
     int gepiept = 0;
     int druckerEingerichtet = 0;
 
@@ -29,6 +35,17 @@ class GeskripteteMeldungen : public Meldungen {
     std::optional<QString> oeffnen(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
     std::optional<QString> sichern(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
     void richteDruckerEin(QWidget*, QPrinter&) override { ++druckerEingerichtet; }
+    bool waehleDrucker(QPrintDialog& dialog) override {
+        if (imDruckdialog) imDruckdialog(dialog);
+        return !druckAbgebrochen;
+    }
+    std::optional<QFont> waehleSchrift(QWidget*, const QFont& schrift) override {
+        vorgelegt = schrift;
+        if (schriften.empty()) return std::nullopt;
+        const QFont gewaehlt = schriften.front();
+        schriften.pop_front();
+        return gewaehlt;
+    }
     void piep() override { ++gepiept; }
 
   private:
