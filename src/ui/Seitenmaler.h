@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+#include <functional>
+
+#include "model/Wand.h"
+#include "report/Zeichenflaeche.h"
+
+// The pages of the report on paper: a surface in millimetres on any painter, be it that of a printer, of a
+// PDF, of a preview or of a widget.
+
+namespace rippenscheibe {
+
+// The font of a text on paper: its size in points, and a free family of the same widths where the named one
+// is not installed.
+QFont papierschrift(const Schrift& schrift);
+
+// Height above the base line and height of a line of that font, mm. They are those of the outlines, so that
+// pages break at the same lines on every device.
+struct Schriftmass {
+    double oberlaenge = 0.0;
+    double hoehe = 0.0;
+};
+Schriftmass schriftmass(const Schrift& schrift);
+
+class Seitenmaler : public Zeichenflaeche {
+  public:
+    // What the pictures show. `logo` may be empty: then nothing is painted at its place.
+    struct Bildquelle {
+        const Wand& w;
+        QImage logo;
+        char dezimalzeichen = ',';
+    };
+    // `mm` is the painter's unit for one millimetre; the painter's origin is the corner of the page.
+    // `neueSeite` begins the next page.
+    Seitenmaler(QPainter& painter, double mm, Bildquelle bilder, std::function<void()> neueSeite = {});
+
+    void setzeSchrift(const Schrift& schrift) override;
+    void setzeStrich(double breite) override;
+    void text(double x, double y, std::string_view text) override;
+    void rahmen(const Rechteck& rechteck, Farbe farbe) override;
+    void flaeche(const Rechteck& rechteck, Farbe farbe) override;
+    void bild(Bild bild, const Rechteck& rechteck) override;
+    void neueSeite() override;
+    double texthoehe(std::string_view text) const override;
+
+  private:
+    QRectF inEinheiten(const Rechteck& r) const;
+
+    QPainter& painter_;
+    double mm_;
+    Bildquelle bilder_;
+    std::function<void()> neueSeite_;
+    QColor textfarbe_ = Qt::black;
+    double strich_ = 0.0;  // painter units
+    Schriftmass mass_;     // of the current font
+};
+
+}  // namespace rippenscheibe
