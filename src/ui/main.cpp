@@ -1,14 +1,19 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QHashSeed>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <cstdio>
 #include <memory>
 
+#include "basis/Programmordner.h"
 #include "ui/Form0_Startbild.h"
 #include "ui/Form1_Hauptfenster.h"
 #include "ui/Handbuch.h"
 #include "ui/Meldungen.h"
+#include "ui/PdfBefehl.h"
 #include "ui/Programm.h"
 
 using namespace rippenscheibe;
@@ -22,22 +27,39 @@ void waehleSprache() {
                                                         : eigene);
 }
 
+void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
+
+// The command that needs no display.
+int laufeOhneFenster(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What Qt says about a missing session is of no use here; only the program's own messages are.
+    qInstallMessageHandler([](QtMsgType art, const QMessageLogContext&, const QString& text) {
+        if (art == QtFatalMsg) schreibe(stderr, text.toStdString() + "\n");
+    });
+    QHashSeed::setDeterministicGlobalSeed();  // the order of a PDF's parts depends on it
+    const QGuiApplication application(argc, argv);
+    QTranslator deutsch;
+    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QCoreApplication::installTranslator(&deutsch);
+    const Pdfausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
+                               [](std::string_view text) { schreibe(stderr, text); }};
+    return static_cast<int>(fuehrePdfBefehlAus(QCoreApplication::arguments(), programmordner(), ausgaben));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("rippenscheibe"));
     QApplication::setApplicationVersion(QStringLiteral(RIPPENSCHEIBE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("rippenscheibe"));
+    QStringList angaben;
+    for (int i = 0; i < argc; ++i) angaben << QString::fromLocal8Bit(argv[i]);
+    if (istPdfBefehl(angaben)) return laufeOhneFenster(argc, argv);
+
     QApplication application(argc, argv);
     waehleSprache();
 
     QCommandLineParser befehlszeile;
-    befehlszeile.setApplicationDescription(
-        QStringLiteral("Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)"));
-    befehlszeile.addHelpOption();
-    befehlszeile.addVersionOption();
-    befehlszeile.addPositionalArgument(QStringLiteral("DATEI"), QStringLiteral("Positionsdatei (*.rsw)"),
-                                       QStringLiteral("[DATEI]"));
+    beschreibeAufruf(befehlszeile);
     befehlszeile.process(application);
     const QString datei = befehlszeile.positionalArguments().value(0);
 

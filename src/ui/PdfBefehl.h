@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QStringList>
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+class QCommandLineParser;
+
+namespace rippenscheibe {
+
+// `rippenscheibe --pdf AUS.pdf [--form lang|kurz] DATEI`: the printed report of a position as a PDF,
+// without a window and without a display.
+
+// What the program tells its caller; the numbers of the command-line tool.
+enum class Pdfrueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
+
+// Where the texts for the user go, UTF-8.
+struct Pdfausgaben {
+    std::function<void(std::string_view)> standard;
+    std::function<void(std::string_view)> meldungen;
+};
+
+// The options of the window program: those of this command, help, version and the position file.
+void beschreibeAufruf(QCommandLineParser& befehlszeile);
+
+// Whether these arguments ask for it.
+bool istPdfBefehl(const QStringList& argumente);
+
+// Carries it out; the first argument is the program's name. Settings, logo and own materials are those of
+// the program's folder. Pages are numbered from 1, and the page number file is left alone. Findings that
+// block the run, and faults, write no file.
+Pdfrueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem::path& programmordner,
+                                const Pdfausgaben& ausgaben);
+
+}  // namespace rippenscheibe
