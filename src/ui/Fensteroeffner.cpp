@@ -7,12 +7,15 @@
 #include "ui/Form15_Projektdaten.h"
 #include "ui/Form16_VMKatalog.h"
 #include "ui/Form222_Bemerkungen.h"
+#include "ui/Form23_Ergebnisse.h"
 #include "ui/Form2_Rippen.h"
 #include "ui/Form3_Taschenrechner.h"
 #include "ui/Form4_Beplankung.h"
 #include "ui/Form5_Verbindungsmittel.h"
 #include "ui/Form60_Kalender.h"
+#include "ui/Form6_Druck.h"
 #include "ui/Form7_Verankerung.h"
+#include "ui/Form8_Seitenkopf.h"
 #include "ui/Form99_EigeneMaterialien.h"
 #include "ui/Form9_Belastung.h"
 #include "ui/Meldungen.h"
@@ -59,9 +62,11 @@ void oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* f
         case Fensterart::ueberstaende:
             return zeige<Form11>(programm, meldungen, fenster);
         case Fensterart::seitenkopf:
+            return zeige<Form8>(programm, meldungen, fenster);
         case Fensterart::druck:
+            return zeige<Form6>(programm, meldungen, fenster);
         case Fensterart::ergebnisse:
-            return;
+            return zeige<Form23>(programm, meldungen, fenster);
     }
 }
 
