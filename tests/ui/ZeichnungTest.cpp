@@ -279,9 +279,13 @@ void pruefeLabels(const Mitschrift& m, QSizeF blatt, const std::string& name) {
 }
 
 TEST(Zeichnung, LabelsStayInsideTheDrawingAndDoNotMeet) {
-    for (const Zeichnung was : alleZeichnungen) {
-        for (const Fall& fall : uebliche) {
-            const Wand w = wand(fall.aendere);
+    for (const Fall& fall : uebliche) {
+        const Wand w = wand(fall.aendere);
+        for (const Zeichnung was : {Zeichnung::rippen, Zeichnung::beplankung}) {
+            const QSizeF quadrat(320, 310);  // the two parts stand one above the other
+            pruefeLabels(schreibeMit(was, w, quadrat, Zeichenstil::hell()), quadrat, fall.name);
+        }
+        for (const Zeichnung was : alleZeichnungen) {
             const std::string name = std::to_string(static_cast<int>(was)) + ' ' + fall.name;
             pruefeLabels(aufPapier(was, w), groesse(was), name + ", paper");
             for (const double punkte : {3.5, 5.0}) {  // the smallest and the usual size of the widget

@@ -13,14 +13,18 @@ namespace {
 
 constexpr double ueberstand = 30.0;  // mm, counted on each side that runs on
 
-// A rib in section, centred on `mitte`, with its width below and its height at the left.
-void querschnitt(Zeichner& z, QPointF mitte, QSizeF masse, double f) {
+// A rib in section, centred on `mitte`, with its width below and its height at the left. Above `oben`
+// stands something else.
+void querschnitt(Zeichner& z, QPointF mitte, QSizeF masse, double f, double oben) {
     const QSizeF s = masse * f;
     const QRectF r(mitte.x() - s.width() / 2.0, mitte.y() - s.height() / 2.0, s.width(), s.height());
     z.hirnholz(r);
     const double t = z.t();
+    const QString hoehe = z.zahl("0.000", masse.height() / 1000.0);
+    // A figure longer than the height goes above where that is free, else below.
+    const bool nachOben = r.top() - z.textbreite(hoehe) - 0.8 * t > oben;
     z.massSenkrecht(r.left() - 0.9 * t, r.left(),
-                    {{r.bottom(), r.top()}, {z.zahl("0.000", masse.height() / 1000.0)}});
+                    {{nachOben ? r.bottom() : r.top(), nachOben ? r.top() : r.bottom()}, {hoehe}});
     const QString breite = z.zahl("0.000", masse.width() / 1000.0);
     if (z.textbreite(breite) + 0.4 * t < s.width())
         return z.massWaagerecht(r.bottom() + 1.9 * t, r.bottom(), {{r.left(), r.right()}, {breite}});
@@ -60,15 +64,11 @@ void fusspunkt(Zeichner& z, const QRectF& r, Wandende ende, Fussrippe fussrippe)
 
 }  // namespace
 
-void zeichneRippen(Zeichner& z, const Wand& w) {
-    const Geometriepruefung pruefung = pruefeGeometrie(w);
-    if (!pruefung.geometrie) return z.satzImRahmen(pruefung.satz);
-    const Wandgeometrie& g = *pruefung.geometrie;
+namespace {
+
+void querschnitte(Zeichner& z, const QRectF& r, const Wandgeometrie& g) {
     const double t = z.t();
-    const QRectF r = z.flaeche();
-    const double rechts = 0.30 * r.width();  // the feet
-    const double luft = 3.4 * t;             // beside each section, for its dimension
-    const double breite = r.width() - rechts - 3.0 * luft - t;
+    const double luft = 3.4 * t;  // beside each section, for its dimension
     const double hoehe = r.height() - 5.6 * t;
     struct Spalte {
         QSizeF masse;
@@ -77,12 +77,11 @@ void zeichneRippen(Zeichner& z, const Wand& w) {
     const std::array<Spalte, 3> spalten{{{{g.bRandrippe, g.hRippe}, QStringLiteral("Randrippe")},
                                          {{g.bInnenrippe, g.hRippe}, QStringLiteral("Innenrippe")},
                                          {{g.hRippe, g.bKopfFussrippe}, QStringLiteral("Kopf-/Fußrippe")}}};
-    const double platz = r.width() - rechts - t;
     Textart titel{0.95, true, {}};
     double titelbreite = 0.0;
     for (const Spalte& s : spalten) titelbreite += z.textbreite(s.name, titel) + t;
-    titel.faktor *= std::min(1.0, 0.85 * platz / titelbreite);
-    double f = std::min(std::max(1.0, breite) / (g.bRandrippe + g.bInnenrippe + g.hRippe),
+    titel.faktor *= std::min(1.0, 0.85 * r.width() / titelbreite);
+    double f = std::min(std::max(1.0, r.width() - 3.0 * luft) / (g.bRandrippe + g.bInnenrippe + g.hRippe),
                         std::max(1.0, hoehe) / std::max(g.hRippe, g.bKopfFussrippe));
     // A column is as wide as its section with the dimension, or as its title.
     const auto spaltenbreite = [&](const Spalte& s) {
@@ -92,30 +91,52 @@ void zeichneRippen(Zeichner& z, const Wand& w) {
         return std::accumulate(spalten.begin(), spalten.end(), 0.0,
                                [&](double summe, const Spalte& s) { return summe + spaltenbreite(s); });
     };
-    for (int i = 0; i < 20 && gesamt() > platz; ++i) f *= 0.92;
-    const double rest = std::max(0.0, platz - gesamt()) / 3.0;
-    const double mitte = 2.0 * t + hoehe / 2.0;
-    double x = 0.0;
+    for (int i = 0; i < 20 && gesamt() > r.width(); ++i) f *= 0.92;
+    const double rest = std::max(0.0, r.width() - gesamt()) / 3.0;
+    double x = r.left();
     for (const Spalte& s : spalten) {
         const double spalte = spaltenbreite(s) + rest;
-        const double achse = x + (spalte + (spalte - s.masse.width() * f > luft ? 0.4 * luft : luft)) / 2.0;
-        z.text({achse, 1.2 * t}, s.name, Qt::AlignHCenter, titel);
-        querschnitt(z, {achse, mitte}, s.masse, f);
+        const double versatz = spalte - s.masse.width() * f > luft ? 0.4 * luft : luft;
+        const double titelrechts = x + spalte - 0.5 * z.textbreite(s.name, titel) - 0.1 * t;
+        const double achse = std::min(x + (spalte + versatz) / 2.0, titelrechts);
+        z.text({achse, r.top() + 1.2 * t}, s.name, Qt::AlignHCenter, titel);
+        querschnitt(z, {achse, r.top() + 2.0 * t + hoehe / 2.0}, s.masse, f, r.top() + 1.4 * t);
         x += spalte;
     }
+}
 
-    const double links = r.width() - rechts + 1.5 * t;
-    const double halb = (rechts - 2.0 * t) / 2.0;
+// Both ends of the bottom rib, flush or running on.
+void fussrippe(Zeichner& z, const QRectF& r, const Wand& w) {
+    const double t = z.t();
+    const double luecke = 0.9 * t;
+    const double breite = std::min(r.width() / 2.0 - luecke, 9.0 * t);
     const auto art = [](bool durchgehend) {
         return durchgehend ? Fussrippe::durchgehend : Fussrippe::buendig;
     };
-    z.text({links + halb, 1.2 * t}, QStringLiteral("Fußrippe"), Qt::AlignHCenter, {0.95, true, {}});
-    const double oben = 2.2 * t;
-    const double tief = std::min(r.height() - oben - 0.4 * t, 13.0 * t);
-    const double y = oben + (r.height() - oben - 0.4 * t - tief) / 2.0;
-    fusspunkt(z, {links, y, halb - 0.7 * t, tief}, Wandende::links, art(w.FussrippeLinksDurchgehend));
-    fusspunkt(z, {links + halb + 0.2 * t, y, halb - 0.7 * t, tief}, Wandende::rechts,
+    const double mitte = r.center().x();
+    z.text({mitte, r.top() + 1.2 * t}, QStringLiteral("Fußrippe"), Qt::AlignHCenter, {0.95, true, {}});
+    const double oben = r.top() + 2.2 * t;
+    const double hoehe = std::min(r.bottom() - oben - 0.4 * t, 13.0 * t);
+    const double y = oben + (r.bottom() - oben - 0.4 * t - hoehe) / 2.0;
+    fusspunkt(z, {mitte - luecke / 2.0 - breite, y, breite, hoehe}, Wandende::links,
+              art(w.FussrippeLinksDurchgehend));
+    fusspunkt(z, {mitte + luecke / 2.0, y, breite, hoehe}, Wandende::rechts,
               art(w.FussrippeRechtsDurchgehend));
+}
+
+}  // namespace
+
+void zeichneRippen(Zeichner& z, const Wand& w) {
+    const Geometriepruefung pruefung = pruefeGeometrie(w);
+    if (!pruefung.geometrie) return z.satzImRahmen(pruefung.satz);
+    const QRectF r = z.flaeche();
+    if (istHochformat(r)) {
+        querschnitte(z, {0.0, 0.0, r.width(), 0.54 * r.height()}, *pruefung.geometrie);
+        return fussrippe(z, {0.0, 0.58 * r.height(), r.width(), 0.42 * r.height()}, w);
+    }
+    const double rechts = 0.29 * r.width();
+    querschnitte(z, {0.0, 0.0, r.width() - rechts - z.t(), r.height()}, *pruefung.geometrie);
+    fussrippe(z, {r.width() - rechts, 0.0, rechts - 0.5 * z.t(), r.height()}, w);
 }
 
 namespace {
@@ -150,9 +171,9 @@ void zeichneBeplankung(Zeichner& z, const Wand& w) {
     const Wandgeometrie& g = *pruefung.geometrie;
     const double t = z.t();
     const QRectF r = z.flaeche();
-    const bool hochformat = r.height() > 1.2 * r.width();
+    const bool hochformat = istHochformat(r);
     const QRectF schnitt =
-        hochformat ? QRectF(0, 0, r.width(), 0.5 * r.height()) : QRectF(0, 0, 0.5 * r.width(), r.height());
+        hochformat ? QRectF(0, 0, r.width(), 0.55 * r.height()) : QRectF(0, 0, 0.5 * r.width(), r.height());
     const auto name = [&](Seite n) {
         return QStringLiteral("Beplankung %1: %2, %3 mm")
             .arg(nummer(n))
@@ -167,7 +188,7 @@ void zeichneBeplankung(Zeichner& z, const Wand& w) {
     z.textPassend({gezeichnet.left(), gezeichnet.bottom() + 4.3 * t}, name(Seite::eins), Qt::AlignLeft,
                   breite);
 
-    QRectF rechts = hochformat ? QRectF(0, 0.5 * r.height(), r.width(), 0.5 * r.height())
+    QRectF rechts = hochformat ? QRectF(0, 0.55 * r.height(), r.width(), 0.45 * r.height())
                                : QRectF(0.5 * r.width(), 0, 0.5 * r.width(), r.height());
     if (g.einseitig) return platte(z, rechts, w, g, Seite::eins);
     rechts.setWidth(rechts.width() / 2.0);

@@ -11,6 +11,9 @@ enum class Ankergruppe { HD, HTT, HD2P, HD2PSG, frei };
 // Ankertyp 1 to 5, 6 and 7, 8 to 10, 11 and 12, 13.
 Ankergruppe ankergruppe(int ankertyp);
 
+// Sketches of two parts put them one above the other in a tall area, else side by side.
+inline bool istHochformat(const QRectF& r) { return r.height() > 0.75 * r.width(); }
+
 void zeichneAnsicht(Zeichner& z, const Wand& w);
 void zeichneRippen(Zeichner& z, const Wand& w);
 void zeichneBeplankung(Zeichner& z, const Wand& w);

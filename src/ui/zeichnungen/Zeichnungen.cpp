@@ -10,7 +10,9 @@ namespace {
 
 // A style whose text is not larger, beside the drawing, than on paper; a little more for wider fonts.
 Zeichenstil passend(Zeichnung was, const QRectF& flaeche, Zeichenstil stil) {
-    const QSizeF vorbild = groesse(was) * stil.mm;
+    const bool gestapelt =
+        (was == Zeichnung::rippen || was == Zeichnung::beplankung) && istHochformat(flaeche);
+    const QSizeF vorbild = (gestapelt ? QSizeF(64.0, 64.0) : groesse(was)) * stil.mm;
     const double anteil = std::min(flaeche.width() / vorbild.width(), flaeche.height() / vorbild.height());
     if (anteil > 0.0)
         stil.schrifthoehe = std::min(stil.schrifthoehe, 1.05 * Zeichenstil::papier().schrifthoehe * anteil);

@@ -82,8 +82,9 @@ QSize Zeichnungsansicht::minimumSizeHint() const { return sizeHint() * 0.7; }
 void Zeichnungsansicht::paintEvent(QPaintEvent*) {
     Zeichenstil stil = Zeichenstil::zuPalette(palette());
     stil.dezimalzeichen = dezimalzeichen_;
-    stil.familie = font().family();
-    stil.schrifthoehe = std::clamp(QFontInfo(font()).pixelSize() / stil.mm, 2.4, 6.0);
+    const QFontInfo schrift(font());
+    stil.familie = schrift.family();
+    stil.schrifthoehe = std::clamp(schrift.pixelSize() / stil.mm, 2.4, 6.0);
     QPainter painter(this);
     zeichne(painter, QRectF(rect()), was_, wand_, stil);
 }
