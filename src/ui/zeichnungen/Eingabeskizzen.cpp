@@ -198,17 +198,13 @@ void zeichneBeplankung(Zeichner& z, const Wand& w) {
 
 namespace {
 
-constexpr int sondernagel = 2;
-constexpr int klammer = 3;
-constexpr int schraubeDIN7997 = 4;
-constexpr int schraubeZulassung = 5;
-constexpr int schnellbauschraube = 6;
-constexpr int klammer18182 = 8;
-constexpr double klammerruecken = 10.0;  // mm
-constexpr double versenktiefe = 2.0;     // mm
+constexpr double versenktiefe = 2.0;  // mm
 
-bool istKlammer(int art) { return art == klammer || art == klammer18182; }
-bool hatGewinde(int art) { return art == sondernagel || art == schraubeDIN7997 || art == schraubeZulassung; }
+// The kinds with a thread or groove length to enter.
+bool hatGewinde(int art) {
+    using enum VMArtNummer;
+    return art == sondernagel || art == schraubeDIN7997 || art == schraubeZulassung;
+}
 
 struct VMwerte {
     int art;
@@ -262,7 +258,7 @@ void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n) {
     z.textPassend({r.width() / 2.0, 1.3 * t}, verbindungsmittelname(w, n, z), Qt::AlignHCenter, r.width() - t,
                   {1.0, true, {}});
     QString querschnitt = QStringLiteral("d = %1").arg(z.zahl("0.00", v.d));
-    if (!istKlammer(v.art) && v.art != schnellbauschraube)
+    if (!istKlammer(v.art) && v.art != VMArtNummer::schnellbauschraube)
         querschnitt += QStringLiteral(",  dk = %1").arg(z.zahl("0.0", v.dk));
     z.text({r.width() / 2.0, 2.7 * t}, querschnitt + QStringLiteral(" mm"), Qt::AlignHCenter);
     const auto mm = [&](double wert) { return z.zahl("0.0", wert); };

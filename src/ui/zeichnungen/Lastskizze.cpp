@@ -136,15 +136,6 @@ void zeichneLast(Zeichner& z, const Wand& w, int lastfall, bool windQuer) {
     if (windQuer) windbild(z, {r.width() - wind, b.r.top(), wind - 1.2 * t, b.r.height()}, w);
 }
 
-namespace {
-
-// A half arrow along an edge: what flows from the rib into the sheathing.
-void schubpfeil(Zeichner& z, QPointF von, QPointF nach, const QColor& farbe) {
-    z.pfeil(von, nach, farbe, 0.4);
-}
-
-}  // namespace
-
 void zeichneSchubfluss(Zeichner& z, const Wand& w) {
     const double t = z.t();
     const QRectF r = z.flaeche();
@@ -164,12 +155,12 @@ void zeichneSchubfluss(Zeichner& z, const Wand& w) {
     const auto waagerecht = [&](double y, bool zuRechts) {
         const double x1 = p.left() + 0.08 * p.width();
         const double x2 = p.right() - 0.08 * p.width();
-        zuRechts ? schubpfeil(z, {x1, y}, {x2, y}, farbe) : schubpfeil(z, {x2, y}, {x1, y}, farbe);
+        zuRechts ? z.pfeil({x1, y}, {x2, y}, farbe, 0.4) : z.pfeil({x2, y}, {x1, y}, farbe, 0.4);
     };
     const auto senkrecht = [&](double x, bool nachOben) {
         const double y1 = p.bottom() - 0.1 * p.height();
         const double y2 = p.top() + 0.1 * p.height();
-        nachOben ? schubpfeil(z, {x, y1}, {x, y2}, farbe) : schubpfeil(z, {x, y2}, {x, y1}, farbe);
+        nachOben ? z.pfeil({x, y1}, {x, y2}, farbe, 0.4) : z.pfeil({x, y2}, {x, y1}, farbe, 0.4);
     };
     waagerecht(p.top() - a, nachRechts);
     waagerecht(p.bottom() + a, !nachRechts);

@@ -7,18 +7,6 @@ namespace rippenscheibe {
 
 namespace {
 
-enum VMArtNummer {
-    sondernagel = 2,
-    klammer = 3,
-    schraube = 4,
-    zulassungsschraube = 5,
-    schnellbau = 6,
-    klammer18182 = 8
-};
-
-bool istKlammer(int art) { return art == klammer || art == klammer18182; }
-bool istSchraube(int art) { return art == schraube || art == zulassungsschraube || art == schnellbau; }
-
 struct Achsen {
     QPointF laengs;
     QPointF quer;
@@ -64,7 +52,7 @@ void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, int art, const VMmas
     const double unten = istSchraube(art) ? schaft : m.dk / 2.0;  // a countersunk or a flat head
     z.painter().drawPolygon(QPolygonF{a(0.0, -m.dk / 2.0), a(0.0, m.dk / 2.0), a(std::max(hoehe, 0.1), unten),
                                       a(std::max(hoehe, 0.1), -unten)});
-    if (istSchraube(art) || art == sondernagel) zeichneGewinde(z, a, m, spitze);
+    if (istSchraube(art) || art == VMArtNummer::sondernagel) zeichneGewinde(z, a, m, spitze);
 }
 
 namespace {
@@ -106,7 +94,7 @@ VMmasse vmMasse(const Wand& w, Seite n, double f) {
     m.ln = gezeichneterWert(w.ln[n], 5.0, 400.0, 50.0) * f;
     m.dk = gezeichneterWert(w.dk[n], 1.0, 60.0, 6.0) * f;
     m.lg = gezeichneterWert(w.lg[n], 1.0, 400.0, 25.0) * f;
-    if (istKlammer(w.VMArt[n].value())) m.dk = 10.0 * f;  // a staple has a back in place of a head
+    if (istKlammer(w.VMArt[n].value())) m.dk = klammerruecken * f;
     return m;
 }
 

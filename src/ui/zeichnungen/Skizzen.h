@@ -34,6 +34,20 @@ void zeichneStartbild(Zeichner& z, const Wand& w);
 enum class Schnittbeschriftung { keine, masse };
 QRectF zeichneSchnitt(Zeichner& z, const QRectF& r, const Wand& w, Schnittbeschriftung beschriftung);
 
+// The kinds of fasteners that look or are dimensioned otherwise than a nail; numbers of the catalogue.
+enum VMArtNummer : int {
+    sondernagel = 2,
+    klammer = 3,
+    schraubeDIN7997 = 4,
+    schraubeZulassung = 5,
+    schnellbauschraube = 6,
+    klammer18182 = 8,
+};
+inline bool istKlammer(int art) { return art == klammer || art == klammer18182; }
+inline bool istSchraube(int art) { return art >= schraubeDIN7997 && art <= schnellbauschraube; }
+// A staple has a back in place of a head; its length as drawn, mm.
+inline constexpr double klammerruecken = 10.0;
+
 // One fastener seen from the side, its head at `kopf`, pointing along `richtung` (unit vector); all sizes
 // in mm of the drawing.
 struct VMmasse {
