@@ -42,9 +42,9 @@ class GeskripteteMeldungen : public Meldungen {
     std::optional<QFont> waehleSchrift(QWidget*, const QFont& schrift) override {
         vorgelegt = schrift;
         if (schriften.empty()) return std::nullopt;
-        const QFont gewaehlt = schriften.front();
+        const QFont gewaehlteSchrift = schriften.front();
         schriften.pop_front();
-        return gewaehlt;
+        return gewaehlteSchrift;
     }
     void piep() override { ++gepiept; }
 

@@ -1,0 +1,244 @@
+#include <gtest/gtest.h>
+
+#include "basis/Dateischreiber.h"
+#include "model/Positionsdatei.h"
+#include "support/GeskripteteMeldungen.h"
+#include "ui/Dateiablauf.h"
+#include "ui/Sicherungskopie.h"
+
+namespace rippenscheibe {
+namespace {
+
+class Ablauf : public testing::Test {
+  protected:
+    void SetUp() override {
+        ablauf.projektdaten = [this] { ++projektdialoge; };
+        programm.zuweisen();
+    }
+    QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
+    // A saved position of 4 m under this name.
+    QString gespeicherte(const char* name) {
+        Wand andere;
+        andere.Wandlaenge = 4;
+        EXPECT_FALSE(schreibePosition(pfad(datei(name)), andere));
+        return datei(name);
+    }
+    double laengeIn(const QString& name) {
+        Wand gelesen;
+        static_cast<void>(liesPosition(pfad(name), gelesen));
+        return gelesen.Wandlaenge.value();
+    }
+    void aendere() {
+        programm.felder.Wandlaenge = 7;
+        programm.setzeGesichert(false);
+        programm.zuweisen();
+    }
+
+    QTemporaryDir ordner;
+    Programm programm{pfad(ordner.path())};
+    GeskripteteMeldungen meldungen;
+    Dateiablauf ablauf{programm, meldungen, nullptr};
+    int projektdialoge = 0;
+};
+
+TEST_F(Ablauf, ASavedPositionIsNotAskedFor) {
+    ablauf.neu();
+    EXPECT_TRUE(ablauf.beenden());
+    EXPECT_TRUE(meldungen.gezeigt.empty());
+    EXPECT_EQ(projektdialoge, 1);
+}
+
+TEST_F(Ablauf, EachActionAsksUnderItsOwnTitle) {
+    aendere();
+    ablauf.oeffnen();
+    EXPECT_FALSE(ablauf.beenden());
+    ablauf.neu();
+    ASSERT_EQ(meldungen.gezeigt.size(), 3U);
+    const QString titel[] = {QStringLiteral("Datei öffnen"), QStringLiteral("Datei Schließen"),
+                             QStringLiteral("Neue Datei")};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(meldungen.gezeigt[i].titel, titel[i]);
+        EXPECT_EQ(meldungen.gezeigt[i].symbol, Symbol::frage);
+        EXPECT_EQ(meldungen.gezeigt[i].knoepfe, Knoepfe::jaNeinAbbrechen);
+        EXPECT_EQ(meldungen.gezeigt[i].text, QStringLiteral("Soll die geöffnete Datei gesichert werden ?"));
+    }
+}
+
+TEST_F(Ablauf, CancelOnNewStillResetsThePosition) {
+    programm.w.Projekt = "Haus am Hang";
+    programm.w.Position = "7";
+    programm.w.Hinweise = {"alt"};
+    aendere();
+    meldungen.antworten = {Antwort::abbrechen};
+    ablauf.neu();
+    EXPECT_EQ(programm.w.Wandlaenge, 5);
+    EXPECT_EQ(programm.felder.Wandlaenge, 5);
+    EXPECT_EQ(programm.w.Position, "1");
+    EXPECT_EQ(programm.w.Projekt, "Haus am Hang");
+    EXPECT_TRUE(programm.w.Hinweise.empty());
+    EXPECT_EQ(programm.Titel(), QStringLiteral("Neue Datei"));
+    EXPECT_EQ(programm.Dateiname, "");
+    EXPECT_EQ(projektdialoge, 1);
+}
+
+TEST_F(Ablauf, YesOnNewSavesFirst) {
+    aendere();
+    meldungen.antworten = {Antwort::ja};
+    meldungen.dateien = {datei("alt.rsw")};
+    ablauf.neu();
+    EXPECT_EQ(laengeIn(datei("alt.rsw")), 7);
+    EXPECT_EQ(programm.w.Wandlaenge, 5);
+    EXPECT_EQ(projektdialoge, 1);
+    // The next save must not go to the old file.
+    meldungen.dateien = {datei("neu.rsw")};
+    ablauf.sichern();
+    EXPECT_EQ(laengeIn(datei("alt.rsw")), 7);
+    EXPECT_EQ(laengeIn(datei("neu.rsw")), 5);
+}
+
+TEST_F(Ablauf, OpenAnswersSaveDiscardAndCancel) {
+    const QString quelle = gespeicherte("quelle.rsw");
+    struct Fall {
+        Antwort antwort;
+        bool gesichert, geoeffnet;
+    };
+    for (const Fall& fall : {Fall{Antwort::ja, true, true}, Fall{Antwort::nein, false, true},
+                             Fall{Antwort::abbrechen, false, false}}) {
+        SCOPED_TRACE(static_cast<int>(fall.antwort));
+        const QString ziel = datei("ziel.rsw");
+        QFile::remove(ziel);
+        programm.Dateiname = utf8(ziel);
+        programm.DialogDateiname = ziel;
+        aendere();
+        meldungen.antworten = {fall.antwort};
+        meldungen.dateien = {quelle};
+        ablauf.oeffnen();
+        EXPECT_EQ(QFile::exists(ziel), fall.gesichert);
+        EXPECT_EQ(programm.w.Wandlaenge, fall.geoeffnet ? 4 : 7);
+        EXPECT_EQ(programm.felder.Wandlaenge, fall.geoeffnet ? 4 : 7);
+        EXPECT_EQ(programm.Dateiname, utf8(fall.geoeffnet ? quelle : ziel));
+        EXPECT_EQ(programm.Aktion, Dateiaktion::keine);
+        meldungen.dateien.clear();
+    }
+}
+
+TEST_F(Ablauf, AFileJustOpenedCountsAsChanged) {
+    meldungen.dateien = {gespeicherte("a.rsw")};
+    ablauf.oeffnen();
+    EXPECT_FALSE(programm.Gesichert());
+    EXPECT_EQ(programm.Titel(), datei("a.rsw"));
+    EXPECT_EQ(programm.w.AnzahlRippen, 8);  // 4 m / 0.625 m = 6.4: derived values are fresh
+    meldungen.antworten = {Antwort::ja};
+    EXPECT_TRUE(ablauf.beenden());
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+}
+
+TEST_F(Ablauf, AnotherEndingIsRefusedAndCapitalsAreAnotherEnding) {
+    aendere();
+    EXPECT_FALSE(ablauf.lade(gespeicherte("a.RSW")));
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral(" Fehler"));
+    EXPECT_EQ(meldungen.gezeigt[0].text, QStringLiteral("Datei passt nicht zum Programm!"));
+    EXPECT_EQ(programm.w.Wandlaenge, 7);
+    EXPECT_EQ(programm.Dateiname, "");
+    programm.felder.Wandlaenge = 8;
+    programm.zuweisen();
+    EXPECT_FALSE(programm.Sperre);
+}
+
+TEST_F(Ablauf, SaveAppendsTheEndingAndProposesPositionAndRemark) {
+    programm.w.Position = "3/1";
+    ablauf.sichern();
+    programm.w.PositionsBemerkung = "Achse B";
+    meldungen.dateien = {datei("wand")};
+    ablauf.sichern();
+    ASSERT_EQ(meldungen.gewaehlt.size(), 2U);
+    EXPECT_EQ(meldungen.gewaehlt[0].vorschlag, QStringLiteral("3-1"));
+    EXPECT_EQ(meldungen.gewaehlt[1].vorschlag, QStringLiteral("3-1-Achse B"));
+    EXPECT_EQ(meldungen.gewaehlt[1].endung, QStringLiteral("rsw"));
+    EXPECT_EQ(meldungen.gewaehlt[1].filter,
+              QStringLiteral("Datei Rippenscheibe 2.0 (*.rsw);;alle Dateien (*.*)"));
+    EXPECT_TRUE(QFile::exists(datei("wand.rsw")));
+    EXPECT_EQ(programm.Titel(), datei("wand.rsw"));
+    EXPECT_TRUE(programm.Gesichert());
+    aendere();
+    ablauf.sichern();  // no dialog any more
+    EXPECT_EQ(meldungen.gewaehlt.size(), 2U);
+    EXPECT_EQ(laengeIn(datei("wand.rsw")), 7);
+}
+
+TEST_F(Ablauf, AFailedSaveKeepsThePositionAndGivesTheActionUp) {
+    programm.Dateiname = utf8(datei("fehlt/wand.rsw"));
+    programm.DialogDateiname = datei("fehlt/wand.rsw");
+    aendere();
+    meldungen.antworten = {Antwort::ja, Antwort::ok, Antwort::ja, Antwort::ok};
+    EXPECT_FALSE(ablauf.beenden());
+    ablauf.neu();
+    EXPECT_EQ(programm.w.Wandlaenge, 7);
+    EXPECT_FALSE(programm.Gesichert());
+    EXPECT_EQ(meldungen.gepiept, 2);
+    EXPECT_EQ(meldungen.gezeigt[1].symbol, Symbol::kritisch);
+    EXPECT_EQ(projektdialoge, 0);
+}
+
+TEST_F(Ablauf, SaveAsGoesThroughTheProjectDialogAndKeepsTheNameAfterACancel) {
+    programm.Dateiname = utf8(datei("a.rsw"));
+    std::string waehrenddessen = "-";
+    ablauf.projektdaten = [&] {
+        waehrenddessen = programm.Dateiname;
+        EXPECT_TRUE(programm.SpeichernUnter);
+        EXPECT_EQ(programm.Aktion, Dateiaktion::sichernUnter);
+    };
+    ablauf.sichernUnter();
+    EXPECT_EQ(waehrenddessen, "");
+    EXPECT_EQ(programm.Dateiname, utf8(datei("a.rsw")));
+    EXPECT_FALSE(programm.SpeichernUnter);
+}
+
+TEST(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
+    QTemporaryDir ordner;
+    GeskripteteMeldungen meldungen;
+    {
+        Programm abgestuerzt(pfad(ordner.path()));
+        abgestuerzt.Dateiname = "/daten/wand.rsw";
+        abgestuerzt.felder.Wandlaenge = 9;
+        abgestuerzt.zuweisen();
+        abgestuerzt.setzeGesichert(false);
+        Sicherungskopie kopie(abgestuerzt);
+        kopie.sichere();
+
+        // A second program beside the first takes nothing from it.
+        Programm nachbar(pfad(ordner.path()));
+        Sicherungskopie nachbarkopie(nachbar);
+        EXPECT_FALSE(nachbarkopie.stelleWiederHer(meldungen, nullptr));
+        EXPECT_TRUE(meldungen.gezeigt.empty());
+    }  // gone without tidying up
+    Programm neuer(pfad(ordner.path()));
+    Sicherungskopie kopie(neuer);
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));  // Esc keeps it for the next start
+    meldungen.antworten = {Antwort::ja};
+    EXPECT_TRUE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_TRUE(meldungen.gezeigt.back().text.contains(QStringLiteral("/daten/wand.rsw")));
+    EXPECT_EQ(neuer.w.Wandlaenge, 9);
+    EXPECT_EQ(neuer.Dateiname, "/daten/wand.rsw");
+    EXPECT_FALSE(neuer.Gesichert());
+    kopie.raeumeAuf();
+    EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
+}
+
+TEST(Wiederherstellung, ASaveTakesTheCopyAway) {
+    QTemporaryDir ordner;
+    Programm programm(pfad(ordner.path()));
+    programm.zuweisen();
+    Sicherungskopie kopie(programm);
+    kopie.sichere();
+    EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
+    programm.setzeGesichert(false);
+    kopie.sichere();
+    EXPECT_EQ(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).size(), 1);
+    programm.setzeGesichert(true);
+    EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
+}
+
+}  // namespace
+}  // namespace rippenscheibe
