@@ -35,15 +35,16 @@ Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* 
     spalten->addLayout(felder_);
     spalten->addLayout(skizzen_, 1);
     inhalt()->addLayout(spalten, 1);
+}
 
+void Eingabedialog::beginne() {
+    // Built last, so that the tab key comes to them behind the fields.
     QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
     ende->setDefault(true);
     connect(ende, &QPushButton::clicked, this, &Eingabedialog::uebernehmen);
     QPushButton* abbruch = schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch"));
     connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
-}
 
-void Eingabedialog::beginne() {
     lade(programm_.w);
     laedt_ = false;
     folgeAenderungen();

@@ -50,7 +50,7 @@ Tastenregel::Tastenregel(QWidget* fenster, QStringList enterWeiter)
 bool Tastenregel::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
     auto* feld = qobject_cast<QWidget*>(object);
-    if (feld == nullptr || feld != QApplication::focusWidget() || feld->window() != fenster_) return false;
+    if (feld == nullptr || feld->window() != fenster_ || feld != fenster_->focusWidget()) return false;
     const auto& taste = static_cast<const QKeyEvent&>(*event);
     if (istZeichen(taste) && taste.key() != Qt::Key_Tab && taste.key() != Qt::Key_Backtab) Q_EMIT getippt();
 
@@ -113,12 +113,8 @@ QPushButton* Fenster::zurueck(const QString& name) {
     return knopf;
 }
 
-// The buttons at the bottom are built first and come last in the tab order; the first field has the focus.
+// The first field has the focus when the window shows.
 void Fenster::showEvent(QShowEvent* event) {
-    for (int i = 0; i < fusszeile_->count(); ++i)
-        if (QWidget* knopf = fusszeile_->itemAt(i)->widget();
-            knopf != nullptr && knopf != previousInFocusChain())
-            setTabOrder(previousInFocusChain(), knopf);
     QDialog::showEvent(event);
     if (focusWidget() == nullptr || fusszeile_->indexOf(focusWidget()) >= 0)
         if (QWidget* erstes = nachbar(this, this, true)) erstes->setFocus(Qt::TabFocusReason);

@@ -56,7 +56,8 @@ class Fenster : public QDialog {
 
     // The area above the buttons; the window's own layout goes in here.
     QVBoxLayout* inhalt() const { return inhalt_; }
-    // Adds a button to the row at the bottom right, with its name and caption.
+    // Adds a button to the row at the bottom right, with its name and caption. The tab order is the order of
+    // building, so the buttons are built last.
     QPushButton* schaltflaeche(const QString& name, const QString& text);
     // The usual "Zurück" of small windows with its tool tip; it closes the window.
     QPushButton* zurueck(const QString& name);
