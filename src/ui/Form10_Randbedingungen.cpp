@@ -80,7 +80,8 @@ Form10::Form10(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form10"), QStringLiteral("  Randbedingungen"),
               Tippen::aendertNichts),
       rahmen_(new QFrame),
-      bild_(new Zeichnungsansicht(Zeichnung::rollbild, rahmen_)),
+      ausschnitt_(new QWidget(rahmen_)),
+      bild_(new Zeichnungsansicht(Zeichnung::rollbild, ausschnitt_)),
       uhr_(new QTimer(this)) {
     auto* karten = new QTabWidget(this);
     karten->setObjectName(QStringLiteral("SSTab1"));
@@ -115,8 +116,12 @@ QWidget* Form10::baueErsteKarte() {
     rahmen_->setMinimumHeight(zeigergrenze / twipsJePixel + 10 * raster);
     rahmen_->setMouseTracking(true);
     rahmen_->installEventFilter(this);
+    auto* innen = new QVBoxLayout(rahmen_);
+    innen->setContentsMargins(0, 0, 0, 0);
+    innen->addWidget(ausschnitt_);
+    ausschnitt_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    ausschnitt_->installEventFilter(this);
     bild_->setObjectName(QStringLiteral("Image1"));
-    bild_->setAttribute(Qt::WA_TransparentForMouseEvents);
     bild_->setzeWand(programm_.w);
     zeile->addWidget(rahmen_);
     return seite;
@@ -128,20 +133,16 @@ bool Form10::eventFilter(QObject* object, QEvent* event) {
         const bool oben = maus.position().y() * twipsJePixel < zeigergrenze;
         if (oben && !uhr_->isActive()) uhr_->start();
     }
-    if (object == rahmen_ && event->type() == QEvent::Resize) {
-        // As tall as what passes by: its end is in sight when it jumps back.
-        bild_->resize(rahmen_->width() - 2, rahmen_->height() - obererRand / twipsJePixel);
-        legeBild();
-    }
+    // As tall as what passes by: its end is in sight when it jumps back.
+    if (object == ausschnitt_ && event->type() == QEvent::Resize)
+        bild_->resize(ausschnitt_->width(), ausschnitt_->height() - obererRand / twipsJePixel);
     return Fenster::eventFilter(object, event);
 }
 
 void Form10::rolle() {
     oben_ -= schritt;
     if (oben_ < obererRand) oben_ = untererAnfang;
-    legeBild();
+    bild_->move(0, oben_ / twipsJePixel);
 }
-
-void Form10::legeBild() { bild_->move(1, oben_ / twipsJePixel); }
 
 }  // namespace rippenscheibe

@@ -22,9 +22,9 @@ class Form10 : public Fenster {
   private:
     QWidget* baueErsteKarte();
     void rolle();
-    void legeBild();
 
     QFrame* rahmen_;
+    QWidget* ausschnitt_;  // what of the picture is in sight
     Zeichnungsansicht* bild_;
     QTimer* uhr_;
     int oben_ = 0;  // top of the picture in twips

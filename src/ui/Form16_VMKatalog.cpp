@@ -101,7 +101,8 @@ QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
     }
     // The note stands beside the buttons, above them where they need the width.
     auto* grid = new QGridLayout;
-    const bool breit = gruppe.letzteZeile - gruppe.ersteZeile > 15;
+    const int anzahl = gruppe.letzteZeile - gruppe.ersteZeile + 1;
+    const bool breit = anzahl == 21 || anzahl == 3;
     auto* aussen = new QBoxLayout(breit ? QBoxLayout::TopToBottom : QBoxLayout::RightToLeft, rahmen);
     aussen->addLayout(spalte);
     aussen->addLayout(grid);
@@ -114,7 +115,6 @@ QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
     }
     grid->setHorizontalSpacing(raster / 2);
     grid->setVerticalSpacing(2);
-    const int anzahl = gruppe.letzteZeile - gruppe.ersteZeile + 1;
     const int jeSpalte = zeilenJeSpalte(anzahl);
     for (int i = 0; i < anzahl; ++i) {
         const int nummer = gruppe.ersteZeile + i;
