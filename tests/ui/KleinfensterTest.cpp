@@ -1,0 +1,448 @@
+#include <gtest/gtest.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+#include <cstdio>
+#include <filesystem>
+
+#include "model/EigeneMaterialienDatei.h"
+#include "model/VMKatalog.h"
+#include "support/GeskripteteMeldungen.h"
+#include "ui/Form0_Startbild.h"
+#include "ui/Form10_Randbedingungen.h"
+#include "ui/Form13_Systemkonfiguration.h"
+#include "ui/Form15_Projektdaten.h"
+#include "ui/Form16_VMKatalog.h"
+#include "ui/Form222_Bemerkungen.h"
+#include "ui/Form3_Taschenrechner.h"
+#include "ui/Form5_Verbindungsmittel.h"
+#include "ui/Form800_Textvorlagen.h"
+#include "ui/Form99_EigeneMaterialien.h"
+#include "ui/Handbuch.h"
+#include "ui/Pfadwahl.h"
+#include "ui/Programm.h"
+#include "ui/Werteingabe.h"
+
+namespace rippenscheibe {
+namespace {
+
+// A program with a folder of its own, as after its first start; `neuStart` ends it and starts it again.
+class Kleinfenster : public testing::Test {
+  protected:
+    Kleinfenster() { neuStart(); }
+
+    void neuStart() {
+        if (programm) {
+            EXPECT_FALSE(programm->sichereProjekte());
+        }
+        programm = std::make_unique<Programm>(pfad(ordner.path()));
+        programm->ladeEinstellungen();
+        programm->w.eigeneMaterialien = liesEigeneMaterialien(programm->datei(materialdatei));
+    }
+    QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
+
+    template <class T = QWidget>
+    static T* feld(QWidget& fenster, const char* name) {
+        auto* gefunden = fenster.findChild<T*>(QLatin1String(name));
+        if (gefunden == nullptr) ADD_FAILURE() << "no control " << name;
+        return gefunden;
+    }
+    static void klick(QWidget& fenster, const char* name) { feld<QAbstractButton>(fenster, name)->click(); }
+    static void setze(QWidget& fenster, const char* name, const char* text) {
+        feld<QLineEdit>(fenster, name)->setText(QString::fromUtf8(text));
+    }
+    static void tippe(QWidget& fenster, const char* name, const char* text) {
+        auto* wert = feld<QLineEdit>(fenster, name);
+        wert->selectAll();
+        QTest::keyClicks(wert, QLatin1String(text));
+    }
+
+    QTemporaryDir ordner;
+    std::unique_ptr<Programm> programm;
+    GeskripteteMeldungen meldungen;
+};
+
+// ---- Splash, calculator, lists ----
+
+TEST_F(Kleinfenster, SplashIsUnloadedOnceByTimeOrByAKey) {
+    for (const bool taste : {false, true}) {
+        Form0 startbild(*programm);
+        QSignalSpy entladen(&startbild, &Form0::entladen);
+        startbild.show();
+        EXPECT_EQ(feld<QTimer>(startbild, "Timer1")->interval(), 1000);
+        if (taste) {
+            QTest::keyClick(&startbild, Qt::Key_A);
+        } else {
+            EXPECT_TRUE(entladen.wait(3000));
+        }
+        startbild.close();
+        EXPECT_EQ(entladen.count(), 1);
+    }
+}
+
+TEST_F(Kleinfenster, CalculatorWorksByButtonsAndByKeysAndLeavesThePositionAlone) {
+    Form3 rechner(*programm, meldungen);
+    rechner.show();
+    klick(rechner, "Number(7)");
+    klick(rechner, "Operator(3)");
+    klick(rechner, "Number(0)");
+    klick(rechner, "Operator(4)");
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral("Achtung"));
+    EXPECT_EQ(meldungen.gezeigt[0].text, QStringLiteral("Division durch Null! "));
+    QTest::keyClicks(&rechner, QStringLiteral("c1,5*4"));
+    QTest::keyClick(&rechner, Qt::Key_Return);
+    EXPECT_EQ(feld<QLineEdit>(rechner, "Readout")->text(), QStringLiteral("6."));
+    EXPECT_TRUE(rechner.isVisible());
+    EXPECT_TRUE(programm->Gesichert());
+}
+
+TEST_F(Kleinfenster, SystemListHoldsLabelTabAndValue) {
+    Form13 fenster(*programm, meldungen);
+    const auto* liste = feld<QListWidget>(fenster, "List1");
+    ASSERT_EQ(liste->count(), 12);
+    QStringList namen;
+    for (int i = 0; i < liste->count(); ++i) {
+        namen << liste->item(i)->text().section(QLatin1Char('\t'), 0, 0);
+        EXPECT_FALSE(liste->item(i)->text().section(QLatin1Char('\t'), -1).isEmpty()) << i;
+    }
+    EXPECT_EQ(namen[0], QStringLiteral("phys. Speicher "));
+    EXPECT_EQ(namen[8], QStringLiteral("Bildschirmauflösung"));
+}
+
+// The pointer in the lower part does nothing; in the upper part each tick moves the picture 40 twips up.
+TEST_F(Kleinfenster, PictureOfTheBoundaryConditionsScrollsUntilTheWindowCloses) {
+    Form10 fenster(*programm, meldungen);
+    fenster.show();
+    auto* rahmen = feld<QFrame>(fenster, "Frame1");
+    auto* uhr = feld<QTimer>(fenster, "Timer1");
+    const auto zeige = [&](int y) {
+        QMouseEvent maus(QEvent::MouseMove, QPointF(10, y), rahmen->mapToGlobal(QPointF(10, y)), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(rahmen, &maus);
+    };
+    zeige(400);  // 6000 twips
+    EXPECT_FALSE(uhr->isActive());
+    zeige(399);
+    EXPECT_TRUE(uhr->isActive());
+    QTest::qWait(5 * 80 + 40);
+    EXPECT_LT(feld(fenster, "Image1")->y(), -5);
+    fenster.accept();
+    EXPECT_FALSE(uhr->isActive());
+}
+
+// ---- Project data and folders ----
+
+TEST_F(Kleinfenster, ProjectsSurviveARestartAndAnExistingOneKeepsItsFolder) {
+    {
+        Form15 fenster(*programm, meldungen);
+        EXPECT_EQ(feld<QLineEdit>(fenster, "Text1(2)")->text(),
+                  QDate::currentDate().toString(QStringLiteral("dd.MM.yyyy")));
+        feld<QComboBox>(fenster, "Combo1")->setEditText(QStringLiteral("Haus \u00c4, \u2265 2 Geschosse"));
+        setze(fenster, "Text1(0)", "/projekte/haus/");
+        klick(fenster, "ComEnde");
+        EXPECT_FALSE(programm->Gesichert());
+    }
+    {
+        Form15 fenster(*programm, meldungen);
+        setze(fenster, "Text1(0)", "/anderswo/");
+        klick(fenster, "ComEnde");
+    }
+    neuStart();
+    ASSERT_EQ(programm->projekte.eintraege.size(), 2U);  // the first entry of a new list is empty
+    EXPECT_EQ(programm->projekte.eintraege[1].pfad, "/projekte/haus/");
+    Form15 fenster(*programm, meldungen);
+    auto* liste = feld<QComboBox>(fenster, "Combo1");
+    EXPECT_EQ(liste->currentText(), QStringLiteral("Haus \u00c4, \u2265 2 Geschosse"));
+    EXPECT_EQ(fenster.AktuellesProjekt(), 2);
+    Q_EMIT liste->activated(0);
+    EXPECT_EQ(feld<QLineEdit>(fenster, "Text1(0)")->text(), QStringLiteral("/projekte/haus/"));
+}
+
+TEST_F(Kleinfenster, TwoProgramsAtOnceLoseNoProject) {
+    Programm zweites(pfad(ordner.path()));
+    zweites.ladeEinstellungen();
+    programm->projekte.eintraege.push_back({"A", "/a/"});
+    zweites.projekte.eintraege.push_back({"B", "/b/"});
+    ASSERT_FALSE(zweites.sichereProjekte());
+    neuStart();
+    ASSERT_EQ(programm->projekte.eintraege.size(), 3U);
+    EXPECT_EQ(programm->projekte.eintraege[1].name, "A");
+    EXPECT_EQ(programm->projekte.eintraege[2].name, "B");
+}
+
+TEST_F(Kleinfenster, AnEmptyFolderBecomesTheDefaultOneAfterTheProjectIsStored) {
+    programm->einstellungen.StandardPfad = "/standard/";
+    Form15 fenster(*programm, meldungen);
+    feld<QComboBox>(fenster, "Combo1")->setEditText(QStringLiteral("Neu"));
+    setze(fenster, "Text1(0)", "");
+    klick(fenster, "ComEnde");
+    EXPECT_EQ(programm->Positionspfad, "/standard/");
+    EXPECT_EQ(programm->projekte.eintraege.back().pfad, "");
+}
+
+TEST_F(Kleinfenster, SavingUnderANameProposesPositionAndRemark) {
+    programm->SpeichernUnter = true;
+    meldungen.dateien = {datei("wand.rsw")};
+    Form15 fenster(*programm, meldungen);
+    setze(fenster, "Text1(1)", "W7");
+    setze(fenster, "Text1(3)", "Giebel");
+    setze(fenster, "Text1(0)", "/projekte/");
+    klick(fenster, "ComEnde");
+    ASSERT_EQ(meldungen.gewaehlt.size(), 1U);
+    EXPECT_EQ(meldungen.gewaehlt[0].vorschlag, QStringLiteral("W7-Giebel"));
+    EXPECT_EQ(meldungen.gewaehlt[0].ordner, QStringLiteral("/projekte/"));
+    EXPECT_TRUE(QFile::exists(datei("wand.rsw")));
+    EXPECT_FALSE(programm->SpeichernUnter);
+    EXPECT_TRUE(programm->Gesichert());
+}
+
+TEST_F(Kleinfenster, ClosingTheProjectDataTakesNothingOverAndSavesNothing) {
+    programm->SpeichernUnter = true;
+    Form15 fenster(*programm, meldungen);
+    setze(fenster, "Text1(1)", "W7");
+    fenster.reject();
+    EXPECT_EQ(programm->w.Position, "1");
+    EXPECT_FALSE(programm->SpeichernUnter);
+    EXPECT_TRUE(meldungen.gewaehlt.empty());
+}
+
+TEST_F(Kleinfenster, PathChooserEndsTheFolderWithASeparatorOnlyWhenItIsTakenOver) {
+    ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("unter")));
+    programm->Positionspfad = utf8(ordner.filePath(QStringLiteral("unter")));
+    Pfadwahl wahl(*programm, meldungen, nullptr, Pfadwahl::Zweck::positionspfad);
+    EXPECT_EQ(wahl.pfad(), datei("unter") + QLatin1Char('/'));
+    klick(wahl, "Command1(0)");
+    EXPECT_EQ(programm->Positionspfad, utf8(datei("unter")));
+    klick(wahl, "Command1(1)");
+    EXPECT_EQ(programm->Positionspfad, utf8(datei("unter")) + "/");
+    Pfadwahl standard(*programm, meldungen, nullptr, Pfadwahl::Zweck::standardpfad);
+    klick(standard, "Command1(1)");
+    EXPECT_EQ(programm->einstellungen.StandardPfad, utf8(QDir::rootPath()));
+}
+
+// ---- Remarks and templates ----
+
+TEST_F(Kleinfenster, AFourthLineOfThePreliminaryRemarksIsUndone) {
+    Form222 fenster(*programm, meldungen);
+    fenster.show();
+    auto* text = feld<QPlainTextEdit>(fenster, "Text2");
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("a\rb\rc"));
+    QTest::keyClick(text, Qt::Key_Return);
+    QTest::keyClicks(text, QStringLiteral("d"));
+    EXPECT_EQ(text->toPlainText().section(QLatin1Char('\n'), 0, 1), QStringLiteral("a\nb"));
+    EXPECT_LE(text->toPlainText().count(QLatin1Char('\n')), 3);
+    text->setPlainText(QStringLiteral("1\n2\n3"));
+    text->setPlainText(QStringLiteral("1\n2\n3\n4"));
+    EXPECT_EQ(text->toPlainText(), QStringLiteral("1\n2\n3"));
+    feld<QPlainTextEdit>(fenster, "Text1")->setPlainText(QStringLiteral("eins\n\ndrei"));
+    klick(fenster, "ComBem");
+    EXPECT_EQ(programm->w.Vorbemerkungen[2], "3");
+    ASSERT_EQ(programm->w.AnzahlZusatzbemerkungen.value(), 3);
+    EXPECT_EQ(programm->w.Zusatzbemerkungen[2], "drei");
+}
+
+TEST_F(Kleinfenster, ClosingRemarksThatBeginWithAnEmptyLineAreNone) {
+    Form222 fenster(*programm, meldungen);
+    feld<QPlainTextEdit>(fenster, "Text1")->setPlainText(QStringLiteral("\nzweite"));
+    klick(fenster, "ComBem");
+    EXPECT_EQ(programm->w.AnzahlZusatzbemerkungen.value(), 0);
+    EXPECT_EQ(programm->w.Zusatzbemerkungen.size(), 200U);
+}
+
+TEST_F(Kleinfenster, TemplatesSurviveARestartAndAreOverwrittenByName) {
+    const auto sichere = [&](const char* name, const char* text) {
+        Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::zusatzbemerkungen);
+        EXPECT_FALSE(feld(fenster, "Command3")->isEnabled());
+        klick(fenster, "Command2");
+        setze(fenster, "Text2", name);
+        feld<QPlainTextEdit>(fenster, "Text1")->setPlainText(QString::fromUtf8(text));
+        klick(fenster, "Command3");
+    };
+    sichere("Brand", "F 30-B\nzwei\ndrei\nvier");
+    sichere("Schall", "R'w");
+    sichere("Brand", "F 60-B\nzwei");
+    neuStart();
+    Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::zusatzbemerkungen);
+    auto* liste = feld<QListWidget>(fenster, "List1");
+    ASSERT_EQ(liste->count(), 2);
+    liste->setCurrentRow(0);
+    EXPECT_EQ(fenster.text(), "F 60-B\r\nzwei");
+    Textvorlagenfenster andere(*programm, meldungen, nullptr, Vorlagenart::vorbemerkungen);
+    EXPECT_EQ(feld<QListWidget>(andere, "List1")->count(), 0);
+}
+
+TEST_F(Kleinfenster, ATemplateThatCannotBeWrittenIsReported) {
+    ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("Textvorlage1.dat")));  // no file can go there
+    Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::vorbemerkungen);
+    klick(fenster, "Command2");
+    setze(fenster, "Text2", "Name");
+    klick(fenster, "Command3");
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_EQ(feld<QLineEdit>(fenster, "Text2")->text(), QStringLiteral("Name"));
+}
+
+// ---- Own materials ----
+
+class EigeneMaterialienFenster : public Kleinfenster {
+  protected:
+    void legeAn(Form99& fenster, const char* name, const char* fvk) {
+        klick(fenster, "Command2(0)");
+        setze(fenster, "Textbox1", name);
+        tippe(fenster, "TextBox2(1)", fvk);
+        klick(fenster, "Option1(1)");
+        klick(fenster, "Command3");
+    }
+    const EigeneMaterialien& tabelle() const { return programm->w.eigeneMaterialien; }
+};
+
+TEST_F(EigeneMaterialienFenster, ANewMaterialSurvivesARestart) {
+    {
+        Form99 fenster(*programm, meldungen);
+        legeAn(fenster, "Platte Ä", "3,5");
+        klick(fenster, "Command1");
+        EXPECT_EQ(fenster.result(), QDialog::Accepted);
+    }
+    neuStart();
+    ASSERT_EQ(tabelle().zeilen.size(), 1U);
+    EXPECT_EQ(*tabelle().name(1), "Platte Ä");
+    EXPECT_DOUBLE_EQ(tabelle()(2, 1).value(), 3.5);
+    EXPECT_DOUBLE_EQ(tabelle()(7, 1).value(), 2);
+    EXPECT_TRUE(tabelle().zeilen[0].zellen[5].leer);  // never filled
+}
+
+TEST_F(EigeneMaterialienFenster, EditingOverwritesTheRowAndValuesOutOfRangeAreHeldBack) {
+    Form99 fenster(*programm, meldungen);
+    legeAn(fenster, "A", "3");
+    EXPECT_FALSE(feld(fenster, "TextBox2(1)")->isEnabled());
+    klick(fenster, "Command2(2)");
+    EXPECT_FALSE(feld(fenster, "TextBox2(17)")->isEnabled());
+    klick(fenster, "Option1(4)");
+    EXPECT_TRUE(feld(fenster, "TextBox2(17)")->isEnabled());
+    tippe(fenster, "TextBox2(17)", "42");
+    tippe(fenster, "TextBox2(1)", "0,05");
+    klick(fenster, "Command3");
+    ASSERT_EQ(tabelle().zeilen.size(), 1U);
+    EXPECT_DOUBLE_EQ(tabelle()(2, 1).value(), 3);
+    EXPECT_DOUBLE_EQ(tabelle()(7, 1).value(), 5);
+    EXPECT_DOUBLE_EQ(tabelle()(20, 1).value(), 42);
+}
+
+TEST_F(EigeneMaterialienFenster, TheLastMaterialStaysAndDeletingAsks) {
+    Form99 fenster(*programm, meldungen);
+    legeAn(fenster, "A", "1");
+    klick(fenster, "Command2(1)");
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral("Hinweis"));
+    legeAn(fenster, "B", "2");
+    legeAn(fenster, "C", "3");
+    feld<QComboBox>(fenster, "Combo1")->setCurrentIndex(1);
+    meldungen.antworten = {Antwort::nein, Antwort::ja};
+    klick(fenster, "Command2(1)");
+    EXPECT_EQ(tabelle().zeilen.size(), 3U);
+    klick(fenster, "Command2(1)");
+    ASSERT_EQ(tabelle().zeilen.size(), 2U);
+    EXPECT_EQ(meldungen.gezeigt.back().text, QStringLiteral("Soll das Material wirklich gelöscht werden ?"));
+    EXPECT_EQ(*tabelle().name(2), "C");
+    EXPECT_EQ(feld<QLineEdit>(fenster, "Textbox1")->text(), QStringLiteral("A"));  // the first row is shown
+}
+
+TEST_F(EigeneMaterialienFenster, TheHundredthMaterialClosesTheListUntilOneIsDeleted) {
+    programm->w.eigeneMaterialien.zeilen.resize(99);
+    Form99 fenster(*programm, meldungen);
+    EXPECT_TRUE(feld(fenster, "Command2(0)")->isEnabled());
+    legeAn(fenster, "100", "1");
+    EXPECT_FALSE(feld(fenster, "Command2(0)")->isEnabled());
+    meldungen.antworten = {Antwort::ja};
+    klick(fenster, "Command2(1)");
+    EXPECT_TRUE(feld(fenster, "Command2(0)")->isEnabled());
+}
+
+TEST_F(EigeneMaterialienFenster, TwoProgramsAtOnceLoseNoMaterialAndKeepTheirRowNumbers) {
+    Form99 fenster(*programm, meldungen);
+    legeAn(fenster, "hier", "1");
+    {
+        Programm zweites(pfad(ordner.path()));
+        Form99 anderes(zweites, meldungen);
+        legeAn(anderes, "dort", "2");
+        klick(anderes, "Command1");
+    }
+    klick(fenster, "Command1");
+    neuStart();
+    ASSERT_EQ(tabelle().zeilen.size(), 2U);
+    EXPECT_EQ(*tabelle().name(1), "hier");
+    EXPECT_EQ(*tabelle().name(2), "dort");
+}
+
+TEST_F(EigeneMaterialienFenster, AFileThatCannotBeWrittenIsReportedAndTheTableKept) {
+    ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("Plattenwerte.dat")));  // no file can go there
+    Form99 fenster(*programm, meldungen);
+    legeAn(fenster, "A", "1");
+    fenster.show();
+    klick(fenster, "Command1");
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_TRUE(fenster.isVisible());
+    EXPECT_EQ(tabelle().zeilen.size(), 1U);
+}
+
+TEST_F(EigeneMaterialienFenster, TheFirstStartBringsTheDeliveredMaterials) {
+    const auto pfadname = programm->datei(materialdatei);
+    const EigeneMaterialien erste = ladeEigeneMaterialien(pfadname);
+    EXPECT_GE(erste.zeilen.size(), 3U);
+    EXPECT_TRUE(std::filesystem::exists(pfadname));
+    ASSERT_FALSE(schreibeEigeneMaterialien(pfadname, {}));
+    EXPECT_EQ(ladeEigeneMaterialien(pfadname).zeilen.size(), 1U);  // the user's file is not touched
+}
+
+// ---- Fastener catalogue ----
+
+TEST_F(Kleinfenster, ACatalogueRowFillsTheBoxesOfTheSideThatOpenedIt) {
+    Form5 dialog(*programm, meldungen, nullptr);
+    const auto wert = [&](const char* name) { return feld<Werteingabe>(dialog, name)->wert(); };
+    const double d1 = wert("Textbox1(8)");
+    Form16 katalog(*programm, meldungen, &dialog, Seite::zwei);
+    int knoepfe = 0;
+    for (const QPushButton* knopf : katalog.findChildren<QPushButton*>())
+        knoepfe += knopf->text() == QStringLiteral("auswählen");
+    EXPECT_EQ(knoepfe, 71);
+    klick(katalog, "Command1(60)");        // row 61: 4.3 x 45, head 8.0
+    EXPECT_EQ(wert("Textbox1(10)"), 4.3);  // exactly: later checks compare exactly
+    EXPECT_EQ(wert("Textbox1(11)"), 45.0);
+    EXPECT_EQ(wert("Textbox1(6)"), 8.0);
+    EXPECT_EQ(wert("Textbox1(8)"), d1);
+    EXPECT_EQ(katalog.result(), QDialog::Accepted);
+}
+
+// ---- Handbook ----
+
+TEST_F(Kleinfenster, F1OpensTheChapterOfTheWindowInFront) {
+    const Hilfetaste hilfetaste(nullptr);
+    Form99 fenster(*programm, meldungen);
+    fenster.show();
+    QTest::keyClick(&fenster, Qt::Key_F1);
+    auto* handbuch = feld<Handbuch>(fenster, "Handbuch");
+    EXPECT_EQ(handbuch->kapitel(), QStringLiteral("eigene-materialien"));
+    EXPECT_TRUE(
+        handbuch->findChild<QTextBrowser*>()->toPlainText().startsWith(QStringLiteral("Eigene Materialien")));
+}
+
+// Every link to a chapter and every picture of the handbook is there.
+TEST_F(Kleinfenster, TheHandbookHasNoDeadEnds) {
+    const QDir seiten(QStringLiteral(":/handbuch"));
+    const QStringList dateien = seiten.entryList({QStringLiteral("*.md")});
+    ASSERT_GE(dateien.size(), 15);
+    const QRegularExpression verweis(QStringLiteral("\\]\\(([^)]+)\\)"));
+    for (const QString& name : dateien) {
+        QFile seite(seiten.filePath(name));
+        ASSERT_TRUE(seite.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(seite.readAll());
+        for (auto treffer = verweis.globalMatch(text); treffer.hasNext();) {
+            const QString ziel = treffer.next().captured(1);
+            EXPECT_TRUE(seiten.exists(ziel)) << utf8(name) << " -> " << utf8(ziel);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace rippenscheibe
