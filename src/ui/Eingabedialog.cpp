@@ -20,8 +20,17 @@
 namespace rippenscheibe {
 
 namespace {
+
 constexpr QSize kleinsteSkizze(320, 190);
+
+// The tab key comes to the chosen one of a row of options, the arrow keys to the others.
+void richteTabfolge(const QButtonGroup& auswahl) {
+    if (auswahl.checkedButton() == nullptr) return;
+    for (QAbstractButton* knopf : auswahl.buttons())
+        knopf->setFocusPolicy(knopf->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
+
+}  // namespace
 
 Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* parent, const QString& name,
                              const QString& titel)
@@ -56,6 +65,10 @@ void Eingabedialog::folgeAenderungen() {
         connect(feld, &Werteingabe::geaendert, this, &Eingabedialog::zeichneNeu);
     for (auto* feld : findChildren<QAbstractButton*>())
         if (feld->isCheckable()) connect(feld, &QAbstractButton::toggled, this, &Eingabedialog::zeichneNeu);
+    for (auto* auswahl : findChildren<QButtonGroup*>()) {
+        richteTabfolge(*auswahl);
+        connect(auswahl, &QButtonGroup::idToggled, this, [auswahl] { richteTabfolge(*auswahl); });
+    }
     for (auto* feld : findChildren<QComboBox*>())
         connect(feld, &QComboBox::currentIndexChanged, this, &Eingabedialog::zeichneNeu);
 }
