@@ -40,7 +40,7 @@ std::optional<double> zahlAus(const QString& text) {
         }
     }
     if (marken > 1) return std::nullopt;
-    if (!ziffern.empty() && ziffern.front() == '+') ziffern.erase(0, 1);
+    if (ziffern.starts_with('+') && !ziffern.starts_with("+-")) ziffern.erase(0, 1);
     double wert = 0.0;
     const char* ende = ziffern.data() + ziffern.size();
     const auto [gelesen, fehler] = std::from_chars(ziffern.data(), ende, wert);
