@@ -380,7 +380,8 @@ void Form1::baueStatuszeile() {
 // the default action stands in the accent colour.
 void Form1::setzeFarben() {
     QPalette akzent = palette();
-    akzent.setColor(QPalette::Button, palette().color(QPalette::Highlight));
+    // Darker than the accent itself: styles lighten their buttons, and the white text has to stand out.
+    akzent.setColor(QPalette::Button, palette().color(QPalette::Highlight).darker(140));
     akzent.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
     einsehen_->setPalette(akzent);
     const bool dunkel = palette().color(QPalette::Window).lightness() < 128;
