@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScrollBar>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -82,6 +83,10 @@ Handbuchseite::Handbuchseite(QWidget* parent) : QTextBrowser(parent) {
     setAccessibleName(QStringLiteral("Handbuch"));
     setOpenExternalLinks(false);
     document()->setDocumentMargin(16);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    neuLesen_.setSingleShot(true);
+    neuLesen_.setInterval(100);
+    connect(&neuLesen_, &QTimer::timeout, this, &Handbuchseite::liesNeu);
 }
 
 QVariant Handbuchseite::loadResource(int type, const QUrl& name) {
@@ -93,14 +98,20 @@ QVariant Handbuchseite::loadResource(int type, const QUrl& name) {
     } else {
         bild = inhalt.value<QImage>();
     }
-    const int breite = viewport()->width() - 2 * static_cast<int>(document()->documentMargin());
+    const int rand = static_cast<int>(document()->documentMargin());
+    const int breite = viewport()->width() - 2 * rand - 8;
     if (bild.isNull() || bild.width() <= breite || breite <= 0) return bild;
     return bild.scaledToWidth(breite, Qt::SmoothTransformation);
 }
 
-// The pictures are scaled when the page is read: a new width reads it again at the same place.
+// The pictures are scaled when the page is read: a new width reads it again at the same place, once the
+// layout has settled.
 void Handbuchseite::resizeEvent(QResizeEvent* event) {
     QTextBrowser::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) neuLesen_.start();
+}
+
+void Handbuchseite::liesNeu() {
     if (source().isEmpty()) return;
     const double stelle = verticalScrollBar()->value() / std::max(1.0, 1.0 * verticalScrollBar()->maximum());
     reload();

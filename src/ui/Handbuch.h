@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QObject>
 #include <QTextBrowser>
+#include <QTimer>
 
 class QListWidget;
 
@@ -22,6 +23,11 @@ class Handbuchseite : public QTextBrowser {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void liesNeu();
+
+    QTimer neuLesen_;
 };
 
 // The viewer of the user's handbook, with its chapters at the left. It does not hold up the window that

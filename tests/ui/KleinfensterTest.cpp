@@ -427,6 +427,21 @@ TEST_F(Kleinfenster, F1OpensTheChapterOfTheWindowInFront) {
         handbuch->findChild<QTextBrowser*>()->toPlainText().startsWith(QStringLiteral("Eigene Materialien")));
 }
 
+// One view shows them all, one after another: a page that the reader cannot digest would end the program.
+TEST_F(Kleinfenster, EveryChapterOfTheHandbookCanBeShown) {
+    Form99 fenster(*programm, meldungen);
+    Handbuch handbuch(&fenster);
+    handbuch.setAttribute(Qt::WA_DeleteOnClose, false);
+    handbuch.show();
+    auto* liste = feld<QListWidget>(handbuch, "Handbuchinhalt");
+    for (int i = 1; i < liste->count(); ++i) {
+        liste->setCurrentRow(i);
+        QApplication::processEvents();
+        const QString text = feld<QTextBrowser>(handbuch, "Handbuchseite")->toPlainText();
+        EXPECT_TRUE(text.startsWith(liste->item(i)->text())) << utf8(liste->item(i)->text());
+    }
+}
+
 // Every link to a chapter and every picture of the handbook is there.
 TEST_F(Kleinfenster, TheHandbookHasNoDeadEnds) {
     const QDir seiten(QStringLiteral(":/handbuch"));
