@@ -174,9 +174,11 @@ class Arbeit {
     }
 
     // The record as at program start.
+    // The state after program start: the defaults with their derived values.
     std::unique_ptr<Wand> frischeWand() const {
         auto wand = std::make_unique<Wand>();
         wand->eigeneMaterialien = materialien_;
+        zuweisen(*wand, grundmasse(*wand));
         return wand;
     }
 

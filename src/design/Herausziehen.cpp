@@ -42,12 +42,12 @@ const Klassenzeile* klasse(const Wand& w) {
 
 // Parameters of one kind of fastener.
 struct Ausziehart {
-    double mindestens;         // least penetration as a multiple of d
-    Zahl f1k;                  // N/mm²; failed: not assigned
-    Zahl kopfparameter;        // factor of f2k above 20 mm; failed: not assigned
-    Zahl kopfflaeche;          // dk², mm²
-    double duenn = 0;          // below this thickness no resistance, mm
-    bool f1kErstAb12 = false;  // f1k is assigned only where the thickness asks for it
+    double mindestens;                    // least penetration as a multiple of d
+    Zahl f1k;                             // N/mm²; failed: not assigned
+    Zahl kopfparameter;                   // factor of f2k above 20 mm; failed: not assigned
+    Zahl kopfflaeche;                     // dk², mm²
+    Zahl duenn = Zahl::fehlgeschlagen();  // below this thickness no resistance, mm; failed: no such limit
+    bool f1kErstAb12 = false;             // f1k is assigned only where the thickness asks for it
 };
 
 // The resistance of one shank by the thickness of the sheathing, N.
@@ -114,7 +114,11 @@ void ausziehwiderstand(Wand& w) {
             w.lef[S1] = Min(einschlag, w.lg[S1]);
             const Zahl f1k = zeile != nullptr ? zeile->schrauben * 1e-6 * rho2 : Zahl::fehlgeschlagen();
             // Meant: thinner sheathing leaves f1k1 as it was.
-            widerstand(w, {4, f1k, kopfklasse, kopf2, 0, true});
+            widerstand(w, {.mindestens = 4,
+                           .f1k = f1k,
+                           .kopfparameter = kopfklasse,
+                           .kopfflaeche = kopf2,
+                           .f1kErstAb12 = true});
             break;
         }
         default:

@@ -42,8 +42,6 @@ void setzeRxkNachDicke(Wand& w, Seite n, double cKopf) {
 
 void setzeRxd(Wand& w, Seite n) { w.Rxd[n] = w.kmodVM[n] * w.Rxk[n] / gammaAusziehen; }
 
-bool hatEinhaengeeffekt(const Wand& w, Seite n) { return istOsb(w, n) || istSpanplatteOderWeiter(w, n); }
-
 void setzeDeltaRk(Wand& w, Seite n, double anteil) {
     w.deltaRk[n] = Min(anteilAusziehen * w.Rxk[n], anteil * w.Rk[n]);
 }
@@ -53,12 +51,12 @@ void setzeDeltaRd(Wand& w, Seite n, double anteil) {
 }
 
 void setzeZuwachsVereinfacht(Wand& w, Seite n, const Einhaengeregel& regel) {
-    if (!w.DeltaRd || !hatEinhaengeeffekt(w, n)) {
+    if (!w.DeltaRd || istGipskarton(w, n) || istGipsfaser(w, n)) {
         w.deltaRk[n] = 0;
-        return;
+    } else if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        regel.setzeRxk(w, n, Verfahren::vereinfacht);
+        setzeDeltaRk(w, n, regel.anteil);
     }
-    regel.setzeRxk(w, n, Verfahren::vereinfacht);
-    setzeDeltaRk(w, n, regel.anteil);
 }
 
 void setzeZuwachsGenau(Wand& w, Seite n, const Einhaengeregel& regel) {

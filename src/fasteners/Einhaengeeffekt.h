@@ -34,10 +34,6 @@ void setzeRxkNachDicke(Wand& w, Seite n, double cKopf);
 // Rxd = kmodVM * Rxk / 1.3.
 void setzeRxd(Wand& w, Seite n);
 
-// The materials for which the simplified method counts the effect: 1, 2 and above 7. For 3 to 7 the gain is
-// 0.
-bool hatEinhaengeeffekt(const Wand& w, Seite n);
-
 // The gain, 0.25 times the withdrawal capacity and at most anteil * Rk or anteil * Rd.
 void setzeDeltaRk(Wand& w, Seite n, double anteil);
 void setzeDeltaRd(Wand& w, Seite n, double anteil);
@@ -49,7 +45,8 @@ struct Einhaengeregel {
     double anteil;
     bool (*laesstRxdStehen)(const Wand& w, Seite n) = [](const Wand&, Seite) { return false; };
 };
-// The gain of the simplified method (deltaRk) and of the exact one (Rxd, deltaRd).
+// The gain of the simplified method (deltaRk), 0 for materials 3 to 7 and unchanged for a number below 1,
+// and of the exact one (Rxd, deltaRd), which does not ask for the material.
 void setzeZuwachsVereinfacht(Wand& w, Seite n, const Einhaengeregel& regel);
 void setzeZuwachsGenau(Wand& w, Seite n, const Einhaengeregel& regel);
 // Adds deltaRd to Rd when the governing mode has a plastic hinge (D, E, F), told by exact equality.

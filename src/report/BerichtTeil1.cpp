@@ -12,9 +12,16 @@ namespace {
 
 using namespace std::string_literals;
 
-// The name of a catalogue's entry; none when the index is outside.
-std::optional<std::string_view> katalogname(std::span<const std::string_view> katalog, int index) {
-    if (index < 1 || index > static_cast<int>(katalog.size())) return std::nullopt;
+// A catalogue has more rows than names; the rows behind them are empty.
+constexpr int zeilenHolzarten = 20;
+constexpr int zeilenPlattenmaterialien = 20;
+constexpr int zeilenVMArten = 10;
+constexpr int zeilenVMTypen = 31;
+
+// What stands in row `index` of a catalogue; nothing when there is no such row, and the line falls out.
+std::optional<std::string_view> katalogname(std::span<const std::string_view> katalog, int zeilen,
+                                            int index) {
+    if (index < 1 || index > zeilen) return std::nullopt;
     return eintrag(katalog, index);
 }
 
@@ -49,7 +56,7 @@ void fussrippenende(Berichtsbau& b, std::string_view ende, bool durchgehend) {
 
 void rippenquerschnitte(Berichtsbau& b, const Wand& w) {
     b.h2("1.2 Querschnittswerte/Material Rippen", 7);
-    b.zeile(5, {"Holzfestigkeitsklasse = ", katalogname(Holzarten(), w.Holzart.value())});
+    b.zeile(5, {"Holzfestigkeitsklasse = ", katalogname(Holzarten(), zeilenHolzarten, w.Holzart.value())});
     b.zeile(4, {"Nutzungsklasse für Rippen: NKL ", {w.NKLRippen, "0"}});
     b.h3("1.2.1 Randrippen", 6);
     b.neu(Bildzeile{Bild::rippe, 100, 0, 90, 37});
@@ -66,7 +73,7 @@ void rippenquerschnitte(Berichtsbau& b, const Wand& w) {
 std::optional<std::string_view> plattenname(const Wand& w, Seite n) {
     constexpr int freiesMaterial = 13;
     if (w.Material[n].value() < freiesMaterial) {
-        return katalogname(Plattenmaterialien(), w.Material[n].value());
+        return katalogname(Plattenmaterialien(), zeilenPlattenmaterialien, w.Material[n].value());
     }
     const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);
     return name != nullptr ? std::optional<std::string_view>(*name) : std::nullopt;
@@ -132,11 +139,18 @@ void vmEinbau(Berichtsbau& b, const Wand& w, Seite n) {
                               : "VM wird bündig eingeschlagen / eingeschraubt und nicht versenkt"});
 }
 
+// The size of a nail, which only plain nails name.
+std::optional<std::string_view> nagelzusatz(const Wand& w, Seite n) {
+    if (w.VMArt[n].value() != naegel) return "";
+    const int typ = w.VMTyp[n].value();
+    if (typ < 1 || typ > zeilenVMTypen) return std::nullopt;
+    return nagelname(typ);
+}
+
 void verbindungsmittel(Berichtsbau& b, const Wand& w, Seite n) {
     const double ersterAbstand = n == Seite::eins ? 5 : 4;  // the sides differ here, and that is meant
-    const int art = w.VMArt[n].value();
-    const std::string_view typ = art == naegel ? nagelname(w.VMTyp[n].value()) : "";
-    b.zeile(ersterAbstand, {"VM = ", katalogname(VMArten(), art), typ});
+    b.zeile(ersterAbstand,
+            {"VM = ", katalogname(VMArten(), zeilenVMArten, w.VMArt[n].value()), nagelzusatz(w, n)});
     vmMasse(b, w, n);
     vmEinbau(b, w, n);
 }

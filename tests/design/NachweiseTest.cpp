@@ -172,6 +172,7 @@ TEST(Herausziehen, FollowsKindClassAndThickness) {
         {"nail, penetration capped at 20 d", 1, 1, false, 3, 90, 25, 0, 20, 18 * 0.1225 * 3 * 60},
         {"nail, predrilled", 1, 1, true, 3, 60, 15, 0, 6.8, 0},
         {"nail, thin sheathing", 1, 1, false, 3, 60, 10, 0, 6.8, 400},
+        {"nail, sheathing countersunk away", 1, 1, false, 3, 60, -0.5, 0, 6.8, 400},
         {"nail, too short", 1, 1, false, 3, 38, 15, 0, 6.8, 0.000001},
         {"nail, exactly 8 d keeps the value of before", 1, 1, false, 3, 39, 15, 0, 6.8, stale},
         {"special nail 2B", 2, 5, false, 4, 60, 20, 36, 10, 40 * 0.1225 * 4 * 36},
