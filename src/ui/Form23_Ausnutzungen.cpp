@@ -78,9 +78,12 @@ class Balkenmaler : public QStyledItemDelegate {
         QColor bahn = palette.color(QPalette::Text);
         bahn.setAlphaF(0.10F);
         painter.fillRect(flaeche, bahn);
-        const double bisMarke = std::clamp(eta, 0.0, 1.0) * marke;
-        painter.fillRect(QRectF(flaeche.left(), flaeche.top(), bisMarke, flaeche.height()),
-                         eta > 1.0 ? farben.ueberschritten : farben.erfuellt);
+        // Up to the mark an exceeded bar is pale, so that what is too much stands out.
+        QColor grundfarbe = eta > 1.0 ? farben.ueberschritten : farben.erfuellt;
+        if (eta > 1.0) grundfarbe.setAlphaF(0.45F);
+        painter.fillRect(
+            QRectF(flaeche.left(), flaeche.top(), std::clamp(eta, 0.0, 1.0) * marke, flaeche.height()),
+            grundfarbe);
         if (eta > 1.0) {
             const double ueber = std::min((eta - 1.0) * marke, flaeche.width() - marke - luecke);
             painter.fillRect(QRectF(flaeche.left() + marke + luecke, flaeche.top(), std::max(ueber, 2.0),

@@ -193,6 +193,7 @@ QWidget* Form6::baueVorschau() {
     vorschau_->setAccessibleName(QStringLiteral("Vorschau der Seiten"));
     vorschau_->setZoomMode(QPrintPreviewWidget::FitToWidth);
     seitenanzahl_ = new QLabel(spalte);
+    seitenanzahl_->setObjectName(QStringLiteral("Seitenanzahl"));
     seitenanzahl_->setForegroundRole(QPalette::PlaceholderText);
     leiste->addWidget(seitenanzahl_);
     leiste->addStretch(1);

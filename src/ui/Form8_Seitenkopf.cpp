@@ -280,6 +280,7 @@ void Form8::lade() {
     vorlagen_->setCurrentRow(e.Kopfvorlage.value());
     waehleVorlage(e.Kopfvorlage.value());
     zeigeSchriften();
+    vorlagen_->setFocus();
 }
 
 // A template without texts of its own shows and stores others; the user's texts come back with the next
