@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <array>
@@ -163,10 +164,13 @@ Handbuch::Handbuch(QWidget* parent)
         const QUrl ziel = ort(QLatin1String(kapitelliste[static_cast<std::size_t>(zeile)].datei));
         if (seite_->source() != ziel) seite_->setSource(ziel, QTextDocument::MarkdownResource);
     });
-    connect(seite_, &QTextBrowser::sourceChanged, this, [this] {
-        for (std::size_t i = 0; i < kapitelliste.size(); ++i)
-            if (kapitel() == QLatin1String(kapitelliste[i].datei))
-                inhalt_->setCurrentRow(static_cast<int>(i));
+    // The signal comes before the page knows its new source.
+    connect(seite_, &QTextBrowser::sourceChanged, this, [this](const QUrl& quelle) {
+        for (std::size_t i = 0; i < kapitelliste.size(); ++i) {
+            if (quelle != ort(QLatin1String(kapitelliste[i].datei))) continue;
+            const QSignalBlocker still(inhalt_);
+            inhalt_->setCurrentRow(static_cast<int>(i));
+        }
     });
 }
 

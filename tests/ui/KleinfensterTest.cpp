@@ -423,6 +423,8 @@ TEST_F(Kleinfenster, F1OpensTheChapterOfTheWindowInFront) {
     QTest::keyClick(&fenster, Qt::Key_F1);
     auto* handbuch = feld<Handbuch>(fenster, "Handbuch");
     EXPECT_EQ(handbuch->kapitel(), QStringLiteral("eigene-materialien"));
+    EXPECT_EQ(feld<QListWidget>(*handbuch, "Handbuchinhalt")->currentItem()->text(),
+              QStringLiteral("Eigene Materialien"));
     EXPECT_TRUE(
         handbuch->findChild<QTextBrowser*>()->toPlainText().startsWith(QStringLiteral("Eigene Materialien")));
 }
