@@ -84,6 +84,7 @@ Zeichnungsansicht* Eingabedialog::skizziere(Zeichnung was) {
     auto* ansicht = new Zeichnungsansicht(was, this);
     ansicht->setzeDezimalzeichen(dezimalzeichen());
     ansicht->setMinimumSize(kleinsteSkizze);
+    ansicht->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);  // as tall as the fields
     skizzen_->addWidget(ansicht, 1);
     ansichten_.push_back(ansicht);
     return ansicht;
