@@ -2,12 +2,11 @@
 
 #include <QPointer>
 #include <QString>
+#include <QWidget>
 #include <functional>
 #include <optional>
 
 #include "ui/Programm.h"
-
-class QWidget;
 
 namespace rippenscheibe {
 

@@ -1,6 +1,6 @@
 #include "ui/Werteingabe.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QPainter>
 #include <charconv>
