@@ -4,6 +4,7 @@
 #include <QHashSeed>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
 #include <cstdio>
 #include <memory>
@@ -72,11 +73,17 @@ int main(int argc, char** argv) {
     const Hilfetaste hilfetaste(&application);
     Form0 startbild(programm);
     std::unique_ptr<Form1> hauptfenster;
+    const auto baue = [&] {
+        if (hauptfenster == nullptr) hauptfenster = std::make_unique<Form1>(programm, meldungen);
+    };
     QObject::connect(&startbild, &Form0::entladen, &application, [&] {
-        hauptfenster = std::make_unique<Form1>(programm, meldungen);
+        baue();
         hauptfenster->show();
         hauptfenster->starte(datei);
     });
     startbild.show();
+    // The main window is built while the splash is looked at, and shown behind it.
+    constexpr int nachDemErstenBild = 50;  // ms
+    QTimer::singleShot(nachDemErstenBild, &application, baue);
     return QApplication::exec();
 }
