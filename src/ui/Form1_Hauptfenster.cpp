@@ -218,10 +218,7 @@ QWidget* Form1::baueRechteSpalte() {
     hinweise_->setAccessibleName(QStringLiteral("Hinweise / Fehler"));
     hinweise_->setAccessibleDescription(
         QStringLiteral("Doppelklick oder Eingabetaste öffnet das Fenster der genannten Eingabe"));
-    connect(hinweise_, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem* eintrag) { oeffneZu(eintrag->text()); });
-    connect(hinweise_, &QListWidget::itemDoubleClicked, this,
-            [this](const QListWidgetItem* eintrag) { oeffneZu(eintrag->text()); });
+    connect(hinweise_, &Hinweisliste::geoeffnet, this, &Form1::oeffneZu);
     auto* info = new QToolButton(rahmen);
     info->setObjectName(QStringLiteral("ComInfo2"));
     info->setToolTip(QStringLiteral("Info zu Randbedingungen"));

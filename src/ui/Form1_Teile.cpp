@@ -1,5 +1,6 @@
 #include "ui/Form1_Teile.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace rippenscheibe {
@@ -36,8 +37,11 @@ void Kurzzeile::setzeHinweis() {
 
 Hinweisliste::Hinweisliste(QWidget* parent) : QListWidget(parent) {
     setWordWrap(true);
+    setSpacing(1);
     setAlternatingRowColors(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(this, &QListWidget::itemDoubleClicked, this,
+            [this](const QListWidgetItem* eintrag) { Q_EMIT geoeffnet(eintrag->text()); });
 }
 
 void Hinweisliste::zeige(const QStringList& hinweise) {
@@ -51,6 +55,15 @@ void Hinweisliste::paintEvent(QPaintEvent* event) {
     QPainter maler(viewport());
     maler.setPen(palette().color(QPalette::PlaceholderText));
     maler.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("keine Hinweise"));
+}
+
+void Hinweisliste::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentItem() != nullptr) {
+        Q_EMIT geoeffnet(currentItem()->text());
+        return;
+    }
+    QListWidget::keyPressEvent(event);
 }
 
 }  // namespace rippenscheibe

@@ -34,8 +34,12 @@ class Hinweisliste : public QListWidget {
 
     void zeige(const QStringList& hinweise);
 
+  Q_SIGNALS:
+    void geoeffnet(const QString& hinweis);  // double click or Enter on a finding
+
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 }  // namespace rippenscheibe

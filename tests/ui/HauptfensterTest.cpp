@@ -134,7 +134,7 @@ TEST_F(Hauptfenster, FindingsStopTheRunAndStandInTheList) {
 }
 
 TEST_F(Hauptfenster, ADoubleClickOnAFindingOpensTheDialogOfItsInput) {
-    programm.w.d[Seite::eins] = 0.6;  // thinner than its head is fine, its thread is not
+    programm.w.d[Seite::eins] = 0.6;
     programm.w.VMArt[Seite::eins] = 2;
     programm.w.fuk[Seite::eins] = 100;
     klicke(fenster, "ComErgEin2");
@@ -143,10 +143,20 @@ TEST_F(Hauptfenster, ADoubleClickOnAFindingOpensTheDialogOfItsInput) {
     for (int i = 0; i < liste.count(); ++i)
         if (liste.item(i)->text().contains(QStringLiteral("Fließmoment zu klein"))) eintrag = liste.item(i);
     ASSERT_NE(eintrag, nullptr);
-    QString name;
-    mitFenster([&] { Q_EMIT liste.itemActivated(eintrag); },
-               [&](QWidget& form) { name = form.objectName(); });
-    EXPECT_EQ(name, QStringLiteral("Form5"));
+    QStringList namen;
+    const auto merke = [&](QWidget& form) { namen << form.objectName(); };
+    liste.scrollToItem(eintrag);
+    mitFenster(
+        [&] {
+            const QPoint ort = liste.visualItemRect(eintrag).center();
+            QTest::mouseClick(liste.viewport(), Qt::LeftButton, Qt::NoModifier, ort);
+            QTest::mouseDClick(liste.viewport(), Qt::LeftButton, Qt::NoModifier, ort);
+        },
+        merke);
+    liste.setFocus();
+    liste.setCurrentItem(eintrag);
+    mitFenster([&] { QTest::keyClick(&liste, Qt::Key_Return); }, merke);
+    EXPECT_EQ(namen, (QStringList{QStringLiteral("Form5"), QStringLiteral("Form5")}));
 }
 
 TEST_F(Hauptfenster, UnfulfilledProofsAreToldButDoNotStopTheReport) {
