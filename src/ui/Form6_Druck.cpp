@@ -104,6 +104,7 @@ QGroupBox* Form6::baueForm() {
     auto* rahmen = new QGroupBox(QStringLiteral("Form"), this);
     rahmen->setObjectName(QStringLiteral("Frame1"));
     auto* reihe = new QVBoxLayout(rahmen);
+    reihe->setSpacing(raster);
     lang_ = new QRadioButton(QStringLiteral("ausführlicher Ausdruck"), rahmen);
     lang_->setObjectName(QStringLiteral("Option1(1)"));
     lang_->setChecked(true);
@@ -120,6 +121,7 @@ QGroupBox* Form6::baueUmfang() {
     auto* rahmen = new QGroupBox(QStringLiteral("Umfang"), this);
     rahmen->setObjectName(QStringLiteral("Frame4"));
     auto* reihe = new QVBoxLayout(rahmen);
+    reihe->setSpacing(raster);
     bemerkungen_ = ankreuzfeld(QStringLiteral("Check1(8)"), QStringLiteral("Bemerkungen"));
     systemgrafik_ = ankreuzfeld(QStringLiteral("Check2"), QStringLiteral("Systemgrafik drucken"));
     randbedingungen_ = ankreuzfeld(QStringLiteral("Check4"), QStringLiteral("Randbedingungen drucken"));

@@ -225,6 +225,7 @@ QWidget* Form8::baueVorlagen() {
 QGroupBox* Form8::baueHaken() {
     auto* rahmen = new QGroupBox(QStringLiteral("Ausdruck"), this);
     auto* reihe = new QVBoxLayout(rahmen);
+    reihe->setSpacing(raster);
     for (std::size_t i = 0; i < hakenfelder.size(); ++i) {
         haken_[i] = new QCheckBox(QString::fromUtf8(hakenfelder[i].text), rahmen);
         haken_[i]->setObjectName(QStringLiteral("Check%1").arg(i + 1));

@@ -25,7 +25,7 @@ struct Schriftmass {
 };
 Schriftmass schriftmass(const Schrift& schrift);
 
-class Seitenmaler : public Zeichenflaeche {
+class Seitenmaler final : public Zeichenflaeche {
   public:
     // What the pictures show. `logo` may be empty: then nothing is painted at its place.
     struct Bildquelle {
