@@ -14,9 +14,9 @@ namespace rippenscheibe {
 inline constexpr std::string_view einstellungsdatei = "Hset.dat";
 inline constexpr std::string_view logodatei = "Logo.jpg";
 inline constexpr std::string_view vorgabepfad = "C:\\Eigene Dateien\\";
-// The fixed text lines of page head 0.
+// The fixed text lines of page head 0; the second is the maker's line.
 inline constexpr std::string_view kopfzeile1Vorlage0 = "Statik - Programme für das Bauwesen";
-inline constexpr std::string_view kopfzeile2Vorlage0 = "Bemessung von Wandtafeln nach DIN 1052 (2008)";
+inline constexpr std::string_view kopfzeile2Vorlage0 = "Rippenscheibe";
 
 // The settings of page head, default folder and print. The values here are those of "Voreinstellung".
 struct Einstellungen {
