@@ -20,7 +20,8 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # Optimising, gcc 12 reports faults inside std::string where there are none.
-    add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-maybe-uninitialized -Wno-array-bounds)
+    add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-maybe-uninitialized
+                        -Wno-array-bounds)
 endif()
 
 set(RIPPENSCHEIBE_SANITIZE "" CACHE STRING "Sanitizers, for instance address,undefined")
