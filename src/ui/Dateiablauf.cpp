@@ -110,13 +110,26 @@ void Dateiablauf::oeffnenDialog() {
 bool Dateiablauf::sichernDialog() { return dialogUndSichern() == Ausgang::weiter; }
 
 Dateiablauf::Ausgang Dateiablauf::dialogUndSichern() {
-    const std::optional<QString> datei =
-        meldungen_.sichern(fenster_, {QStringLiteral("Datei speichern unter"), programm_.DialogOrdner,
-                                      vorschlag(), dateifilter, dateiendung});
-    if (!datei) return Ausgang::abgebrochen;
+    std::optional<QString> datei;
+    do {
+        datei = meldungen_.sichern(fenster_, {QStringLiteral("Datei speichern unter"), programm_.DialogOrdner,
+                                              vorschlag(), dateifilter, dateiendung});
+        if (!datei) return Ausgang::abgebrochen;
+    } while (!darfUeberschreiben(*datei));
     programm_.DialogDateiname = *datei;
     programm_.Dateiname = utf8(*datei);
     return saveFile() ? Ausgang::weiter : Ausgang::fehlgeschlagen;
+}
+
+// The file dialog asks about the name as it was chosen, and it appends the ending only to a name without a
+// point: "1.2" is written to "1.2.rsw", which it has not asked about.
+bool Dateiablauf::darfUeberschreiben(const QString& gewaehlt) {
+    const QString ziel = qtext(mitEndung(utf8(gewaehlt)));
+    if (ziel == gewaehlt || !QFileInfo::exists(ziel)) return true;
+    const QString frage =
+        QStringLiteral("Die Datei\n%1\nist bereits vorhanden. Soll sie überschrieben werden ?");
+    return meldungen_.zeige(fenster_, {Symbol::frage, QStringLiteral("Datei speichern"), frage.arg(ziel),
+                                       Knoepfe::jaNein}) == Antwort::ja;
 }
 
 // The position and its remark; characters that part folders in a path become a dash.

@@ -45,6 +45,7 @@ class Dateiablauf {
     Ausgang frage(Dateiaktion aktion);
     Ausgang sicherungsschritt();
     Ausgang dialogUndSichern();
+    bool darfUeberschreiben(const QString& gewaehlt);
     void naechsterSchritt();
     void oeffnenDialog();
     bool saveFile();

@@ -167,6 +167,34 @@ TEST_F(Ablauf, SaveAppendsTheEndingAndProposesPositionAndRemark) {
     EXPECT_EQ(laengeIn(datei("wand.rsw")), 7);
 }
 
+TEST_F(Ablauf, AnAppendedEndingDoesNotOverwriteAnotherPositionUnasked) {
+    programm.w.Position = "1.2";
+    aendere();
+    gespeicherte("1.2.rsw");  // 4 m
+    meldungen.dateien = {datei("1.2"), datei("1.3")};
+    meldungen.antworten = {Antwort::nein};
+    ablauf.sichern();
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral("Datei speichern"));
+    EXPECT_EQ(meldungen.gezeigt[0].knoepfe, Knoepfe::jaNein);
+    EXPECT_TRUE(meldungen.gezeigt[0].text.contains(datei("1.2.rsw")));
+    EXPECT_EQ(meldungen.gewaehlt.size(), 2U);  // No goes back to the file dialog
+    EXPECT_EQ(laengeIn(datei("1.2.rsw")), 4);
+    EXPECT_EQ(laengeIn(datei("1.3.rsw")), 7);
+
+    programm.Dateiname.clear();
+    meldungen.dateien = {datei("1.2")};
+    meldungen.antworten = {Antwort::ja};
+    ablauf.sichern();
+    EXPECT_EQ(laengeIn(datei("1.2.rsw")), 7);
+
+    // The file dialog itself has asked about a name with the ending.
+    programm.Dateiname.clear();
+    meldungen.dateien = {datei("1.2.rsw")};
+    ablauf.sichern();
+    EXPECT_EQ(meldungen.gezeigt.size(), 2U);
+}
+
 TEST_F(Ablauf, AFailedSaveKeepsThePositionAndGivesTheActionUp) {
     programm.Dateiname = utf8(datei("fehlt/wand.rsw"));
     programm.DialogDateiname = datei("fehlt/wand.rsw");
