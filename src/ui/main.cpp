@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHashSeed>
 #include <QLibraryInfo>
@@ -62,7 +63,8 @@ int main(int argc, char** argv) {
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
     befehlszeile.process(application);
-    const QString datei = befehlszeile.positionalArguments().value(0);
+    const QString angabe = befehlszeile.positionalArguments().value(0);
+    const QString datei = angabe.isEmpty() ? angabe : QFileInfo(angabe).absoluteFilePath();
 
     Programm programm(programmordner());
     // Qt's own buttons, menus and dialogs in German, whatever the locale: the program is.
@@ -79,7 +81,8 @@ int main(int argc, char** argv) {
     QObject::connect(&startbild, &Form0::entladen, &application, [&] {
         baue();
         hauptfenster->show();
-        hauptfenster->starte(datei);
+        // The start may open windows and wait for them; the splash has to be gone by then.
+        QTimer::singleShot(0, hauptfenster.get(), [&] { hauptfenster->starte(datei); });
     });
     startbild.show();
     // The main window is built while the splash is looked at, and shown behind it.
