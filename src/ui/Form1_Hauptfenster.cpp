@@ -397,9 +397,14 @@ void Form1::starte(const QString& datei) {
     programm_.zuweisen();
     programm_.setzeGesichert(true);
 
-    if (sicherung_.stelleWiederHer(meldungen_, this)) return;
     const QString uebergeben =
         datei.isEmpty() ? qtext(holeUebergabe(programm_.datei(uebergabedatei))) : datei;
+    if (sicherung_.stelleWiederHer(meldungen_, this)) {
+        // The recovered position is unsaved: opening another one asks about it.
+        const bool andere = !uebergeben.isEmpty() && utf8(uebergeben) != programm_.Dateiname;
+        if (andere) ablauf_.oeffnen(uebergeben);
+        return;
+    }
     bool geladen = false;
     if (!uebergeben.isEmpty()) {
         programm_.DialogDateiname = uebergeben;

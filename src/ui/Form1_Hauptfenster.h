@@ -28,7 +28,8 @@ class Form1 : public QMainWindow {
     Form1(Programm& programm, Meldungen& meldungen, QWidget* parent = nullptr);
 
     // The start sequence: settings, own materials, defaults, then the position that a crash left, that is
-    // given by `datei` or that was handed over; without any of them the project dialog.
+    // given by `datei` or that was handed over; without any of them the project dialog. Beside a recovered
+    // position the wanted one is opened after the query about unsaved changes.
     void starte(const QString& datei = QString());
 
     // Zuweisen, plausibility run and, without findings, the calculation; then report or result view.

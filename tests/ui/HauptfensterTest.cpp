@@ -231,6 +231,35 @@ TEST_F(Hauptfenster, TheProgramStartsWithAHandedOverPositionThenAFileThenTheProj
     EXPECT_EQ(programm.w.Wandlaenge, 6);
 }
 
+TEST_F(Hauptfenster, AWantedFileIsOpenedBesideARecoveredPositionAfterTheQuery) {
+    Wand andere;
+    andere.Wandlaenge = 6;
+    ASSERT_FALSE(schreibePosition(pfad(datei("a.rsw")), andere));
+    const auto stuerzeAb = [this] {
+        Programm abgestuerzt(pfad(ordner.path()));
+        abgestuerzt.felder.Wandlaenge = 9;
+        abgestuerzt.zuweisen();
+        abgestuerzt.setzeGesichert(false);
+        Sicherungskopie(abgestuerzt).sichere();
+    };
+    stuerzeAb();
+    meldungen.antworten = {Antwort::ja, Antwort::nein};
+    EXPECT_FALSE(mitFenster([this] { fenster.starte(datei("a.rsw")); }, [](QWidget&) {}));
+    ASSERT_EQ(meldungen.gezeigt.size(), 2U);
+    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral("Wiederherstellung"));
+    EXPECT_EQ(meldungen.gezeigt[1].titel, QStringLiteral("Datei öffnen"));
+    EXPECT_EQ(programm.w.Wandlaenge, 6);
+
+    // A cancel stays with the recovered position; the hand-over is used up all the same.
+    stuerzeAb();
+    ASSERT_FALSE(schreibeDauerhaft(programm.datei("Posdat.dat"), "\"" + utf8(datei("a.rsw")) + "\"\r\n"));
+    meldungen.antworten = {Antwort::ja, Antwort::abbrechen};
+    EXPECT_FALSE(mitFenster([this] { fenster.starte(); }, [](QWidget&) {}));
+    EXPECT_EQ(meldungen.gezeigt.size(), 4U);
+    EXPECT_EQ(programm.w.Wandlaenge, 9);
+    EXPECT_EQ(holeUebergabe(programm.datei("Posdat.dat")), "");
+}
+
 TEST_F(Hauptfenster, ClosingTheWindowAsksButTheMenuDoesNotAskTwice) {
     meldungen.antworten = {Antwort::nein};
     EXPECT_FALSE(fenster.close());
