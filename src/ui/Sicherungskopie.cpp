@@ -65,14 +65,16 @@ void Sicherungskopie::folgeZustand() {
     if (platz_) loesche(platz_->nummer);
 }
 
-void Sicherungskopie::sichere() {
-    if (!platz_ || programm_.Gesichert()) return;
+bool Sicherungskopie::sichere() {
+    if (programm_.Gesichert()) return true;
+    if (!platz_) return false;
     const std::string text = positionstext(programm_.w);
-    if (text == gesichert_) return;
+    if (text == gesichert_) return true;
     // A copy that cannot be written is tried again a minute later; the user's work goes on.
-    if (schreibeDauerhaft(datei(platz_->nummer, dateiname), programm_.Dateiname)) return;
-    if (schreibePosition(datei(platz_->nummer, position), programm_.w)) return;
+    if (schreibeDauerhaft(datei(platz_->nummer, dateiname), programm_.Dateiname)) return false;
+    if (schreibePosition(datei(platz_->nummer, position), programm_.w)) return false;
     gesichert_ = text;
+    return true;
 }
 
 bool Sicherungskopie::stelleWiederHer(Meldungen& meldungen, QWidget* fenster) {
@@ -99,8 +101,13 @@ bool Sicherungskopie::stelleWiederHer(Meldungen& meldungen, QWidget* fenster) {
             fenster, {Symbol::frage, QStringLiteral("Wiederherstellung"), text, Knoepfe::jaNeinAbbrechen});
         if (antwort == Antwort::nein) loesche(platz.nummer);
         if (antwort != Antwort::ja) continue;  // a cancel keeps the copy for the next start
+        const auto w = std::make_unique<Wand>(programm_.w);
+        if (const auto fehler = liesPosition(datei(platz.nummer, position), *w).fehler) {
+            meldungen.kritisch(fenster, QStringLiteral(" Fehler"), qtext(fehler->text));
+            continue;  // the copy stays for the next start
+        }
         programm_.Sperre = true;
-        static_cast<void>(liesPosition(datei(platz.nummer, position), programm_.w));
+        programm_.w = *w;
         programm_.felder = grundmasse(programm_.w);
         programm_.Sperre = false;
         programm_.Dateiname = name;
@@ -108,8 +115,8 @@ bool Sicherungskopie::stelleWiederHer(Meldungen& meldungen, QWidget* fenster) {
         programm_.setzeTitel(name.empty() ? QStringLiteral(" <Neue Datei> ") : qtext(name));
         programm_.setzeGesichert(false);
         programm_.zuweisen();
-        sichere();
-        loesche(platz.nummer);
+        // The old copy is given up for a new one only.
+        if (sichere()) loesche(platz.nummer);
         return true;
     }
     return false;

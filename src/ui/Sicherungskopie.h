@@ -30,10 +30,11 @@ class Sicherungskopie : public QObject {
     static constexpr int abstand = 60'000;  // ms
 
     // Offers what crashed programs left, the newest first. True when the user took one: the record holds it
-    // then, unsaved, under the name of its file.
+    // then, unsaved, under the name of its file. A copy that cannot be read is reported and kept; one that
+    // was taken is kept too while no new copy could be written.
     bool stelleWiederHer(Meldungen& meldungen, QWidget* fenster);
-    // Writes the copy when there are unsaved changes that it does not hold yet.
-    void sichere();
+    // Writes the copy when there are unsaved changes that it does not hold yet. False when they are not safe.
+    bool sichere();
     // The program ends in order: nothing is left.
     void raeumeAuf();
 

@@ -254,6 +254,48 @@ TEST(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
     EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
 }
 
+// What a crashed program left in the first slot: a wall of 9 m.
+void stuerzeAb(const QTemporaryDir& ordner) {
+    Programm abgestuerzt(pfad(ordner.path()));
+    abgestuerzt.felder.Wandlaenge = 9;
+    abgestuerzt.zuweisen();
+    abgestuerzt.setzeGesichert(false);
+    Sicherungskopie kopie(abgestuerzt);
+    kopie.sichere();
+}
+
+TEST(Wiederherstellung, AnUnreadableCopyIsReportedAndKept) {
+    QTemporaryDir ordner;
+    const QString kopiename = ordner.filePath(QStringLiteral("Sicherung-1.rsw"));
+    ASSERT_TRUE(QDir().mkpath(kopiename));  // a folder cannot be read as a file
+    GeskripteteMeldungen meldungen;
+    meldungen.antworten = {Antwort::ja, Antwort::ok};
+    Programm programm(pfad(ordner.path()));
+    programm.w.Vorbemerkungen[0] = "bleibt";
+    Sicherungskopie kopie(programm);
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
+    ASSERT_EQ(meldungen.gezeigt.size(), 2U);
+    EXPECT_EQ(meldungen.gezeigt[1].symbol, Symbol::kritisch);
+    EXPECT_TRUE(QFile::exists(kopiename));
+    EXPECT_EQ(programm.w.Vorbemerkungen[0], "bleibt");
+    EXPECT_TRUE(programm.Gesichert());
+}
+
+TEST(Wiederherstellung, TheOldCopyStaysWhileNoNewOneCanBeWritten) {
+    QTemporaryDir ordner;
+    stuerzeAb(ordner);
+    // The new program takes the second slot, and a folder is in the way of its file.
+    const QString hindernis = ordner.filePath(QStringLiteral("Sicherung-2.txt"));
+    ASSERT_TRUE(QDir().mkpath(hindernis + QStringLiteral("/voll")));
+    GeskripteteMeldungen meldungen;
+    meldungen.antworten = {Antwort::ja};
+    Programm programm(pfad(ordner.path()));
+    Sicherungskopie kopie(programm);
+    EXPECT_TRUE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_EQ(programm.w.Wandlaenge, 9);
+    EXPECT_TRUE(QFile::exists(ordner.filePath(QStringLiteral("Sicherung-1.rsw"))));
+}
+
 TEST(Wiederherstellung, ASaveTakesTheCopyAway) {
     QTemporaryDir ordner;
     Programm programm(pfad(ordner.path()));
