@@ -5,6 +5,7 @@
 #include "basis/Zahlenformat.h"
 #include "model/Kataloge.h"
 #include "ui/Programm.h"
+#include "ui/zeichnungen/Wandgeometrie.h"
 
 namespace rippenscheibe {
 
@@ -36,7 +37,8 @@ QString platte(const Wand& w, Seite n) {
 
 QString mittel(const Wand& w, Seite n) {
     return QStringLiteral("%1 %2 x %3, av = %4 mm")
-        .arg(name(VMArten(), w.VMArt[n]), knapp(w.d[n]), knapp(w.ln[n]), knapp(w.av[n]));
+        .arg(name(VMArten(), w.VMArt[n]), durchmessertext(w.d[n].value(), dezimalzeichen()),
+             laengentext(w.ln[n].value(), dezimalzeichen()), knapp(w.av[n]));
 }
 
 // "1: ...; 2: ..." when the sides differ.

@@ -209,6 +209,17 @@ TEST_F(Hauptfenster, SummariesFollowTheRecord) {
     EXPECT_EQ(zeile("Command1_Zusammenfassung"), QStringLiteral("Gipskartonplatte GKBI 12,5 mm, einseitig"));
     EXPECT_EQ(zeile("Command2_Zusammenfassung"), QStringLiteral("Nägel 2,7 x 50, av = 60 mm"));
     EXPECT_EQ(zeile("Command4_Zusammenfassung"), QStringLiteral("Fv,k = 3,00 kN, KLED kurz"));
+
+    programm.w.VMArt[Seite::eins] = 3;
+    const std::tuple<double, double, const char*> mittel[] = {
+        {1.53, 52.5, "1,53 x 52,5"}, {1.8, 50, "1,8 x 50"}, {4, 60, "4,0 x 60"}};
+    for (const auto& [d, ln, text] : mittel) {
+        programm.w.d[Seite::eins] = d;
+        programm.w.ln[Seite::eins] = ln;
+        programm.zuweisen();
+        EXPECT_EQ(zeile("Command2_Zusammenfassung"),
+                  QStringLiteral("Klammern %1, av = 60 mm").arg(QLatin1String(text)));
+    }
 }
 
 TEST_F(Hauptfenster, TheProgramStartsWithAHandedOverPositionThenAFileThenTheProjectDialog) {

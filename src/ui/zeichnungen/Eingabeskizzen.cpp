@@ -257,7 +257,7 @@ void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n) {
 
     z.textPassend({r.width() / 2.0, 1.3 * t}, verbindungsmittelname(w, n, z), Qt::AlignHCenter, r.width() - t,
                   {1.0, true, {}});
-    QString querschnitt = QStringLiteral("d = %1").arg(z.zahl("0.00", v.d));
+    QString querschnitt = QStringLiteral("d = %1").arg(durchmessertext(v.d, z.stil().dezimalzeichen));
     if (!istKlammer(v.art) && v.art != VMArtNummer::schnellbauschraube)
         querschnitt += QStringLiteral(",  dk = %1").arg(z.zahl("0.0", v.dk));
     z.text({r.width() / 2.0, 2.7 * t}, querschnitt + QStringLiteral(" mm"), Qt::AlignHCenter);

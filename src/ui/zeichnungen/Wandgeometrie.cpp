@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "basis/Zahlenformat.h"
 #include "model/Kataloge.h"
 
 namespace rippenscheibe {
@@ -87,12 +88,25 @@ QString plattenname(const Wand& w, Seite n) {
     return utf8text(eintrag(Plattenmaterialien(), w.Material[n].value()));
 }
 
+QString durchmessertext(double mm, char dezimalzeichen) {
+    QString text = utf8text(formatiere("0.00", mm, dezimalzeichen));
+    if (text.endsWith(QLatin1Char('0'))) text.chop(1);
+    return text;
+}
+
+QString laengentext(double mm, char dezimalzeichen) {
+    QString text = utf8text(formatiere("0.0", mm, dezimalzeichen));
+    if (text.endsWith(QLatin1Char('0'))) text.chop(2);  // with its decimal mark
+    return text;
+}
+
 QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z) {
     const int art = w.VMArt[n].value();
     const QString name = utf8text(eintrag(VMArten(), art));
     if (art == 1) return name + QLatin1Char(' ') + utf8text(nagelname(w.VMTyp[n].value()));
-    return name + QLatin1Char(' ') + z.zahl("0.0", w.d[n].value()) + QLatin1Char('x') +
-           z.zahl("0", w.ln[n].value());
+    const char zeichen = z.stil().dezimalzeichen;
+    return name + QLatin1Char(' ') + durchmessertext(w.d[n].value(), zeichen) + QLatin1Char('x') +
+           laengentext(w.ln[n].value(), zeichen);
 }
 
 QString ankerkurzname(const Wand& w) {

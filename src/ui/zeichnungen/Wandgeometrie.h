@@ -45,7 +45,11 @@ bool hatVertikallast(const Wand& w);
 
 // "OSB/3", or the name of the own material.
 QString plattenname(const Wand& w, Seite n);
-// "Nägel 2,7x50", "Klammern d 1,5 x 50".
+// A diameter with the places it needs, one at least: "1,53", "2,7", "4,0".
+QString durchmessertext(double mm, char dezimalzeichen);
+// A length with the places it needs: "50", "52,5".
+QString laengentext(double mm, char dezimalzeichen);
+// "Nägel 2,7x50", "Klammern 1,53x50".
 QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z);
 // The last word of the anchor's name ("HTT5"), or the name of the free anchor.
 QString ankerkurzname(const Wand& w);
