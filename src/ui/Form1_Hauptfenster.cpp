@@ -450,8 +450,10 @@ void Form1::starteProjektmanager() {
 // ---- Showing the position ----
 
 void Form1::zeige() {
+    // A refused text belongs to the value before; it does not outlive it.
     for (const auto& [feld, mass] : felder_)
-        if (feld->wert() != programm_.felder.*mass) feld->setzeWert(programm_.felder.*mass);
+        if (feld->abgelehnt() || feld->wert() != programm_.felder.*mass)
+            feld->setzeWert(programm_.felder.*mass);
     for (const Zeile& zeile : zeilen_) zeile.schild->setzeText(zeile.text(programm_.w));
     ansicht_->setzeWand(programm_.w);
     zeigeTitel();
@@ -475,7 +477,7 @@ void Form1::uebernimmFeld(double Grundmasse::*feld, double wert) {
 }
 
 void Form1::rechneUndZeige(Fensterart ausgabe) {
-    programm_.zuweisen();
+    programm_.zuweisen();  // shows the position too: a refused text gives way to the value that is used
     const Laufergebnis ergebnis = rippenscheibe::starte(programm_.w);
     zeigeHinweise();
     if (ergebnis == Laufergebnis::hinweise) {

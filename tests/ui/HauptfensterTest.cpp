@@ -182,6 +182,24 @@ TEST_F(Hauptfenster, EditsReachTheRecordAtOnceUnlessBlocked) {
     EXPECT_EQ(programm.w.Rippenabstand, 500);
 }
 
+TEST_F(Hauptfenster, ARefusedTextGivesWayToANewPositionAndToARun) {
+    Werteingabe& laenge = wert(fenster, "Textbox1(0)");
+    const auto lehneAb = [&] {
+        tippe(laenge, QStringLiteral("0"));
+        ASSERT_TRUE(laenge.abgelehnt());
+    };
+    lehneAb();
+    meldungen.antworten = {Antwort::nein};
+    mitFenster([this] { loese("mnuFNew"); }, [](QWidget&) {});
+    EXPECT_FALSE(laenge.abgelehnt());
+    EXPECT_EQ(laenge.text(), QStringLiteral("5,000"));
+
+    lehneAb();
+    EXPECT_TRUE(mitFenster([this] { loese("mnuFView"); },
+                           [&](QWidget&) { EXPECT_EQ(laenge.text(), QStringLiteral("5,000")); }));
+    EXPECT_FALSE(laenge.abgelehnt());
+}
+
 TEST_F(Hauptfenster, EnterMovesOnAndNeverStartsARun) {
     programm.w.Hinweise = {"unberührt"};
     QWidget* feld = &wert(fenster, "Textbox1(0)");
