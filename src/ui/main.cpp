@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QTimer>
 #include <QTranslator>
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -31,13 +32,25 @@ void waehleSprache() {
 
 void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
 
-// The command that needs no display.
-int laufeOhneFenster(int argc, char** argv) {
+// Help and version are printed; like the PDF they need no display.
+bool willNurText(const QStringList& angaben) {
+    const QStringList woerter{QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("--help-all"),
+                              QStringLiteral("-v"), QStringLiteral("--version")};
+    return std::any_of(woerter.cbegin(), woerter.cend(),
+                       [&](const QString& wort) { return angaben.contains(wort); });
+}
+
+void verzichteAufAnzeige() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // What Qt says about a missing session is of no use here; only the program's own messages are.
     qInstallMessageHandler([](QtMsgType art, const QMessageLogContext&, const QString& text) {
         if (art == QtFatalMsg) schreibe(stderr, text.toStdString() + "\n");
     });
+}
+
+// The command that needs no display.
+int laufeOhneFenster(int argc, char** argv) {
+    verzichteAufAnzeige();
     QHashSeed::setDeterministicGlobalSeed();  // the order of a PDF's parts depends on it
     const QGuiApplication application(argc, argv);
     QTranslator deutsch;
@@ -57,8 +70,13 @@ int main(int argc, char** argv) {
     for (int i = 0; i < argc; ++i) angaben << QString::fromLocal8Bit(argv[i]);
     if (istPdfBefehl(angaben)) return laufeOhneFenster(argc, argv);
 
+    if (willNurText(angaben)) verzichteAufAnzeige();
     QApplication application(argc, argv);
     waehleSprache();
+    // Qt's own buttons, menus, dialogs and the help of the command line in German, whatever the locale: the
+    // program is.
+    QTranslator deutsch;
+    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
 
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
@@ -67,10 +85,6 @@ int main(int argc, char** argv) {
     const QString datei = angabe.isEmpty() ? angabe : QFileInfo(angabe).absoluteFilePath();
 
     Programm programm(programmordner());
-    // Qt's own buttons, menus and dialogs in German, whatever the locale: the program is.
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
-
     Plattformmeldungen meldungen;
     const Hilfetaste hilfetaste(&application);
     Form0 startbild(programm);
