@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "basis/Zahlenformat.h"
 #include "materials/Querschnittswerte.h"
 #include "ui/Programm.h"
 #include "ui/Werteingabe.h"
@@ -57,13 +58,11 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
           QStringLiteral("g - Faserdämmstoffe = 0,01 kN/m² je cm Dicke")})
         zeilen->addWidget(new QLabel(text, wichten));
     inhalt()->addWidget(wichten);
-    ohneWichte_ = new QLabel(
-        QStringLiteral(
-            "Die Wichte der Beplankung liegt erst nach einer Berechnung vor; bis dahin ist ihr Gewicht "
-            "hier nicht enthalten."),
-        this);
-    ohneWichte_->setWordWrap(true);
-    inhalt()->addWidget(ohneWichte_);
+    wichtenhinweis_ = new QLabel(herkunft(), this);
+    wichtenhinweis_->setObjectName(QStringLiteral("Wichtenhinweis"));
+    wichtenhinweis_->setForegroundRole(QPalette::PlaceholderText);
+    wichtenhinweis_->setWordWrap(true);
+    inhalt()->addWidget(wichtenhinweis_);
     inhalt()->addStretch(1);
 
     QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
@@ -81,6 +80,22 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
 double Form14::gkWand() const { return ergebnis_->wert(); }
 
+// The unit weights of the sheathing are results: those of the last calculation, until another one runs.
+QString Form14::herkunft() const {
+    const Wand& w = programm_.w;
+    const auto fehlt = [&](Seite n) { return w.Wichte[n] == 0; };
+    if (fehlt(Seite::eins) || (!w.Einseitig && fehlt(Seite::zwei)))
+        return QStringLiteral(
+            "Die Wichte der Beplankung liegt erst nach einer Berechnung vor; bis dahin ist ihr Gewicht "
+            "hier nicht enthalten.");
+    const auto zahl = [&](Seite n) {
+        return qtext(formatiere("0.0", w.Wichte[n].value(), dezimalzeichen()));
+    };
+    const QString werte =
+        w.Einseitig ? zahl(Seite::eins) : zahl(Seite::eins) + QStringLiteral(" / ") + zahl(Seite::zwei);
+    return QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: %1 kN/m³").arg(werte);
+}
+
 void Form14::rechne() {
     const bool vorhanden = daemmung_->checkedId() == 0;
     dicke_->setzeAktiv(vorhanden);
@@ -89,8 +104,6 @@ void Form14::rechne() {
     eigengewicht(w, vorhanden ? Daemmung::vorhanden : Daemmung::keine);
     const Zahl jeMeter = w.GewichtGesamt / w.Wandlaenge;
     if (!jeMeter.failed()) ergebnis_->setzeWert(jeMeter.value());
-    const bool fehlt = w.Wichte[Seite::eins] == 0 || (!w.Einseitig && w.Wichte[Seite::zwei] == 0);
-    ohneWichte_->setVisible(fehlt);
 }
 
 }  // namespace rippenscheibe

@@ -21,11 +21,12 @@ class Form14 : public Fenster {
 
   private:
     void rechne();
+    QString herkunft() const;
 
     QButtonGroup* daemmung_;  // id 0: present, 1: none
     Werteingabe* dicke_;
     Werteingabe* ergebnis_;
-    QLabel* ohneWichte_;
+    QLabel* wichtenhinweis_;  // where the unit weights of the sheathing come from
 };
 
 }  // namespace rippenscheibe
