@@ -22,6 +22,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QUrl>
@@ -274,7 +275,8 @@ void Form1::baueMenue() {
            [this] { rechneUndZeige(Fensterart::druck); })
         ->setShortcut(QKeySequence::Print);
     befehl(datei, QStringLiteral("mnuFView"), QStringLiteral("Berechnung starten und Ergebnisse &einsehen"),
-           [this] { rechneUndZeige(Fensterart::ergebnisse); });
+           [this] { rechneUndZeige(Fensterart::ergebnisse); })
+        ->setShortcut(QKeySequence(Qt::Key_F5));
     datei->addSeparator();
     befehl(datei, QStringLiteral("mnuFClose"), QStringLiteral("Programm &beenden"), [this] {
         beende();
@@ -414,6 +416,8 @@ void Form1::starte(const QString& datei) {
 }
 
 void Form1::beende() {
+    // The flag spares the question of the closing window, so it is set only when the program ends: after a
+    // cancel or a failed save the window must still ask before unsaved work is lost.
     if (!ablauf_.beenden()) return;
     endeBestaetigt_ = true;
     close();
@@ -557,7 +561,8 @@ void Form1::dropEvent(QDropEvent* event) {
     const QString datei = gezogeneDatei(*event->mimeData());
     if (datei.isEmpty()) return;
     event->acceptProposedAction();
-    ablauf_.oeffnen(datei);
+    // Boxes only once the drag is over: the program it came from waits for that.
+    QTimer::singleShot(0, this, [this, datei] { ablauf_.oeffnen(datei); });
 }
 
 void Form1::changeEvent(QEvent* event) {

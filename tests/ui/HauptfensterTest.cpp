@@ -321,6 +321,8 @@ TEST_F(Hauptfenster, ADroppedFileOpensAfterTheQuery) {
     EXPECT_TRUE(gezogen.isAccepted());
     QDropEvent abgelegt(QPointF(200, 200), Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&fenster, &abgelegt);
+    EXPECT_TRUE(meldungen.gezeigt.empty());  // nothing opens inside the drop
+    QCoreApplication::processEvents();
     EXPECT_EQ(programm.Dateiname, utf8(datei("a.rsw")));
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
 
