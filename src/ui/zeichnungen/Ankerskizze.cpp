@@ -180,7 +180,10 @@ void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe) {
     const QRectF r = z.flaeche();
     const Ankerform a = form(gruppe);
     const Naegel n = naegel(w, gruppe);
-    const Fuss f{r.height() - 11.0 * t - 1.6 * t, r.height() - 9.6 * t, 5.4 * t, r.height() - 4.6 * t};
+    // In the report the line that names the anchor runs into the picture, 14 mm below its top: the sketch
+    // starts beneath it.
+    const double oben = r.height() > 30.0 * t ? 10.4 * t : 5.4 * t;
+    const Fuss f{r.height() - 11.0 * t - 1.6 * t, r.height() - 9.6 * t, oben, r.height() - 4.6 * t};
     if (f.ok - f.oben < 4.0 * t || r.width() < 16.0 * t) return z.satzImRahmen(ankerkurzname(w));
     const double halb = (r.width() - 4.0 * t) / 2.0;
     const double rippe = std::min(0.48 * halb, 6.0 * t);
