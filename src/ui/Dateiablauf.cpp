@@ -100,8 +100,8 @@ void Dateiablauf::naechsterSchritt() {
 void Dateiablauf::oeffnenDialog() {
     std::optional<QString> datei = wunsch_;
     if (!datei)
-        datei = meldungen_.oeffnen(fenster_, {QStringLiteral("Datei öffnen"), programm_.DialogOrdner,
-                                              QString(), dateifilter, dateiendung});
+        datei = meldungen_.oeffnen(
+            fenster_, {QStringLiteral("Datei öffnen"), ordner(), QString(), dateifilter, dateiendung});
     if (!datei) return;
     programm_.DialogDateiname = *datei;
     lade(*datei);
@@ -112,13 +112,16 @@ bool Dateiablauf::sichernDialog() { return dialogUndSichern() == Ausgang::weiter
 Dateiablauf::Ausgang Dateiablauf::dialogUndSichern() {
     std::optional<QString> datei;
     do {
-        datei = meldungen_.sichern(fenster_, {QStringLiteral("Datei speichern unter"), programm_.DialogOrdner,
-                                              vorschlag(), dateifilter, dateiendung});
+        datei = meldungen_.sichern(fenster_, {QStringLiteral("Datei speichern unter"), ordner(), vorschlag(),
+                                              dateifilter, dateiendung});
         if (!datei) return Ausgang::abgebrochen;
     } while (!darfUeberschreiben(*datei));
-    programm_.DialogDateiname = *datei;
-    programm_.Dateiname = utf8(*datei);
-    return saveFile() ? Ausgang::weiter : Ausgang::fehlgeschlagen;
+    const QString dialognameVorher = std::exchange(programm_.DialogDateiname, *datei);
+    const std::string nameVorher = std::exchange(programm_.Dateiname, utf8(*datei));
+    if (saveFile()) return Ausgang::weiter;
+    programm_.DialogDateiname = dialognameVorher;
+    programm_.Dateiname = nameVorher;
+    return Ausgang::fehlgeschlagen;
 }
 
 // The file dialog asks about the name as it was chosen, and it appends the ending only to a name without a
@@ -130,6 +133,16 @@ bool Dateiablauf::darfUeberschreiben(const QString& gewaehlt) {
         QStringLiteral("Die Datei\n%1\nist bereits vorhanden. Soll sie überschrieben werden ?");
     return meldungen_.zeige(fenster_, {Symbol::frage, QStringLiteral("Datei speichern"), frage.arg(ziel),
                                        Knoepfe::jaNein}) == Antwort::ja;
+}
+
+// Where the file dialogs begin: beside the open file. Saving under another name begins in the folder of the
+// project or of the settings, as long as there is one.
+QString Dateiablauf::ordner() const {
+    const auto ordnerVon = [](const QString& datei) { return QFileInfo(datei).absolutePath(); };
+    if (!programm_.Dateiname.empty()) return ordnerVon(qtext(programm_.Dateiname));
+    if (!programm_.DialogOrdner.isEmpty() || programm_.DialogDateiname.isEmpty())
+        return programm_.DialogOrdner;
+    return ordnerVon(programm_.DialogDateiname);
 }
 
 // The position and its remark; characters that part folders in a path become a dash.

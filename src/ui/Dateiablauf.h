@@ -50,6 +50,7 @@ class Dateiablauf {
     void oeffnenDialog();
     bool saveFile();
     void setzeNeu();
+    QString ordner() const;
     QString vorschlag() const;
 
     Programm& programm_;

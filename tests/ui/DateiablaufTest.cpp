@@ -209,6 +209,37 @@ TEST_F(Ablauf, AFailedSaveKeepsThePositionAndGivesTheActionUp) {
     EXPECT_EQ(projektdialoge, 0);
 }
 
+TEST_F(Ablauf, AFailedSaveAsKeepsTheNameOfTheFile) {
+    programm.Dateiname = utf8(datei("a.rsw"));
+    programm.DialogDateiname = datei("a.rsw");
+    ablauf.projektdaten = [this] { EXPECT_FALSE(ablauf.sichernDialog()); };
+    meldungen.dateien = {datei("fehlt/b.rsw")};
+    ablauf.sichernUnter();
+    EXPECT_EQ(meldungen.gepiept, 1);
+    EXPECT_EQ(programm.Dateiname, utf8(datei("a.rsw")));
+    aendere();
+    ablauf.sichern();  // to the file as before, without a dialog
+    EXPECT_EQ(meldungen.gewaehlt.size(), 1U);
+    EXPECT_EQ(laengeIn(datei("a.rsw")), 7);
+}
+
+TEST_F(Ablauf, TheFileDialogsBeginInTheFolderOfTheOpenFile) {
+    programm.DialogOrdner = QStringLiteral("/daten");
+    ablauf.oeffnen();
+    programm.Dateiname = utf8(datei("a.rsw"));
+    ablauf.oeffnen();
+    // Saving under another name begins in the folder that the project dialog chose.
+    ablauf.projektdaten = [this] {
+        programm.DialogOrdner = QStringLiteral("/projekt");
+        ablauf.sichernDialog();
+    };
+    ablauf.sichernUnter();
+    ASSERT_EQ(meldungen.gewaehlt.size(), 3U);
+    EXPECT_EQ(meldungen.gewaehlt[0].ordner, QStringLiteral("/daten"));
+    EXPECT_EQ(meldungen.gewaehlt[1].ordner, ordner.path());
+    EXPECT_EQ(meldungen.gewaehlt[2].ordner, QStringLiteral("/projekt"));
+}
+
 TEST_F(Ablauf, SaveAsGoesThroughTheProjectDialogAndKeepsTheNameAfterACancel) {
     programm.Dateiname = utf8(datei("a.rsw"));
     std::string waehrenddessen = "-";
