@@ -342,6 +342,22 @@ TEST_F(Dialog, TheSelfWeightReachesTheRecordThroughTheLoadDialogOnly) {
     EXPECT_NEAR(w.gkWand.value(), (holz + 2.25 + daemmung) / 5, 1e-6);
 }
 
+TEST_F(Dialog, TheSelfWeightSaysWhichUnitWeightsItTakes) {
+    const auto hinweis = [this] {
+        Form14 form(programm, meldungen, nullptr);
+        return finde<QLabel>(form, "Wichtenhinweis").text();
+    };
+    EXPECT_TRUE(hinweis().startsWith(QStringLiteral("Die Wichte der Beplankung liegt erst nach einer")));
+    w.Einseitig = false;
+    w.Wichte[Seite::eins] = 6;
+    EXPECT_TRUE(hinweis().startsWith(QStringLiteral("Die Wichte der Beplankung liegt erst nach einer")));
+    w.Wichte[Seite::zwei] = 9;
+    EXPECT_EQ(hinweis(),
+              QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: 6,0 / 9,0 kN/m³"));
+    w.Einseitig = true;
+    EXPECT_EQ(hinweis(), QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: 6,0 kN/m³"));
+}
+
 TEST_F(Dialog, TheStapleAngleIsOpenFromThirtyDegreesOn) {
     Form12 form(programm, meldungen, nullptr);
     form.show();
