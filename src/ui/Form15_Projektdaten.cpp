@@ -41,6 +41,8 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     projekt_->setAccessibleName(QStringLiteral("Projekt"));
     projekt_->setEditable(true);
     projekt_->setInsertPolicy(QComboBox::NoInsert);
+    // A name is taken as typed: completing "Haus 1" to a known "Haus 12" would file it under another project.
+    projekt_->setCompleter(nullptr);
     projekt_->setMinimumWidth(360);
     projekt_->lineEdit()->setObjectName(QStringLiteral("Combo1_Text"));
     projekt_->lineEdit()->setAccessibleName(QStringLiteral("Projekt"));

@@ -159,6 +159,20 @@ TEST_F(Kleinfenster, ProjectsSurviveARestartAndAnExistingOneKeepsItsFolder) {
     EXPECT_EQ(feld<QLineEdit>(fenster, "Text1(0)")->text(), QStringLiteral("/projekte/haus/"));
 }
 
+TEST_F(Kleinfenster, ANameThatBeginsLikeAKnownProjectIsTakenAsTyped) {
+    programm->projekte.eintraege.push_back({"Haus 12", "/zwoelf/"});
+    Form15 fenster(*programm, meldungen);
+    fenster.show();
+    auto* name = feld<QLineEdit>(fenster, "Combo1_Text");
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, QStringLiteral("Haus 1"));
+    QTest::keyClick(name, Qt::Key_Tab);
+    klick(fenster, "ComEnde");
+    EXPECT_EQ(programm->w.Projekt, "Haus 1");
+    EXPECT_EQ(programm->projekte.eintraege.back().name, "Haus 1");
+}
+
 TEST_F(Kleinfenster, TwoProgramsAtOnceLoseNoProject) {
     Programm zweites(pfad(ordner.path()));
     zweites.ladeEinstellungen();
