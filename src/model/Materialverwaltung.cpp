@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "basis/Zeichensatz.h"
 #include "model/EigeneMaterialienDatei.h"
 
 namespace rippenscheibe {
@@ -13,6 +14,11 @@ bool gleich(const EigeneMaterialien::Zeile& a, const EigeneMaterialien::Zeile& b
     return a.name == b.name &&
            std::equal(a.zellen.begin(), a.zellen.end(), b.zellen.begin(),
                       [](const auto& x, const auto& y) { return x.leer == y.leer && x.wert == y.wert; });
+}
+
+bool gleich(const EigeneMaterialien& a, const EigeneMaterialien& b) {
+    return std::equal(a.zeilen.begin(), a.zeilen.end(), b.zeilen.begin(), b.zeilen.end(),
+                      [](const auto& x, const auto& y) { return gleich(x, y); });
 }
 
 bool enthaelt(const EigeneMaterialien& tabelle, const EigeneMaterialien::Zeile& zeile) {
@@ -36,8 +42,15 @@ std::optional<Dateifehler> sichereEigeneMaterialien(const std::filesystem::path&
                                                     EigeneMaterialien& tabelle,
                                                     const EigeneMaterialien& gelesen) {
     const Dateisperre sperre(datei.parent_path());
+    const Dateiinhalt inhalt = liesDatei(datei);
+    const EigeneMaterialien aufDerPlatte = eigeneMaterialienAus(dekodiert(inhalt.bytes));
+    // Nothing changed here: what another program edited or deleted meanwhile is the newer state.
+    if (!inhalt.fehler && gleich(tabelle, gelesen)) {
+        tabelle = aufDerPlatte;
+        return std::nullopt;
+    }
     EigeneMaterialien neu = tabelle;
-    for (const auto& zeile : liesEigeneMaterialien(datei).zeilen) {
+    for (const auto& zeile : aufDerPlatte.zeilen) {
         // The row that stands for an empty table is no material.
         const bool leer = gleich(zeile, EigeneMaterialien::Zeile{});
         if (!leer && nimmtWeitereAuf(neu) && !enthaelt(gelesen, zeile) && !enthaelt(neu, zeile))

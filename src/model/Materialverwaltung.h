@@ -18,7 +18,8 @@ bool nimmtWeitereAuf(const EigeneMaterialien& tabelle);
 bool loesche(EigeneMaterialien& tabelle, std::size_t zeile);
 
 // Writes the table. Rows that another running program wrote since `gelesen` are appended behind it, so that
-// no row number changes; they are in `tabelle` too then. Rows beyond the hundredth are left out.
+// no row number changes; they are in `tabelle` too then. Rows beyond the hundredth are left out. A table
+// equal to `gelesen` is not written where there is a file: `tabelle` becomes what the file holds.
 [[nodiscard]] std::optional<Dateifehler> sichereEigeneMaterialien(const std::filesystem::path& datei,
                                                                   EigeneMaterialien& tabelle,
                                                                   const EigeneMaterialien& gelesen);

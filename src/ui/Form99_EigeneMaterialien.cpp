@@ -305,13 +305,23 @@ void Form99::loescheMaterial() {
     fuelleListe(0);
 }
 
+bool Form99::sichere() {
+    const auto fehler = sichereEigeneMaterialien(programm_.datei(materialdatei), tabelle_, gelesen_);
+    if (fehler) meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
+    return !fehler;
+}
+
 // A file that cannot be written keeps the window open; the table stays as it is in the program.
 void Form99::zurueckUndSichern() {
-    if (const auto fehler = sichereEigeneMaterialien(programm_.datei(materialdatei), tabelle_, gelesen_)) {
-        meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
-        return;
-    }
-    accept();
+    if (sichere()) accept();
+}
+
+// Esc and the cross of the window save too. Where the file cannot be written they are still a way out: the
+// table goes back to what the file holds, so that the program never works with rows that are not on the disk
+// and the next opening compares with a table that was read.
+void Form99::reject() {
+    if (!sichere()) tabelle_ = gelesen_;
+    Fenster::reject();
 }
 
 EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei) {

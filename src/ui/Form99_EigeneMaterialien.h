@@ -17,12 +17,14 @@ namespace rippenscheibe {
 class Werteingabe;
 
 // "   Materialien für Beplankungen anlegen / verwalten": the table of up to 100 sheathing materials of the
-// user. Changes act on the table at once; "Zurück" writes its file.
+// user. Changes act on the table at once; leaving the window, by "Zurück" or otherwise, writes its file.
 class Form99 : public Fenster {
     Q_OBJECT
 
   public:
     Form99(Programm& programm, Meldungen& meldungen, QWidget* parent = nullptr);
+
+    void reject() override;
 
   private:
     enum class Zustand { anzeigen, neu, bearbeiten };
@@ -41,10 +43,11 @@ class Form99 : public Fenster {
     void loescheMaterial();
     void bearbeite();
     void uebernehmen();
+    bool sichere();
     void zurueckUndSichern();
 
     EigeneMaterialien& tabelle_;
-    EigeneMaterialien gelesen_;  // the table as it was when the window opened
+    EigeneMaterialien gelesen_;  // the table when the window opened, which is as it was read or written last
     Zustand zustand_ = Zustand::anzeigen;
     QComboBox* liste_;
     QLineEdit* name_;

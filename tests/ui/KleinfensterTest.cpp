@@ -400,6 +400,59 @@ TEST_F(EigeneMaterialienFenster, AFileThatCannotBeWrittenIsReportedAndTheTableKe
     EXPECT_EQ(tabelle().zeilen.size(), 1U);
 }
 
+TEST_F(EigeneMaterialienFenster, EscSavesLikeZurueckAndADeletedMaterialStaysDeleted) {
+    {
+        Form99 fenster(*programm, meldungen);
+        legeAn(fenster, "A", "1");
+        legeAn(fenster, "B", "2");
+        fenster.reject();
+    }
+    EXPECT_EQ(liesEigeneMaterialien(programm->datei(materialdatei)).zeilen.size(), 2U);
+    {
+        Form99 fenster(*programm, meldungen);
+        meldungen.antworten = {Antwort::ja};
+        klick(fenster, "Command2(1)");
+        fenster.reject();
+    }
+    {
+        Form99 fenster(*programm, meldungen);
+        klick(fenster, "Command1");
+    }
+    ASSERT_EQ(tabelle().zeilen.size(), 1U);
+    EXPECT_EQ(*tabelle().name(1), "B");
+    neuStart();
+    EXPECT_EQ(tabelle().zeilen.size(), 1U);
+}
+
+TEST_F(EigeneMaterialienFenster, EscLeavesAndTakesBackWhatCannotBeWritten) {
+    ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("Plattenwerte.dat")));  // no file can go there
+    Form99 fenster(*programm, meldungen);
+    legeAn(fenster, "A", "1");
+    fenster.show();
+    QTest::keyClick(&fenster, Qt::Key_Escape);
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_FALSE(fenster.isVisible());
+    EXPECT_TRUE(tabelle().zeilen.empty());
+}
+
+TEST_F(EigeneMaterialienFenster, AnUntouchedTableLeavesTheEditsOfAnotherProgram) {
+    {
+        Form99 fenster(*programm, meldungen);
+        legeAn(fenster, "A", "1");
+        klick(fenster, "Command1");
+    }
+    Form99 fenster(*programm, meldungen);
+    EigeneMaterialien andere = tabelle();
+    andere.zeilen[0].name = "A neu";
+    ASSERT_FALSE(schreibeEigeneMaterialien(programm->datei(materialdatei), andere));
+    klick(fenster, "Command1");
+    ASSERT_EQ(tabelle().zeilen.size(), 1U);
+    EXPECT_EQ(*tabelle().name(1), "A neu");
+    neuStart();
+    ASSERT_EQ(tabelle().zeilen.size(), 1U);
+    EXPECT_EQ(*tabelle().name(1), "A neu");
+}
+
 TEST_F(EigeneMaterialienFenster, TheFirstStartBringsTheDeliveredMaterials) {
     const auto pfadname = programm->datei(materialdatei);
     const EigeneMaterialien erste = ladeEigeneMaterialien(pfadname);
