@@ -109,8 +109,17 @@ std::optional<Dateifehler> schreibeTextvorlagen(const std::filesystem::path& dat
     return schreibeDauerhaft(datei, kodiert(textvorlagentext(vorlagen)));
 }
 
-std::optional<Dateifehler> sichereTextvorlage(const std::filesystem::path& datei, const Textvorlage& vorlage,
+// Nothing escapes a quote in the file: one within a text would end it there, and the reader would take the
+// rest, and every template behind it, for something else.
+Textvorlage speicherbar(Textvorlage vorlage) {
+    std::replace(vorlage.name.begin(), vorlage.name.end(), '"', '\'');
+    std::replace(vorlage.text.begin(), vorlage.text.end(), '"', '\'');
+    return vorlage;
+}
+
+std::optional<Dateifehler> sichereTextvorlage(const std::filesystem::path& datei, const Textvorlage& eingabe,
                                               Textvorlagen& vorlagen) {
+    const Textvorlage vorlage = speicherbar(eingabe);
     const Dateisperre sperre(datei.parent_path());
     Textvorlagen neu = liesTextvorlagen(datei);
     const auto gleicherName = [&](const Textvorlage& v) { return v.name == vorlage.name; };

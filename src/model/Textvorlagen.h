@@ -47,10 +47,14 @@ Textvorlagen liesTextvorlagen(const std::filesystem::path& datei);
 [[nodiscard]] std::optional<Dateifehler> schreibeTextvorlagen(const std::filesystem::path& datei,
                                                               const Textvorlagen& vorlagen);
 
-// Stores one template: a known name gets the new text, another one is added. The file is read again before,
-// so that templates of another running program stay, and rewritten whole. `vorlagen` is what it holds then.
+// The template as the file can hold it: double quotes become single ones.
+Textvorlage speicherbar(Textvorlage vorlage);
+
+// Stores one template as `speicherbar` makes it: a known name gets the new text, another one is added. The
+// file is read again before, so that templates of another running program stay, and rewritten whole.
+// `vorlagen` is what it holds then.
 [[nodiscard]] std::optional<Dateifehler> sichereTextvorlage(const std::filesystem::path& datei,
-                                                            const Textvorlage& vorlage,
+                                                            const Textvorlage& eingabe,
                                                             Textvorlagen& vorlagen);
 
 }  // namespace rippenscheibe

@@ -198,6 +198,16 @@ TEST_F(Programmdateien, ATemplateReplacesItsNameAndOthersStay) {
     EXPECT_EQ(liesTextvorlagen(datei), vorlagen);
 }
 
+TEST_F(Programmdateien, ATemplateWithQuotesSparesTheOnesBehindIt) {
+    const fs::path datei = ordner / vorlagenZusatzbemerkungen;
+    Textvorlagen vorlagen;
+    ASSERT_FALSE(sichereTextvorlage(datei, {"\"A\"", "Achse \"1\", oben"}, vorlagen));
+    ASSERT_FALSE(sichereTextvorlage(datei, {"B", "zwei"}, vorlagen));
+    EXPECT_EQ(liesTextvorlagen(datei), (Textvorlagen{{"'A'", "Achse '1', oben"}, {"B", "zwei"}}));
+    ASSERT_FALSE(sichereTextvorlage(datei, {"\"A\"", "neu"}, vorlagen));  // the same name again
+    EXPECT_EQ(liesTextvorlagen(datei), (Textvorlagen{{"'A'", "neu"}, {"B", "zwei"}}));
+}
+
 TEST(Bemerkungen, ATextIsSplitAtEachCrLf) {
     struct Fall {
         std::string name, text;
