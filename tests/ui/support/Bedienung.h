@@ -3,7 +3,9 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 #include <functional>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "model/Wand.h"
 #include "ui/Werteingabe.h"
@@ -30,6 +32,10 @@ inline void tippe(QLineEdit& feld, const QString& text) {
     QTest::keyClicks(&feld, text);
 }
 
+inline void tippe(QWidget& fenster, const char* name, const char* text) {
+    tippe(wert(fenster, name), QString::fromUtf8(text));
+}
+
 inline void klicke(QWidget& fenster, const char* name) { finde<QAbstractButton>(fenster, name).click(); }
 
 inline void waehle(QWidget& fenster, const char* name, int index) {
@@ -53,37 +59,26 @@ inline bool mitFenster(const std::function<void()>& ausloesen,
     return geoeffnet;
 }
 
-// A field of the record as text, so that two records can be compared field by field.
-template <class T>
-std::string feldtext(const Gespeichert<T>& feld) {
-    return std::to_string(feld.value()) + "/" +
-           QByteArray::number(double(feld.value()), 'g', 17).toStdString();
-}
-inline std::string feldtext(bool feld) { return feld ? "ja" : "nein"; }
-inline std::string feldtext(const std::string& feld) { return feld; }
-template <class Liste>
-requires requires(const Liste& l) { l.begin()->size(); }
-std::string feldtext(const Liste& liste) {
-    std::string text;
-    for (const auto& zeile : liste) text += std::string(zeile) + "\n";
-    return text;
-}
-inline std::string feldtext(const Rippenfeld& feld) {
-    std::string text;
-    for (int i = 0; i < int(Rippenfeld::laenge); ++i)
-        text += QByteArray::number(feld(i).value(), 'g', 17).toStdString() + " ";
-    return text;
-}
-
-// Inputs and results by name.
-inline std::vector<std::pair<std::string, std::string>> alleFelder(const Wand& w) {
-    std::vector<std::pair<std::string, std::string>> felder;
+// Inputs and results of the record, a line each: the name and the value in all its digits.
+inline std::vector<std::string> alleFelder(const Wand& w) {
+    std::vector<std::string> zeilen;
     const auto besucher = [&](const Feldangabe& angabe, const auto& feld) {
-        felder.emplace_back(std::string(angabe.name), feldtext(feld));
+        std::ostringstream zeile;
+        zeile.precision(17);
+        zeile << angabe.name;
+        if constexpr (std::is_same_v<decltype(feld), const Rippenfeld&>)
+            for (int i = 0; i < int(Rippenfeld::laenge); ++i) zeile << ' ' << feld(i).value();
+        else if constexpr (requires { feld.value(); })
+            zeile << ' ' << feld.value();
+        else if constexpr (requires { zeile << feld; })
+            zeile << ' ' << feld;
+        else
+            for (const auto& text : feld) zeile << '\n' << text;
+        zeilen.push_back(zeile.str());
     };
     jedeEingabe(w, besucher);
     jedesErgebnis(w, besucher);
-    return felder;
+    return zeilen;
 }
 
 }  // namespace rippenscheibe

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QFont>
 #include <deque>
 #include <functional>
@@ -8,6 +10,14 @@
 #include "ui/Meldungen.h"
 
 namespace rippenscheibe {
+
+inline void erwarte(const Meldung& meldung, Symbol symbol, const char* titel, const char* text,
+                    Knoepfe knoepfe = Knoepfe::ok) {
+    EXPECT_EQ(meldung.symbol, symbol);
+    EXPECT_EQ(meldung.titel, QString::fromUtf8(titel));
+    EXPECT_EQ(meldung.text, QString::fromUtf8(text));
+    EXPECT_EQ(meldung.knoepfe, knoepfe);
+}
 
 // Answers boxes and file dialogs from queues and records what they said. A box without an answer in the
 // queue gets the one of its Esc key; a file dialog without one is cancelled.
@@ -27,10 +37,7 @@ class GeskripteteMeldungen : public Meldungen {
 
     Antwort zeige(QWidget*, const Meldung& meldung) override {
         gezeigt.push_back(meldung);
-        if (antworten.empty()) return escape(meldung.knoepfe);
-        const Antwort antwort = antworten.front();
-        antworten.pop_front();
-        return antwort;
+        return naechste(antworten).value_or(escape(meldung.knoepfe));
     }
     std::optional<QString> oeffnen(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
     std::optional<QString> sichern(QWidget*, const Dateiwahl& wahl) override { return waehle(wahl); }
@@ -41,10 +48,7 @@ class GeskripteteMeldungen : public Meldungen {
     }
     std::optional<QFont> waehleSchrift(QWidget*, const QFont& schrift) override {
         vorgelegt = schrift;
-        if (schriften.empty()) return std::nullopt;
-        const QFont gewaehlteSchrift = schriften.front();
-        schriften.pop_front();
-        return gewaehlteSchrift;
+        return naechste(schriften);
     }
     void piep() override { ++gepiept; }
 
@@ -55,10 +59,14 @@ class GeskripteteMeldungen : public Meldungen {
     }
     std::optional<QString> waehle(const Dateiwahl& wahl) {
         gewaehlt.push_back(wahl);
-        if (dateien.empty()) return std::nullopt;
-        const QString datei = dateien.front();
-        dateien.pop_front();
-        return datei;
+        return naechste(dateien);
+    }
+    template <class T>
+    static std::optional<T> naechste(std::deque<T>& schlange) {
+        if (schlange.empty()) return std::nullopt;
+        const T vorne = schlange.front();
+        schlange.pop_front();
+        return vorne;
     }
 };
 
