@@ -1,29 +1,15 @@
-#include <gtest/gtest.h>
-
-#include "basis/Dateischreiber.h"
-#include "model/Positionsdatei.h"
-#include "support/GeskripteteMeldungen.h"
+#include "support/Gerechnet.h"
 #include "ui/Dateiablauf.h"
-#include "ui/Sicherungskopie.h"
 
 namespace rippenscheibe {
 namespace {
 
-class Ablauf : public testing::Test {
+class Ablauf : public Programmprobe {
   protected:
-    void SetUp() override {
+    Ablauf() {
         ablauf.projektdaten = [this] { ++projektdialoge; };
-        programm.zuweisen();
     }
-    QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
-    // A saved position of 4 m under this name.
-    QString gespeicherte(const char* name) {
-        Wand andere;
-        andere.Wandlaenge = 4;
-        EXPECT_FALSE(schreibePosition(pfad(datei(name)), andere));
-        return datei(name);
-    }
-    double laengeIn(const QString& name) {
+    static double laengeIn(const QString& name) {
         Wand gelesen;
         static_cast<void>(liesPosition(pfad(name), gelesen));
         return gelesen.Wandlaenge.value();
@@ -33,10 +19,12 @@ class Ablauf : public testing::Test {
         programm.setzeGesichert(false);
         programm.zuweisen();
     }
+    // The position has this file, whether it is there or not.
+    void nenne(const char* name) {
+        programm.Dateiname = utf8(datei(name));
+        programm.DialogDateiname = datei(name);
+    }
 
-    QTemporaryDir ordner;
-    Programm programm{pfad(ordner.path())};
-    GeskripteteMeldungen meldungen;
     Dateiablauf ablauf{programm, meldungen, nullptr};
     int projektdialoge = 0;
 };
@@ -54,14 +42,10 @@ TEST_F(Ablauf, EachActionAsksUnderItsOwnTitle) {
     EXPECT_FALSE(ablauf.beenden());
     ablauf.neu();
     ASSERT_EQ(meldungen.gezeigt.size(), 3U);
-    const QString titel[] = {QStringLiteral("Datei öffnen"), QStringLiteral("Datei Schließen"),
-                             QStringLiteral("Neue Datei")};
-    for (std::size_t i = 0; i < 3; ++i) {
-        EXPECT_EQ(meldungen.gezeigt[i].titel, titel[i]);
-        EXPECT_EQ(meldungen.gezeigt[i].symbol, Symbol::frage);
-        EXPECT_EQ(meldungen.gezeigt[i].knoepfe, Knoepfe::jaNeinAbbrechen);
-        EXPECT_EQ(meldungen.gezeigt[i].text, QStringLiteral("Soll die geöffnete Datei gesichert werden ?"));
-    }
+    const char* const titel[] = {"Datei öffnen", "Datei Schließen", "Neue Datei"};
+    for (std::size_t i = 0; i < 3; ++i)
+        erwarte(meldungen.gezeigt[i], Symbol::frage, titel[i], "Soll die geöffnete Datei gesichert werden ?",
+                Knoepfe::jaNeinAbbrechen);
 }
 
 TEST_F(Ablauf, CancelOnNewStillResetsThePosition) {
@@ -97,7 +81,7 @@ TEST_F(Ablauf, YesOnNewSavesFirst) {
 }
 
 TEST_F(Ablauf, OpenAnswersSaveDiscardAndCancel) {
-    const QString quelle = gespeicherte("quelle.rsw");
+    const QString quelle = gespeicherte("quelle.rsw", 4);
     struct Fall {
         Antwort antwort;
         bool gesichert, geoeffnet;
@@ -107,8 +91,7 @@ TEST_F(Ablauf, OpenAnswersSaveDiscardAndCancel) {
         SCOPED_TRACE(static_cast<int>(fall.antwort));
         const QString ziel = datei("ziel.rsw");
         QFile::remove(ziel);
-        programm.Dateiname = utf8(ziel);
-        programm.DialogDateiname = ziel;
+        nenne("ziel.rsw");
         aendere();
         meldungen.antworten = {fall.antwort};
         meldungen.dateien = {quelle};
@@ -123,7 +106,7 @@ TEST_F(Ablauf, OpenAnswersSaveDiscardAndCancel) {
 }
 
 TEST_F(Ablauf, AFileJustOpenedCountsAsChanged) {
-    meldungen.dateien = {gespeicherte("a.rsw")};
+    meldungen.dateien = {gespeicherte("a.rsw", 4)};
     ablauf.oeffnen();
     EXPECT_FALSE(programm.Gesichert());
     EXPECT_EQ(programm.Titel(), datei("a.rsw"));
@@ -135,7 +118,7 @@ TEST_F(Ablauf, AFileJustOpenedCountsAsChanged) {
 
 TEST_F(Ablauf, AnotherEndingIsRefusedAndCapitalsAreAnotherEnding) {
     aendere();
-    EXPECT_FALSE(ablauf.lade(gespeicherte("a.RSW")));
+    EXPECT_FALSE(ablauf.lade(gespeicherte("a.RSW", 4)));
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
     EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral(" Fehler"));
     EXPECT_EQ(meldungen.gezeigt[0].text, QStringLiteral("Datei passt nicht zum Programm!"));
@@ -170,7 +153,7 @@ TEST_F(Ablauf, SaveAppendsTheEndingAndProposesPositionAndRemark) {
 TEST_F(Ablauf, AnAppendedEndingDoesNotOverwriteAnotherPositionUnasked) {
     programm.w.Position = "1.2";
     aendere();
-    gespeicherte("1.2.rsw");  // 4 m
+    gespeicherte("1.2.rsw", 4);
     meldungen.dateien = {datei("1.2"), datei("1.3")};
     meldungen.antworten = {Antwort::nein};
     ablauf.sichern();
@@ -196,8 +179,7 @@ TEST_F(Ablauf, AnAppendedEndingDoesNotOverwriteAnotherPositionUnasked) {
 }
 
 TEST_F(Ablauf, AFailedSaveKeepsThePositionAndGivesTheActionUp) {
-    programm.Dateiname = utf8(datei("fehlt/wand.rsw"));
-    programm.DialogDateiname = datei("fehlt/wand.rsw");
+    nenne("fehlt/wand.rsw");
     aendere();
     meldungen.antworten = {Antwort::ja, Antwort::ok, Antwort::ja, Antwort::ok};
     EXPECT_FALSE(ablauf.beenden());
@@ -210,8 +192,7 @@ TEST_F(Ablauf, AFailedSaveKeepsThePositionAndGivesTheActionUp) {
 }
 
 TEST_F(Ablauf, AFailedSaveAsKeepsTheNameOfTheFile) {
-    programm.Dateiname = utf8(datei("a.rsw"));
-    programm.DialogDateiname = datei("a.rsw");
+    nenne("a.rsw");
     ablauf.projektdaten = [this] { EXPECT_FALSE(ablauf.sichernDialog()); };
     meldungen.dateien = {datei("fehlt/b.rsw")};
     ablauf.sichernUnter();
@@ -254,9 +235,12 @@ TEST_F(Ablauf, SaveAsGoesThroughTheProjectDialogAndKeepsTheNameAfterACancel) {
     EXPECT_FALSE(programm.SpeichernUnter);
 }
 
-TEST(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
-    QTemporaryDir ordner;
-    GeskripteteMeldungen meldungen;
+class Wiederherstellung : public Programmprobe {
+  protected:
+    QStringList kopien() const { return QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}); }
+};
+
+TEST_F(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
     {
         Programm abgestuerzt(pfad(ordner.path()));
         abgestuerzt.Dateiname = "/daten/wand.rsw";
@@ -268,77 +252,52 @@ TEST(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
 
         // A second program beside the first takes nothing from it.
         Programm nachbar(pfad(ordner.path()));
-        Sicherungskopie nachbarkopie(nachbar);
-        EXPECT_FALSE(nachbarkopie.stelleWiederHer(meldungen, nullptr));
+        EXPECT_FALSE(Sicherungskopie(nachbar).stelleWiederHer(meldungen, nullptr));
         EXPECT_TRUE(meldungen.gezeigt.empty());
     }  // gone without tidying up
-    Programm neuer(pfad(ordner.path()));
-    Sicherungskopie kopie(neuer);
+    Sicherungskopie kopie(programm);
     EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));  // Esc keeps it for the next start
     meldungen.antworten = {Antwort::ja};
     EXPECT_TRUE(kopie.stelleWiederHer(meldungen, nullptr));
     EXPECT_TRUE(meldungen.gezeigt.back().text.contains(QStringLiteral("/daten/wand.rsw")));
-    EXPECT_EQ(neuer.w.Wandlaenge, 9);
-    EXPECT_EQ(neuer.Dateiname, "/daten/wand.rsw");
-    EXPECT_FALSE(neuer.Gesichert());
+    EXPECT_EQ(programm.w.Wandlaenge, 9);
+    EXPECT_EQ(programm.Dateiname, "/daten/wand.rsw");
+    EXPECT_FALSE(programm.Gesichert());
     kopie.raeumeAuf();
-    EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
+    EXPECT_TRUE(kopien().isEmpty());
 }
 
-// What a crashed program left in the first slot: a wall of 9 m.
-void stuerzeAb(const QTemporaryDir& ordner) {
-    Programm abgestuerzt(pfad(ordner.path()));
-    abgestuerzt.felder.Wandlaenge = 9;
-    abgestuerzt.zuweisen();
-    abgestuerzt.setzeGesichert(false);
-    Sicherungskopie kopie(abgestuerzt);
-    kopie.sichere();
-}
-
-TEST(Wiederherstellung, AnUnreadableCopyIsReportedAndKept) {
-    QTemporaryDir ordner;
-    const QString kopiename = ordner.filePath(QStringLiteral("Sicherung-1.rsw"));
-    ASSERT_TRUE(QDir().mkpath(kopiename));  // a folder cannot be read as a file
-    GeskripteteMeldungen meldungen;
+TEST_F(Wiederherstellung, AnUnreadableCopyIsReportedAndKept) {
+    ASSERT_TRUE(QDir().mkpath(datei("Sicherung-1.rsw")));  // a folder cannot be read as a file
     meldungen.antworten = {Antwort::ja, Antwort::ok};
-    Programm programm(pfad(ordner.path()));
     programm.w.Vorbemerkungen[0] = "bleibt";
-    Sicherungskopie kopie(programm);
-    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_FALSE(Sicherungskopie(programm).stelleWiederHer(meldungen, nullptr));
     ASSERT_EQ(meldungen.gezeigt.size(), 2U);
     EXPECT_EQ(meldungen.gezeigt[1].symbol, Symbol::kritisch);
-    EXPECT_TRUE(QFile::exists(kopiename));
+    EXPECT_TRUE(QFile::exists(datei("Sicherung-1.rsw")));
     EXPECT_EQ(programm.w.Vorbemerkungen[0], "bleibt");
     EXPECT_TRUE(programm.Gesichert());
 }
 
-TEST(Wiederherstellung, TheOldCopyStaysWhileNoNewOneCanBeWritten) {
-    QTemporaryDir ordner;
-    stuerzeAb(ordner);
+TEST_F(Wiederherstellung, TheOldCopyStaysWhileNoNewOneCanBeWritten) {
+    stuerzeAb();
     // The new program takes the second slot, and a folder is in the way of its file.
-    const QString hindernis = ordner.filePath(QStringLiteral("Sicherung-2.txt"));
-    ASSERT_TRUE(QDir().mkpath(hindernis + QStringLiteral("/voll")));
-    GeskripteteMeldungen meldungen;
+    ASSERT_TRUE(QDir().mkpath(datei("Sicherung-2.txt/voll")));
     meldungen.antworten = {Antwort::ja};
-    Programm programm(pfad(ordner.path()));
-    Sicherungskopie kopie(programm);
-    EXPECT_TRUE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_TRUE(Sicherungskopie(programm).stelleWiederHer(meldungen, nullptr));
     EXPECT_EQ(programm.w.Wandlaenge, 9);
-    EXPECT_TRUE(QFile::exists(ordner.filePath(QStringLiteral("Sicherung-1.rsw"))));
+    EXPECT_TRUE(QFile::exists(datei("Sicherung-1.rsw")));
 }
 
-TEST(Wiederherstellung, ASaveTakesTheCopyAway) {
-    QTemporaryDir ordner;
-    Programm programm(pfad(ordner.path()));
-    programm.zuweisen();
+TEST_F(Wiederherstellung, ASaveTakesTheCopyAway) {
     Sicherungskopie kopie(programm);
     kopie.sichere();
-    EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
+    EXPECT_TRUE(kopien().isEmpty());
     programm.setzeGesichert(false);
     kopie.sichere();
-    EXPECT_EQ(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).size(), 1);
+    EXPECT_EQ(kopien().size(), 1);
     programm.setzeGesichert(true);
-    EXPECT_TRUE(QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}).isEmpty());
+    EXPECT_TRUE(kopien().isEmpty());
 }
 
 }  // namespace
