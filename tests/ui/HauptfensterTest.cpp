@@ -1,20 +1,13 @@
-#include <gtest/gtest.h>
-
-#include "basis/Dateischreiber.h"
 #include "model/Kataloge.h"
-#include "model/Positionsdatei.h"
-#include "run/Berechnungslauf.h"
-#include "support/Bedienung.h"
-#include "support/GeskripteteMeldungen.h"
+#include "support/Gerechnet.h"
 #include "ui/Form1_Hauptfenster.h"
 
 namespace rippenscheibe {
 namespace {
 
-class Hauptfenster : public testing::Test {
+class Hauptfenster : public Programmprobe {
   protected:
-    void SetUp() override {
-        programm.zuweisen();
+    Hauptfenster() {
         fenster.show();
         QApplication::setActiveWindow(&fenster);
     }
@@ -23,7 +16,6 @@ class Hauptfenster : public testing::Test {
     T& finde(const char* name) {
         return *fenster.findChild<T*>(QLatin1String(name));
     }
-    QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
     QStringList hinweise() {
         QStringList texte;
         for (int i = 0; i < finde<QListWidget>("List1").count(); ++i)
@@ -31,16 +23,13 @@ class Hauptfenster : public testing::Test {
         return texte;
     }
 
-    QTemporaryDir ordner;
-    Programm programm{pfad(ordner.path())};
-    GeskripteteMeldungen meldungen;
     Form1 fenster{programm, meldungen};
 };
 
 TEST_F(Hauptfenster, AWallBuiltThroughTheDialogsGivesTheResultsOfItsSavedFile) {
-    tippe(wert(fenster, "Textbox1(0)"), QStringLiteral("3,75"));
-    tippe(wert(fenster, "Textbox1(1)"), QStringLiteral("2.75"));
-    tippe(wert(fenster, "Textbox1(2)"), QStringLiteral("0,625"));
+    tippe(fenster, "Textbox1(0)", "3,75");
+    tippe(fenster, "Textbox1(1)", "2.75");
+    tippe(fenster, "Textbox1(2)", "0,625");
     const auto dialog = [this](const char* knopf, const std::function<void(QWidget&)>& eingaben) {
         EXPECT_TRUE(mitFenster([&] { klicke(fenster, knopf); },
                                [&](QWidget& form) {
@@ -50,35 +39,35 @@ TEST_F(Hauptfenster, AWallBuiltThroughTheDialogsGivesTheResultsOfItsSavedFile) {
                                }));
     };
     dialog("Command5", [](QWidget& form) {
-        tippe(wert(form, "Textbox1(2)"), QStringLiteral("6"));
-        tippe(wert(form, "Textbox1(0)"), QStringLiteral("18"));
+        tippe(form, "Textbox1(2)", "6");
+        tippe(form, "Textbox1(0)", "18");
         klicke(form, "Check2");
         waehle(form, "MaterialBox", 3);
     });
     dialog("Command1", [](QWidget& form) {
         waehle(form, "MaterialBox", 1);
         waehle(form, "Materialbox2", 8);
-        tippe(wert(form, "Textbox1(2)"), QStringLiteral("16"));
+        tippe(form, "Textbox1(2)", "16");
         klicke(form, "Option2(3)");
     });
     dialog("Command2", [](QWidget& form) {
         waehle(form, "Combo9", 4);
         waehle(form, "Combo5", 2);
-        tippe(wert(form, "Textbox1(10)"), QStringLiteral("1,83"));
-        tippe(wert(form, "Textbox1(4)"), QStringLiteral("75"));
+        tippe(form, "Textbox1(10)", "1,83");
+        tippe(form, "Textbox1(4)", "75");
     });
     dialog("Command3", [](QWidget& form) {
         klicke(form, "Check1");
         klicke(form, "Option1(2)");
-        tippe(wert(form, "Textbox1(0)"), QStringLiteral("20"));
+        tippe(form, "Textbox1(0)", "20");
     });
     dialog("Command4", [](QWidget& form) {
         klicke(form, "Option1(2)");
         klicke(form, "Check1");
-        tippe(wert(form, "Textbox1(0)"), QStringLiteral("4,5"));
-        tippe(wert(form, "Textbox1(3)"), QStringLiteral("5,25"));
-        tippe(wert(form, "Textbox1(4)"), QStringLiteral("3"));
-        tippe(wert(form, "Textbox1(5)"), QStringLiteral("-0,6"));
+        tippe(form, "Textbox1(0)", "4,5");
+        tippe(form, "Textbox1(3)", "5,25");
+        tippe(form, "Textbox1(4)", "3");
+        tippe(form, "Textbox1(5)", "-0,6");
     });
     dialog("Command6", [](QWidget& form) {
         klicke(form, "Check1");
@@ -103,30 +92,23 @@ TEST_F(Hauptfenster, AWallBuiltThroughTheDialogsGivesTheResultsOfItsSavedFile) {
     EXPECT_EQ(zweite.Wandlaenge, 3.75);
     EXPECT_EQ(zweite.VMArt[Seite::zwei], 3);
     EXPECT_GT(zweite.Rd[Seite::zwei], 0);
-    const auto erwartet = alleFelder(zweite);
-    const auto gefunden = alleFelder(programm.w);
-    ASSERT_EQ(gefunden.size(), erwartet.size());
-    for (std::size_t i = 0; i < erwartet.size(); ++i) EXPECT_EQ(gefunden[i], erwartet[i]);
+    EXPECT_EQ(alleFelder(programm.w), alleFelder(zweite));
 }
 
 TEST_F(Hauptfenster, FindingsStopTheRunAndStandInTheList) {
-    tippe(wert(fenster, "Textbox1(0)"), QStringLiteral("1"));  // narrower than a panel of 1.25 m
+    tippe(fenster, "Textbox1(0)", "1");  // narrower than a panel of 1.25 m
     klicke(fenster, "ComErgDruck");
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
-    EXPECT_EQ(meldungen.gezeigt[0].symbol, Symbol::kritisch);
-    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral(" Fehler"));
-    EXPECT_EQ(
-        meldungen.gezeigt[0].text,
-        QStringLiteral("Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!"));
+    erwarte(meldungen.gezeigt[0], Symbol::kritisch, " Fehler",
+            "Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!");
     const QStringList zwei = hinweise();
     ASSERT_EQ(zwei.size(), 2);
     EXPECT_EQ(zwei[0],
               QStringLiteral("Wandlänge ist kleiner Plattenbreite der Beplankung 1 --> unzulässig!"));
 
     // Loading keeps the list, a new position empties it.
-    ASSERT_FALSE(schreibePosition(pfad(datei("a.rsw")), Wand()));
     meldungen.antworten = {Antwort::nein, Antwort::nein};
-    meldungen.dateien = {datei("a.rsw")};
+    meldungen.dateien = {gespeicherte("a.rsw", 5)};
     loese("mnuFOpen");
     EXPECT_EQ(hinweise(), zwei);
     mitFenster([this] { loese("mnuFNew"); }, [](QWidget&) {});
@@ -166,19 +148,17 @@ TEST_F(Hauptfenster, UnfulfilledProofsAreToldButDoNotStopTheReport) {
                    [](QWidget& form) { EXPECT_EQ(form.objectName(), QStringLiteral("Form23")); });
     EXPECT_TRUE(geoeffnet);
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
-    EXPECT_EQ(meldungen.gezeigt[0].symbol, Symbol::hinweis);
-    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral(" Hinweis"));
-    EXPECT_EQ(meldungen.gezeigt[0].text,
-              QStringLiteral("Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! "));
+    erwarte(meldungen.gezeigt[0], Symbol::hinweis, " Hinweis",
+            "Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! ");
 }
 
 TEST_F(Hauptfenster, EditsReachTheRecordAtOnceUnlessBlocked) {
-    tippe(wert(fenster, "Textbox1(2)"), QStringLiteral("0,5"));
+    tippe(fenster, "Textbox1(2)", "0,5");
     EXPECT_EQ(programm.w.Rippenabstand, 500);
     EXPECT_EQ(programm.w.AnzahlRippen, 11);
     EXPECT_FALSE(programm.Gesichert());
     programm.Sperre = true;
-    tippe(wert(fenster, "Textbox1(2)"), QStringLiteral("2"));
+    tippe(fenster, "Textbox1(2)", "2");
     EXPECT_EQ(programm.w.Rippenabstand, 500);
 }
 
@@ -241,9 +221,7 @@ TEST_F(Hauptfenster, SummariesFollowTheRecord) {
 }
 
 TEST_F(Hauptfenster, TheProgramStartsWithAHandedOverPositionThenAFileThenTheProjectDialog) {
-    Wand andere;
-    andere.Wandlaenge = 6;
-    ASSERT_FALSE(schreibePosition(pfad(datei("a.rsw")), andere));
+    gespeicherte("a.rsw", 6);
     ASSERT_FALSE(schreibeDauerhaft(programm.datei("Posdat.dat"), "\"" + utf8(datei("a.rsw")) + "\"\r\n"));
     EXPECT_FALSE(mitFenster([this] { fenster.starte(); }, [](QWidget&) {}));
     EXPECT_EQ(programm.w.Wandlaenge, 6);
@@ -261,16 +239,7 @@ TEST_F(Hauptfenster, TheProgramStartsWithAHandedOverPositionThenAFileThenTheProj
 }
 
 TEST_F(Hauptfenster, AWantedFileIsOpenedBesideARecoveredPositionAfterTheQuery) {
-    Wand andere;
-    andere.Wandlaenge = 6;
-    ASSERT_FALSE(schreibePosition(pfad(datei("a.rsw")), andere));
-    const auto stuerzeAb = [this] {
-        Programm abgestuerzt(pfad(ordner.path()));
-        abgestuerzt.felder.Wandlaenge = 9;
-        abgestuerzt.zuweisen();
-        abgestuerzt.setzeGesichert(false);
-        Sicherungskopie(abgestuerzt).sichere();
-    };
+    gespeicherte("a.rsw", 6);
     stuerzeAb();
     meldungen.antworten = {Antwort::ja, Antwort::nein};
     EXPECT_FALSE(mitFenster([this] { fenster.starte(datei("a.rsw")); }, [](QWidget&) {}));
@@ -293,9 +262,8 @@ TEST_F(Hauptfenster, ClosingTheWindowAsksButTheMenuDoesNotAskTwice) {
     meldungen.antworten = {Antwort::nein};
     EXPECT_FALSE(fenster.close());
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
-    EXPECT_EQ(meldungen.gezeigt[0].titel, QStringLiteral("Achtung"));
-    EXPECT_EQ(meldungen.gezeigt[0].text, QStringLiteral("Wollen Sie das Programm wirklich beenden ?"));
-    EXPECT_EQ(meldungen.gezeigt[0].knoepfe, Knoepfe::jaNein);
+    const Meldung& frage = meldungen.gezeigt[0];
+    erwarte(frage, frage.symbol, "Achtung", "Wollen Sie das Programm wirklich beenden ?", Knoepfe::jaNein);
 
     programm.setzeGesichert(false);
     meldungen.antworten = {Antwort::abbrechen};
@@ -311,7 +279,7 @@ TEST_F(Hauptfenster, ClosingTheWindowAsksButTheMenuDoesNotAskTwice) {
 }
 
 TEST_F(Hauptfenster, ADroppedFileOpensAfterTheQuery) {
-    ASSERT_FALSE(schreibePosition(pfad(datei("a.rsw")), Wand()));
+    gespeicherte("a.rsw", 5);
     programm.setzeGesichert(false);
     meldungen.antworten = {Antwort::nein};
     QMimeData daten;
