@@ -1,7 +1,4 @@
-#include <gtest/gtest.h>
-
-#include "support/Bedienung.h"
-#include "support/GeskripteteMeldungen.h"
+#include "support/Gerechnet.h"
 #include "ui/Fensteroeffner.h"
 #include "ui/Form1_Hauptfenster.h"
 #include "ui/Form5_Verbindungsmittel.h"
@@ -72,14 +69,7 @@ void pruefeFenster(QWidget& fenster) {
     pruefeTabfolge(fenster);
 }
 
-class Rundgang : public testing::Test {
-  protected:
-    void SetUp() override { programm.zuweisen(); }
-
-    QTemporaryDir ordner;
-    Programm programm{pfad(ordner.path())};
-    GeskripteteMeldungen meldungen;
-};
+class Rundgang : public Programmprobe {};
 
 TEST_F(Rundgang, EveryWindowNamesItsControlsAndReachesThemByTheTabKey) {
     Form1 hauptfenster(programm, meldungen);
