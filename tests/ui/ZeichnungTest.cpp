@@ -7,7 +7,6 @@
 #include <QPainterPath>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -19,20 +18,13 @@
 namespace rippenscheibe {
 namespace {
 
-constexpr std::array alleZeichnungen{Zeichnung::ansicht,
-                                     Zeichnung::rippen,
-                                     Zeichnung::beplankung,
-                                     Zeichnung::verbindungsmittel1,
-                                     Zeichnung::verbindungsmittel2,
-                                     Zeichnung::anker,
-                                     Zeichnung::last,
-                                     Zeichnung::schubfluss,
-                                     Zeichnung::stoesse,
-                                     Zeichnung::oeffnungen,
-                                     Zeichnung::gruppen,
-                                     Zeichnung::ueberstand,
-                                     Zeichnung::rollbild,
-                                     Zeichnung::startbild};
+std::vector<Zeichnung> jede() {
+    std::vector<Zeichnung> alle;
+    for (int i = 0; i <= static_cast<int>(Zeichnung::startbild); ++i)
+        alle.push_back(static_cast<Zeichnung>(i));
+    return alle;
+}
+const std::vector<Zeichnung> alleZeichnungen = jede();
 
 // What a painter was told, in device units: filled rectangles, texts with their boxes, dashed lines.
 struct Mitschrift {
@@ -114,22 +106,9 @@ class Mitschreibgeraet : public QPaintDevice {
 
   protected:
     int metric(PaintDeviceMetric was) const override {
-        switch (was) {
-            case PdmWidth:
-            case PdmHeight:
-                return 10000;
-            case PdmDpiX:
-            case PdmDpiY:
-            case PdmPhysicalDpiX:
-            case PdmPhysicalDpiY:
-                return 96;
-            case PdmDevicePixelRatio:
-                return 1;
-            case PdmDevicePixelRatioScaled:
-                return static_cast<int>(devicePixelRatioFScale());
-            default:
-                return 1;
-        }
+        if (was == PdmWidth || was == PdmHeight) return 10000;
+        if (was == PdmDpiX || was == PdmDpiY || was == PdmPhysicalDpiX || was == PdmPhysicalDpiY) return 96;
+        return was == PdmDevicePixelRatioScaled ? static_cast<int>(devicePixelRatioFScale()) : 1;
     }
 
   private:
