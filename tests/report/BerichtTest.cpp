@@ -50,9 +50,6 @@ const std::vector<Fall> faelle{
     {"a one-sided wall says nothing of side 2", lang, [](Wand& w) { w.Einseitig = true; w.fv0dn[Seite::zwei] = 5; },
      {"Die Wandtafel ist nur einseitig beplankt!", "Beplankung 1:"},
      {"1.3.2", "1.4.2", "Beplankung 2", "fv,0,d,2", "fv,90,d,2", "80%"}},
-    {"equal resistances print no 80 % line", lang,
-     [](Wand& w) { for (const Seite n : beideSeiten) w.fv0dn[n] = w.fv90dn[n] = 4; },
-     {"fv,0,d,2 = 4,000 N/mm (längenbezogene Schubfestigkeit parallel zum Plattenrand, Beplankung 2)"}, {"80%"}},
     {"the weaker side says that it counts 80 %", lang, [](Wand& w) { w.fv0dn[Seite::eins] = 4; },
      {"-> Wird nur zu 80% angesetzt, da Beplankung 2 weniger tragfähig als Beplankung 1!"},
      {"da Beplankung 1 weniger"}},
@@ -65,17 +62,6 @@ const std::vector<Fall> faelle{
      {"Randrippe links: Ft,d = 0,000 kN", "Randrippe rechts: Ft,d = 1,500 kN"}, {"Innenrippe 1", "max. F"}},
     {"a single rib is the left one", lang, [](Wand& w) { w.AnzahlRippen = 1; },
      {"Randrippe links: eta = 0,000 <= 1,00"}, {"Randrippe rechts: "}},
-    {"inner ribs count from 1", lang, [](Wand& w) { w.FcdStabilitaet(8) = 1; w.FcdVeraenderlich(8) = 2.25; },
-     {"Innenrippe 7: Fc,d = 3,250 kN"}, {"Innenrippe 8"}},
-    {"the short form has the greatest values alone", kurz,
-     [](Wand& w) { w.WindQuer = true; w.maxMyd = 2; w.maxFtd = 1; w.kc90 = 1.25; },
-     {"max. Fc,d = 0,000 kN", "max. Ft,d = 1,000 kN", "max.My,d = 2,000 kNm", "kc,90 = 1,25 [-]",
-      "max. Ausnutzung = 0,000 <= 1,00"}, {"Randrippe links:", "Innenrippe 1"}},
-    {"without wind across there is no 4.6", kurz, [](Wand&) {},
-     {"Kein Wind quer zur Wand vorhanden!", "Kein Wind auf Beplankung vorhanden --> Nachweis entfällt!"},
-     {"4.6", "My,d"}},
-    {"the long form has no greatest forces", lang, [](Wand& w) { w.WindQuer = true; },
-     {"Innenrippe 1: My,d = 0,000 kNm"}, {"max. Fc,d", "max. Ft,d", "max.My,d"}},
     {"pressure of any size reports no tension", lang, [](Wand& w) { w.WindQuer = true; w.wk = 50; },
      {"Keine Zugkräfte in VM vorhanden --> Nachweis entfällt!"}, {"Fax,d"}},
     {"suction is proven with the resistance of side 1", lang,
@@ -88,17 +74,6 @@ const std::vector<Fall> faelle{
      [](Wand& w) { w.uGesGebrauch = w.uZulGebrauch = 5; w.uGesTragfaehigkeit = 6; w.uZulTragfaehigkeit = 5; },
      {"u,ges = 5,000 mm <= u,zul = 5,000 mm (Grenzzustand Gebrauchstauglichkeit)",
       "u,ges = 6,000 mm > u,zul = 5,000 mm !!! (Grenzzustand Tragfähigkeit)"}, {}},
-    {"the combination is explained when both act", lang, [](Wand& w) { w.sv0d = 1; w.sv90d = 1; },
-     {"(DIN 1052(2008),8.7.7: bei Kombination Abminderung Festigkeit mit Faktor 0,7 wenn sv,0,d <> 0 und sv,90,d <> 0)"},
-     {}},
-    {"an anchor of one part tells its nails", lang,
-     [](Wand& w) { w.NachweisVerankerung = true; w.Ankertyp = 6; w.AnzahlAnker = 2; w.Kammnagel = 3; w.RdAnker = 5; w.Ftdst = 10; },
-     {"gewählter Zuganker = 2xSIMPSON / Strong-Tie© Zuganker HTT5", "CNA - Kammnägel 4.0x60",
-      "Anzahl Nägel = 16 Stück", "Federsteifigkeit eines Zugankers Summe k,ser = 100000,000 kN/mm",
-      "(Summe k,ser = 100000 bedeutet starr)", "Aufnehmbare Zugkraft Rd = 5,000 kN je Anker",
-      "Rd,ges = 10,000 kN >= Ft,dst = 10,000 kN --> ausreichend",
-      "Durch Betonanker aufzunehmende Kraft Fb,d = 0,000 kN",
-      "(der Ankerbolzen ist hierfür separat nachzuweisen!)"}, {"ausgenagelt"}},
     {"an anchor of two parts tells how it is nailed", ansicht,
      [](Wand& w) { w.NachweisVerankerung = true; w.Ankertyp = 12; w.Teilausnagelung = 2; w.LagesicherungVerfahren = 1; },
      {"Zuganker nur teilweise ausgenagelt",
@@ -120,9 +95,6 @@ const std::vector<Fall> faelle{
      {"Material = Platte X", "Nutzungsklasse für Beplankung 1: NKL 1"}, {"Material = freies"}},
     {"an unknown load duration counts as very short", lang, [](Wand& w) { w.KLED = 9; },
      {"KLED für veränderliche Lasten = sehr kurz"}, {}},
-    {"the exact distribution tells its shares", lang,
-     [](Wand& w) { w.VertikallastVerteilung = 2; w.AnteilRippen = 0.625; w.AnteilBeplankung = 0.375; },
-     {"   (Anteil Rippen = 62,50%, Anteil Beplankung = 37,50%)"}, {"nur über die Rippen"}},
     {"a thin board and a shallow nail both reduce Rd", lang,
      [](Wand& w) { w.treq[Seite::eins] = 0.999; w.tvorh[Seite::zwei] = 0.5; },
      {"Abscherfestigkeit Rd = 0,000 N (je VM, Beplankung 1) --> abgemindert wegen t,vorh < t,req (Beplankungsdicke)",
@@ -146,47 +118,31 @@ TEST(Bericht, EachConditionShowsItsLinesAndNoOthers) {
 }
 
 TEST(Bericht, EachKindOfFastenerTellsItsOwnMeasures) {
-    struct Art {
-        std::string name;
-        bool masse, gewinde, kopf, vorbohrung;
-    };
-    const std::vector<Art> arten{
-        {"Nägel2,7x50", false, false, true, true},
-        {"Sondernägel", true, true, true, true},
-        {"Klammern", true, false, false, false},
-        {"Schrauben DIN 7997", true, true, true, true},
-        {"Schrauben mit Zulassung", true, true, true, true},
-        {"Schnellbauschrauben DIN 18182-2", true, false, false, false},
-        {"Nägel DIN 18182-2", true, false, true, false},
-        {"Klammern DIN 18182-2", true, false, false, false},
+    const std::vector<std::pair<std::string, std::string>> arten{
+        {"Nägel2,7x50", "kv"},
+        {"Sondernägel", "mgkv"},
+        {"Klammern", "m"},
+        {"Schrauben DIN 7997", "mgkv"},
+        {"Schrauben mit Zulassung", "mgkv"},
+        {"Schnellbauschrauben DIN 18182-2", "m"},
+        {"Nägel DIN 18182-2", "mk"},
+        {"Klammern DIN 18182-2", "m"},
     };
     for (std::size_t i = 0; i < arten.size(); ++i) {
-        SCOPED_TRACE(arten[i].name);
+        const auto& [name, masse] = arten[i];
+        SCOPED_TRACE(name);
         Wand w = wand();
         w.Einseitig = true;
         w.VMArt[Seite::eins] = i + 1;
         const Zeilen alle = zeilen(w, lang);
-        EXPECT_TRUE(enthaelt(alle, "VM = " + arten[i].name));
-        EXPECT_EQ(enthaelt(alle, "Nenndurchmesser d = 2,70 mm"), arten[i].masse);
-        EXPECT_EQ(enthaelt(alle, "Nennlänge ln = 50,00 mm"), arten[i].masse);
-        EXPECT_EQ(enthaelt(alle, "Gewindelänge lg = 25,0 mm"), arten[i].gewinde);
-        EXPECT_EQ(enthaelt(alle, "Kopfdurchmesser dk = 6,1 mm"), arten[i].kopf);
-        EXPECT_EQ(enthaelt(alle, "VM wird nicht vorgebohrt"), arten[i].vorbohrung);
+        EXPECT_TRUE(enthaelt(alle, "VM = " + name));
+        for (const auto& [zeichen, zeile] : {std::pair('m', "Nenndurchmesser d = 2,70 mm"),
+                                             {'m', "Nennlänge ln = 50,00 mm"},
+                                             {'g', "Gewindelänge lg = 25,0 mm"},
+                                             {'k', "Kopfdurchmesser dk = 6,1 mm"},
+                                             {'v', "VM wird nicht vorgebohrt"}})
+            EXPECT_EQ(enthaelt(alle, zeile), masse.find(zeichen) != std::string::npos) << zeile;
     }
-}
-
-TEST(Bericht, TheLengthOfTheFastenerHasAMaskBySideAndForm) {
-    Wand w = wand();
-    w.VMArt[Seite::eins] = w.VMArt[Seite::zwei] = 2;
-    const auto masken = [&](Form form) {
-        Zeilen laengen;
-        for (const std::string& z : zeilen(w, form)) {
-            if (z.starts_with("Nennlänge")) laengen.push_back(z);
-        }
-        return laengen;
-    };
-    EXPECT_EQ(masken(lang), (Zeilen{"Nennlänge ln = 50,00 mm", "Nennlänge ln = 50,0 mm"}));
-    EXPECT_EQ(masken(ansicht), (Zeilen{"Nennlänge ln = 50,0 mm", "Nennlänge ln = 50,0 mm"}));
 }
 
 TEST(Bericht, ThePrintedPreliminaryRemarksAreTheFirstOnesAsManyAsAreFilled) {
@@ -210,34 +166,6 @@ TEST(Bericht, ThePrintedPreliminaryRemarksAreTheFirstOnesAsManyAsAreFilled) {
         EXPECT_EQ(zwischen(zeilen(w, ansicht), 10, "1. System").size(), vor.gesehen.size() + 1);
         for (const std::string& z : vor.gesehen) EXPECT_TRUE(enthaelt(zeilen(w, ansicht), z));
     }
-}
-
-TEST(Bericht, TheViewOpensAndClosesWithItsOwnLines) {
-    Wand w = wand();
-    w.Projekt = "Haus";
-    w.PositionsBemerkung = "Achse B";
-    w.AlleNachweiseErfuellt = true;
-    w.AnzahlZusatzbemerkungen = 1;
-    w.Zusatzbemerkungen[0] = "Ende";
-    const Zeilen alle = zeilen(w, ansicht);
-    const Zeilen anfang{"",
-                        "Eingabedaten und Ergebnisse :",
-                        "",
-                        "Bemessung von Wandtafeln nach DIN 1052 (2008)",
-                        "",
-                        "",
-                        "Projekt : Haus",
-                        "Position : 1  Achse B",
-                        "Datum : ",
-                        "",
-                        "",
-                        std::string(67, '-'),
-                        "1. System",
-                        "",
-                        "1.1 Abmessungen"};
-    const Zeilen schluss{std::string(67, '_'), "--> Alle Nachweise werden erfüllt!", "Ende", "", "", ""};
-    EXPECT_EQ(Zeilen(alle.begin(), alle.begin() + 15), anfang);
-    EXPECT_EQ(Zeilen(alle.end() - 6, alle.end()), schluss);
 }
 
 TEST(Bericht, TheSwitchesOfThePrintDialogTakeTheirPartsAway) {
