@@ -8,33 +8,17 @@ namespace {
 
 struct Textfall {
     const char* text;
-    std::optional<double> wert;
+    double wert;
 };
 
 TEST(Zahltext, TakesCommaAndPointAndRefusesEverythingElse) {
-    const Textfall faelle[] = {
-        {"2,5", 2.5},
-        {"2.5", 2.5},
-        {" 7 ", 7.0},
-        {"-0,5", -0.5},
-        {"+3", 3.0},
-        {",5", 0.5},
-        {"5,", 5.0},
-        {"1.234,5", std::nullopt},
-        {"1,2,3", std::nullopt},
-        {"1 000", std::nullopt},
-        {"1e3", std::nullopt},
-        {"", std::nullopt},
-        {"-", std::nullopt},
-        {"abc", std::nullopt},
-        {"nan", std::nullopt},
-        {"--2", std::nullopt},
-        {"+-2", std::nullopt},
-        {",", std::nullopt},
-        {"0x10", std::nullopt},
-    };
-    for (const Textfall& fall : faelle)
+    const Textfall gute[] = {{"2,5", 2.5}, {"2.5", 2.5}, {" 7 ", 7.0}, {"-0,5", -0.5},
+                             {"+3", 3.0},  {",5", 0.5},  {"5,", 5.0}};
+    for (const Textfall& fall : gute)
         EXPECT_EQ(zahlAus(QString::fromUtf8(fall.text)), fall.wert) << "\"" << fall.text << "\"";
+    for (const char* text :
+         {"1.234,5", "1,2,3", "1 000", "1e3", "", "-", "abc", "nan", "--2", "+-2", ",", "0x10"})
+        EXPECT_EQ(zahlAus(QString::fromUtf8(text)), std::nullopt) << "\"" << text << "\"";
 }
 
 // A window with one field of 0.2 to 100 m and another to go to.
