@@ -365,11 +365,12 @@ void Form6::speicherePdf() {
     if (ergebnis) merkeSeite(*ergebnis);
 }
 
-// The last page number printed. A file that cannot be written is no reason to stop.
+// The last page number printed, for the next opening of the window. The field stays: what is saved as PDF and
+// then printed from the same window is one document with the same numbers. A file that cannot be written is
+// no reason to stop.
 void Form6::merkeSeite(const Druckergebnis& ergebnis) {
     if (!ergebnis.LetzteSeite) return;
-    if (schreibeLetzteSeite(programm_.datei(seitendatei), *ergebnis.LetzteSeite)) return;
-    startseite_->setzeWert(*ergebnis.LetzteSeite + 1);
+    static_cast<void>(schreibeLetzteSeite(programm_.datei(seitendatei), *ergebnis.LetzteSeite));
 }
 
 }  // namespace rippenscheibe

@@ -164,6 +164,7 @@ TEST_F(Druckfenster, APdfIsSavedAsShown) {
     klicke(*fenster, "ComPdf");
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
     EXPECT_EQ(letzteSeite(), int(inhalt(datei("a.pdf")).count("/Type /Page\n")));
+    EXPECT_EQ(wert(*fenster, "Textbox1").wert(), 1);  // printing it now begins with the same page
     EXPECT_EQ(meldungen.gewaehlt[1].vorschlag, QStringLiteral("A 4.pdf"));
     klicke(*fenster, "ComPdf");  // cancelled
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
