@@ -324,13 +324,14 @@ void Form99::reject() {
     Fenster::reject();
 }
 
-EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei) {
+EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei, ErsteTabelle erste) {
     std::error_code fehler;
     if (std::filesystem::exists(datei, fehler)) return liesEigeneMaterialien(datei);
+    verbindeRessourcen();
     QFile geliefert(QStringLiteral(":/Plattenwerte.dat"));
     if (!geliefert.open(QIODevice::ReadOnly)) return {};
     const std::string bytes = geliefert.readAll().toStdString();
-    static_cast<void>(schreibeDauerhaft(datei, bytes));
+    if (erste == ErsteTabelle::ablegen) static_cast<void>(schreibeDauerhaft(datei, bytes));
     return eigeneMaterialienAus(dekodiert(bytes));
 }
 

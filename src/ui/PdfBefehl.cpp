@@ -12,6 +12,7 @@
 #include "model/Positionsdatei.h"
 #include "run/Berechnungslauf.h"
 #include "run/Zuweisen.h"
+#include "ui/Form99_EigeneMaterialien.h"
 #include "ui/PdfAusgabe.h"
 #include "ui/Programm.h"
 
@@ -64,7 +65,8 @@ class Pdflauf {
             ausgaben_.meldungen(inhalt.fehler->text + "\n");
             return false;
         }
-        w_->eigeneMaterialien = liesEigeneMaterialien(ordner_ / materialdatei);
+        // The table of the window, delivered rows included; a command leaves no file behind but the PDF.
+        w_->eigeneMaterialien = ladeEigeneMaterialien(ordner_ / materialdatei, ErsteTabelle::nurLesen);
         for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), *w_))
             melde(beschreibung(feld));
         zuweisen(*w_, grundmasse(*w_));

@@ -7,9 +7,11 @@
 #include <utility>
 
 // Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.
-static void verbindeRessourcen() { Q_INIT_RESOURCE(ressourcen); }
+static void bindeRessourcenEin() { Q_INIT_RESOURCE(ressourcen); }
 
 namespace rippenscheibe {
+
+void verbindeRessourcen() { bindeRessourcenEin(); }
 
 Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {

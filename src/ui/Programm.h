@@ -79,6 +79,9 @@ class Programm : public QObject {
     std::unique_ptr<QPrinter> drucker_;
 };
 
+// Makes the icons and files delivered inside the program available; may be called more than once.
+void verbindeRessourcen();
+
 // All text inside the program is UTF-8.
 inline QString qtext(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));

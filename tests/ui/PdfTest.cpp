@@ -1,10 +1,12 @@
 #include <QRegularExpression>
 
 #include "../support/Aufzeichnung.h"
+#include "model/EigeneMaterialienDatei.h"
 #include "model/Projektliste.h"
 #include "report/Bericht.h"
 #include "support/Gerechnet.h"
 #include "ui/Druckpuffer.h"
+#include "ui/Form99_EigeneMaterialien.h"
 #include "ui/PdfAusgabe.h"
 #include "ui/PdfBefehl.h"
 #include "ui/Seitenmaler.h"
@@ -176,6 +178,20 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
         EXPECT_EQ(inhalt(ziel).startsWith("%PDF"), geschrieben);
     }
     EXPECT_FALSE(istPdfBefehl({QStringLiteral("--pdfx"), QStringLiteral("a.rsw")}));
+}
+
+TEST_F(Pdfausgabe, TheCommandTakesTheMaterialsTheWindowTakesAndWritesNone) {
+    const auto tabelle = programm.datei(materialdatei);
+    EXPECT_EQ(befehl({QStringLiteral("--pdf"), datei("aus.pdf"),
+                      QString::fromStdString(beispiel("eigenes_material").string())}),
+              Pdfrueckgabe::erfuellt)
+        << gesagt;
+    EXPECT_FALSE(std::filesystem::exists(tabelle));
+    programm.w = Wand();
+    setzeVorgaben(programm.w);
+    programm.w.eigeneMaterialien = ladeEigeneMaterialien(tabelle);
+    rechne("eigenes_material");
+    EXPECT_EQ(ohneDatum(inhalt(datei("aus.pdf"))), ohneDatum(pdf(programm.w, ausdruck()).bytes));
 }
 
 TEST_F(Pdfausgabe, TheCommandPrintsWhatTheSettingsSayAndLeavesThePageNumberAlone) {
