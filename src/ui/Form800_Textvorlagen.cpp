@@ -90,13 +90,15 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
          {static_cast<QWidget*>(name_), static_cast<QWidget*>(text_), static_cast<QWidget*>(sichern_)})
         feld->setEnabled(false);
 
-    connect(liste_, &QListWidget::currentRowChanged, this, &Textvorlagenfenster::zeige);
+    // Not the current row: the list makes its first row current when it gets the focus, and that is no
+    // choice.
+    connect(liste_, &QListWidget::itemSelectionChanged, this, &Textvorlagenfenster::zeigeGewaehlte);
     connect(neue, &QPushButton::clicked, this, &Textvorlagenfenster::neu);
     connect(sichern_, &QPushButton::clicked, this, &Textvorlagenfenster::sichern);
 
-    QPushButton* uebernehmen =
-        schaltflaeche(QStringLiteral("ComBem"), QStringLiteral("Übernehmen und zurück"));
-    connect(uebernehmen, &QPushButton::clicked, this, &QDialog::accept);
+    uebernehmen_ = schaltflaeche(QStringLiteral("ComBem"), QStringLiteral("Übernehmen und zurück"));
+    uebernehmen_->setEnabled(false);  // nothing is shown yet that could replace the remark
+    connect(uebernehmen_, &QPushButton::clicked, this, &QDialog::accept);
     QPushButton* abbruch =
         schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch ohne Übernehmen"));
     connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
@@ -109,12 +111,18 @@ void Textvorlagenfenster::fuelleListe() {
     for (const Textvorlage& vorlage : vorlagen_) liste_->addItem(qtext(vorlage.name));
 }
 
-void Textvorlagenfenster::zeige(int zeile) {
-    if (zeile < 0) return;
-    const Textvorlage& vorlage = vorlagen_[static_cast<std::size_t>(zeile)];
+void Textvorlagenfenster::gibFrei() {
     name_->setEnabled(true);
     text_->setEnabled(true);
     sichern_->setEnabled(true);
+    uebernehmen_->setEnabled(true);
+}
+
+void Textvorlagenfenster::zeigeGewaehlte() {
+    const QList<QListWidgetItem*> gewaehlt = liste_->selectedItems();
+    if (gewaehlt.isEmpty()) return;
+    const Textvorlage& vorlage = vorlagen_[static_cast<std::size_t>(liste_->row(gewaehlt.constFirst()))];
+    gibFrei();
     name_->setText(qtext(vorlage.name));
     zeigeText(*text_, vorlage.text);
 }
@@ -123,14 +131,12 @@ void Textvorlagenfenster::neu() {
     liste_->setCurrentRow(-1);
     name_->clear();
     text_->clear();
-    name_->setEnabled(true);
-    text_->setEnabled(true);
-    sichern_->setEnabled(true);
+    gibFrei();
     name_->setFocus();
 }
 
 void Textvorlagenfenster::sichern() {
-    const Textvorlage vorlage{utf8(name_->text()), text()};
+    const Textvorlage vorlage = speicherbar({utf8(name_->text()), text()});
     if (const auto fehler = sichereTextvorlage(datei_, vorlage, vorlagen_)) {
         meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
         return;

@@ -9,6 +9,7 @@
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
+class QPushButton;
 
 namespace rippenscheibe {
 
@@ -26,7 +27,8 @@ class Textvorlagenfenster : public Fenster {
     std::string text() const;
 
   private:
-    void zeige(int zeile);
+    void gibFrei();
+    void zeigeGewaehlte();
     void neu();
     void sichern();
     void fuelleListe();
@@ -37,6 +39,7 @@ class Textvorlagenfenster : public Fenster {
     QLineEdit* name_;
     QPlainTextEdit* text_;
     QPushButton* sichern_;
+    QPushButton* uebernehmen_;
 };
 
 }  // namespace rippenscheibe

@@ -287,6 +287,27 @@ TEST_F(Kleinfenster, TemplatesSurviveARestartAndAreOverwrittenByName) {
     EXPECT_EQ(feld<QListWidget>(andere, "List1")->count(), 0);
 }
 
+TEST_F(Kleinfenster, NoTemplateIsShownBeforeOneIsChosen) {
+    Textvorlagen vorlagen;
+    ASSERT_FALSE(sichereTextvorlage(programm->datei(vorlagenZusatzbemerkungen), {"A", "eins"}, vorlagen));
+    Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::zusatzbemerkungen);
+    fenster.show();
+    auto* liste = feld<QListWidget>(fenster, "List1");
+    feld(fenster, "Command2")->setFocus();
+    liste->setFocus(Qt::TabFocusReason);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(liste->currentRow(), 0);  // by the focus alone
+    EXPECT_EQ(fenster.text(), "");
+    EXPECT_FALSE(feld(fenster, "ComBem")->isEnabled());
+    QTest::keyClick(liste, Qt::Key_Space);
+    EXPECT_EQ(fenster.text(), "eins");
+    EXPECT_TRUE(feld(fenster, "ComBem")->isEnabled());
+    klick(fenster, "Command2");
+    EXPECT_EQ(fenster.text(), "");
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualItemRect(liste->item(0)).center());
+    EXPECT_EQ(fenster.text(), "eins");
+}
+
 TEST_F(Kleinfenster, ATemplateThatCannotBeWrittenIsReported) {
     ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("Textvorlage1.dat")));  // no file can go there
     Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::vorbemerkungen);
