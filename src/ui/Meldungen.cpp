@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QMessageBox>
-#include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QStandardPaths>
 
@@ -88,7 +87,10 @@ std::optional<QString> Plattformmeldungen::sichern(QWidget* fenster, const Datei
 }
 
 void Plattformmeldungen::richteDruckerEin(QWidget* fenster, QPrinter& drucker) {
-    QPageSetupDialog(&drucker, fenster).exec();
+    QPrintDialog dialog(&drucker, fenster);
+    dialog.setWindowTitle(QStringLiteral("Drucker einrichten"));
+    dialog.setOptions(QAbstractPrintDialog::PrintDialogOptions());
+    dialog.exec();
 }
 
 bool Plattformmeldungen::waehleDrucker(QPrintDialog& dialog) { return dialog.exec() == QDialog::Accepted; }
