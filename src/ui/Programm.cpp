@@ -34,7 +34,12 @@ void Programm::ladeEinstellungen() {
 
 std::optional<Dateifehler> Programm::sichereProjekte() {
     projekte.Projekt = w.Projekt;
-    return rippenscheibe::sichereProjektliste(datei(projektlistendatei), projekte, projekteGelesen_);
+    auto fehler = rippenscheibe::sichereProjektliste(datei(projektlistendatei), projekte, projekteGelesen_);
+    if (!fehler) {  // the program may go on after this: both lists are now the one in the file
+        projekteGelesen_ = liesProjektliste(datei(projektlistendatei));
+        projekte = projekteGelesen_;
+    }
+    return fehler;
 }
 
 QPrinter& Programm::drucker() {
