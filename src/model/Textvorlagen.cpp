@@ -57,7 +57,7 @@ std::string zusatzbemerkungstext(const Wand& w) {
     const auto anzahl = static_cast<std::size_t>(std::max<int>(w.AnzahlZusatzbemerkungen.value(), 0));
     const auto ende = std::next(w.Zusatzbemerkungen.begin(),
                                 static_cast<std::ptrdiff_t>(std::min(anzahl, w.Zusatzbemerkungen.size())));
-    return verbunden(ohneLeereAmEnde({w.Zusatzbemerkungen.begin(), ende}));
+    return verbunden({w.Zusatzbemerkungen.begin(), ende});
 }
 
 void setzeVorbemerkungen(Wand& w, std::string_view text) {
