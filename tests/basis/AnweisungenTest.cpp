@@ -169,12 +169,5 @@ TEST(Anweisungen, AFreelyTypedFieldIsWrittenAsItWasRead) {
     }
 }
 
-TEST(Anweisungen, AStatementIsOneLineWithCommasAndCrLf) {
-    Anweisungsschreiber schreiber;
-    schreiber.schreibe(Feld(2.7), true, std::string("a"), Freiwert(), Ganzzahl(std::int16_t{-3}));
-    schreiber.schreibe(Feld32(0.35F));
-    EXPECT_EQ(schreiber.text(), "2.7,#TRUE#,\"a\",,-3\r\n0.35\r\n");
-}
-
 }  // namespace
 }  // namespace rippenscheibe

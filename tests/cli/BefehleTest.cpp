@@ -224,17 +224,6 @@ TEST_F(Befehle, ReportsGoWhereTheyAreToldWithTheMarkTheyAreTold) {
     EXPECT_EQ(rtf.find("{\\rtf1", 1), std::string::npos);
 }
 
-TEST_F(Befehle, TheLocaleChangesNothing) {
-    const std::vector<std::string> angaben{"rechne", "--ausgabe", "json", beispiel("windsog")};
-    const std::string vorher = tool(angaben).ausgabe;
-    // Where a locale is not installed nothing changes anyway.
-    for (const char* name : {"de_DE.UTF-8", "tr_TR.UTF-8"}) {
-        std::setlocale(LC_ALL, name);
-        EXPECT_EQ(tool(angaben).ausgabe, vorher) << name;
-    }
-    std::setlocale(LC_ALL, "C");
-}
-
 TEST_F(Befehle, ANewPositionHasAllDefaults) {
     EXPECT_EQ(tool({"neu"}).ausgabe, positionstext(Wand{}));
     EXPECT_EQ(tool({"neu", "-o", datei("neu.rsw")}).rueckgabe, 0);

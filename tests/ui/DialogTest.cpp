@@ -98,18 +98,6 @@ TEST_F(Dialog, AnAcceptedChangeByTheMouseAloneCountsAsUnsaved) {
     EXPECT_FALSE(programm.Gesichert());
 }
 
-TEST_F(Dialog, EnterMovesToTheNextFieldAndAcceptsNothing) {
-    Form2 form(programm, meldungen, nullptr);
-    form.show();
-    QApplication::setActiveWindow(&form);
-    wert(form, "Textbox1(2)").setFocus();
-    QTest::keyClick(&wert(form, "Textbox1(2)"), Qt::Key_Return);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("Textbox1(0)"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Enter);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("Textbox1(1)"));
-    EXPECT_TRUE(form.isVisible());
-}
-
 TEST_F(Dialog, ServiceClassesOfSideTwoAreCountedDown) {
     Form4 form(programm, meldungen, nullptr);
     form.show();
@@ -262,17 +250,6 @@ TEST_F(Dialog, TheAnchorLimitsItsNailsAndComputesItsResistance) {
     EXPECT_EQ(w.FreierAnkerName, "Laschenanker");
     EXPECT_EQ(w.Teilausnagelung, 2);
     EXPECT_TRUE(w.NachweisVerankerung);
-}
-
-TEST_F(Dialog, AnchorButtonsMapToTheirTypes) {
-    // Index of the option button and the anchor type it means: 8 is the free anchor in their midst.
-    const std::pair<int, int> paare[] = {{0, 1}, {7, 8}, {9, 9}, {12, 12}, {8, 13}};
-    for (const auto& [knopf, typ] : paare) {
-        Form7 form(programm, meldungen, nullptr);
-        klicke(form, QStringLiteral("Option1(%1)").arg(knopf).toUtf8().constData());
-        klicke(form, "ComEnde");
-        EXPECT_EQ(w.Ankertyp, typ);
-    }
 }
 
 TEST_F(Dialog, ValuesOfALoadCaseThatIsNotChosenAreLostOnAccept) {

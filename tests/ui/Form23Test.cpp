@@ -184,13 +184,6 @@ TEST_F(Ergebnisansicht, SearchGoesRoundAndEscLeavesItFirst) {
     EXPECT_TRUE(fenster->isVisible());
 }
 
-TEST_F(Ergebnisansicht, ClosingEmptiesTheText) {
-    oeffne();
-    klicke(*fenster, "ComEnde");
-    EXPECT_FALSE(fenster->isVisible());
-    EXPECT_TRUE(text->toPlainText().isEmpty());
-}
-
 TEST_F(Ergebnisansicht, ThePrintWindowOpensFromHere) {
     oeffne();
     QString name;

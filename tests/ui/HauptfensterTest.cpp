@@ -301,19 +301,6 @@ TEST_F(Hauptfenster, ADroppedFileOpensAfterTheQuery) {
     EXPECT_TRUE(zuletzt.actions().constFirst()->text().endsWith(QStringLiteral("a.rsw")));
 }
 
-TEST_F(Hauptfenster, ToolBarButtonsRunTheirMenuEntries) {
-    const std::pair<int, const char*> paare[] = {
-        {1, "mnuFNew"},        {2, "mnuFOpen"},   {3, "mnuFSave"},      {4, "mnuFSaveAs"},
-        {5, "mnuoptiondruck"}, {6, "mnuoptions"}, {7, "mnupocketcalc"}, {8, "mnuFClose"}};
-    for (const auto& [index, name] : paare) {
-        QAction& eintrag = finde<QAction>(name);
-        eintrag.disconnect();
-        QSignalSpy ausgeloest(&eintrag, &QAction::triggered);
-        finde<QAction>(QStringLiteral("Toolbar1(%1)").arg(index).toUtf8().constData()).trigger();
-        EXPECT_EQ(ausgeloest.count(), 1) << name;
-    }
-}
-
 TEST_F(Hauptfenster, NoMnemonicOrShortcutIsGivenTwice) {
     QSet<QKeySequence> kuerzel;
     for (const QAction* aktion : fenster.findChildren<QAction*>()) {
