@@ -57,7 +57,10 @@ std::string zusatzbemerkungstext(const Wand& w) {
     const auto anzahl = static_cast<std::size_t>(std::max<int>(w.AnzahlZusatzbemerkungen.value(), 0));
     const auto ende = std::next(w.Zusatzbemerkungen.begin(),
                                 static_cast<std::ptrdiff_t>(std::min(anzahl, w.Zusatzbemerkungen.size())));
-    return verbunden({w.Zusatzbemerkungen.begin(), ende});
+    std::string text = verbunden({w.Zusatzbemerkungen.begin(), ende});
+    // The last line needs no line end to be one, unless it is empty.
+    if (ende != w.Zusatzbemerkungen.begin() && std::prev(ende)->empty() && !text.empty()) text += "\r\n";
+    return text;
 }
 
 void setzeVorbemerkungen(Wand& w, std::string_view text) {

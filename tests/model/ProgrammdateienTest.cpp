@@ -237,6 +237,9 @@ TEST(Bemerkungen, TheyGoIntoTheRecordAndBack) {
     setzeZusatzbemerkungen(w, "a\r\nb");
     EXPECT_EQ(w.AnzahlZusatzbemerkungen, 2);
     EXPECT_EQ(zusatzbemerkungstext(w), "a\r\nb");
+    setzeZusatzbemerkungen(w, "a\r\n\r\n");  // an empty closing line survives the way there and back
+    EXPECT_EQ(w.AnzahlZusatzbemerkungen, 2);
+    EXPECT_EQ(zusatzbemerkungstext(w), "a\r\n\r\n");
     setzeZusatzbemerkungen(w, "\r\nb");
     EXPECT_EQ(w.AnzahlZusatzbemerkungen, 0);
     EXPECT_EQ(w.Zusatzbemerkungen, Texte(200));
