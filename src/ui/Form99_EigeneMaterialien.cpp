@@ -269,6 +269,7 @@ EigeneMaterialien::Zeile Form99::eingabe() const {
 
 void Form99::neuesMaterial() {
     leere();
+    lochleibung_->buttons().front()->setChecked(true);
     setzeZustand(Zustand::neu);
     name_->setFocus();
 }
@@ -281,6 +282,12 @@ void Form99::bearbeite() {
 }
 
 void Form99::uebernehmen() {
+    if (name_->text().trimmed().isEmpty()) {
+        meldungen_.kritisch(this, QStringLiteral(" Fehler"),
+                            QStringLiteral("Bitte eine Bezeichnung eingeben!"));
+        name_->setFocus();
+        return;
+    }
     if (zustand_ == Zustand::neu) {
         tabelle_.zeilen.push_back(eingabe());
         fuelleListe(static_cast<int>(tabelle_.zeilen.size()) - 1);
