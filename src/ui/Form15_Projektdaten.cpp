@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "model/Positionsdatei.h"
 #include "ui/Dateiablauf.h"
@@ -62,9 +63,14 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
     connect(projekt_, &QComboBox::activated, this, &Form15::waehleProjekt);
     connect(waehlen, &QPushButton::clicked, this, [this] {
-        programm_.Positionspfad = utf8(pfad_->text());
+        // The chooser starts at the typed folder; cancelled, it leaves the stored one.
+        const std::string vorher = std::exchange(programm_.Positionspfad, utf8(pfad_->text()));
         Pfadwahl wahl(programm_, meldungen_, this, Pfadwahl::Zweck::positionspfad);
-        if (wahl.exec() == QDialog::Accepted) pfad_->setText(wahl.pfad());
+        if (wahl.exec() == QDialog::Accepted) {
+            pfad_->setText(wahl.pfad());
+        } else {
+            programm_.Positionspfad = vorher;
+        }
     });
     QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Zurück zum Hauptfenster"));
     ende->setDefault(true);
