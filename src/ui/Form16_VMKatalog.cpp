@@ -140,6 +140,8 @@ QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
 }
 
 // Row `zeile`, from 1. Whether the box of the head diameter is in use is the dialog's to know.
+// The values go into the boxes as they stand in the catalogue; the rows of staples carry one for the head,
+// which their kinds do not use.
 void Form16::waehle(int zeile) {
     const VMKatalogzeile& werte = VMKatalog()[static_cast<std::size_t>(zeile - 1)];
     const auto setze = [this](int index, float wert) {

@@ -296,6 +296,7 @@ void Form8::waehleVorlage(int vorlage) {
         texte_[i]->setText(qtext(inhalt[i]));
         texte_[i]->setReadOnly(!aenderbar);
     }
+    // Without a head there is no text to change or style either.
     for (QPushButton* k : textknoepfe_) k->setEnabled(aenderbar);
     if (vorlage == fest) haken_[hakenProgrammname]->setChecked(true);
     haken_[hakenProgrammname]->setEnabled(vorlage != fest);
