@@ -3,6 +3,7 @@
 #include <array>
 
 #include "design/Rippen.h"
+#include "model/Kataloge.h"
 
 namespace rippenscheibe {
 
@@ -10,8 +11,6 @@ namespace {
 
 constexpr Seite S1 = Seite::eins;
 constexpr double kein = 0.000001;  // N: too little for any proof, but no division by zero
-
-enum class Art { Naegel = 1, Sondernaegel = 2, Klammern = 3, Schrauben = 4, SchraubenMitZulassung = 5 };
 
 struct Klassenzeile {
     double sondernaegel;  // factors c of f1k and f2k = c * 10^-6 * rho²
@@ -86,7 +85,7 @@ void ausziehwiderstand(Wand& w) {
     const Zahl kopfklasse = zeile != nullptr ? Zahl(zeile->kopf) : Zahl::fehlgeschlagen();
 
     switch (static_cast<Art>(w.VMArt[S1].value())) {
-        case Art::Sondernaegel: {
+        case Art::sondernaegel: {
             w.lef[S1] = Min(einschlag, w.lg[S1]);
             begrenze(w.lef[S1], 20 * d);
             Zahl f1k = zeile != nullptr ? zeile->sondernaegel * 1e-6 * rho2 : Zahl::fehlgeschlagen();
@@ -94,23 +93,23 @@ void ausziehwiderstand(Wand& w) {
             widerstand(w, {8, f1k, kopfklasse, kopf2});
             break;
         }
-        case Art::Naegel:
+        case Art::naegel:
             w.lef[S1] = einschlag;
             begrenze(w.lef[S1], 20 * d);
             widerstand(w, {8, vorgebohrt ? Zahl(0) : 18 * 1e-6 * rho2, 60, kopf2});
             break;
-        case Art::Klammern:
+        case Art::klammern:
             w.lef[S1] = einschlag;
             begrenze(w.lef[S1], 20 * d);
             widerstand(w, {12, 40 * 1e-6 * rho2, 60, 5.8 * (d * d), 8});
             // Two shanks.
             w.Rxk[S1] = w.beta >= 30 ? 2 * w.Rxk[S1] : 2 * 0.7 * w.Rxk[S1];
             break;
-        case Art::Schrauben:
+        case Art::schrauben:
             w.lef[S1] = Min(einschlag, w.lg[S1]);
             widerstand(w, {4, 70 * 1e-6 * rho2, 60, kopf2});
             break;
-        case Art::SchraubenMitZulassung: {
+        case Art::schraubenMitZulassung: {
             w.lef[S1] = Min(einschlag, w.lg[S1]);
             const Zahl f1k = zeile != nullptr ? zeile->schrauben * 1e-6 * rho2 : Zahl::fehlgeschlagen();
             // Meant: thinner sheathing leaves f1k1 as it was.

@@ -4,7 +4,6 @@ namespace rippenscheibe {
 
 namespace {
 
-bool klammer(const Wand& w, Seite n) { return w.VMArt[n] == 3 || w.VMArt[n] == 8; }
 bool nagelartig(const Wand& w, Seite n) {
     const int art = w.VMArt[n].value();
     return (art >= 1 && art <= 7) && art != 3;
@@ -96,7 +95,7 @@ void verbindungsmittelabstaende(Wand& w, Seite n) {
         rippeNagelartig(w, n);
         plattenrandNagelartig(w, n);
     }
-    if (klammer(w, n)) klammern(w, n);
+    if (istKlammer(w, n)) klammern(w, n);
 }
 
 }  // namespace rippenscheibe

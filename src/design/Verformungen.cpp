@@ -9,15 +9,13 @@ namespace {
 constexpr Seite S1 = Seite::eins;
 constexpr Seite S2 = Seite::zwei;
 
-bool klammer(const Wand& w, Seite n) { return w.VMArt[n] == 3 || w.VMArt[n] == 8; }
-
 // Slip modulus of one fastener in N/mm (annex G, table G.1), 0 when no row applies.
 Zahl verschiebungsmodul(const Wand& w, Seite n) {
     const Zahl rho15 = pow(w.rhoM[n], 1.5);
-    if (w.Vorgebohrt[n]) return klammer(w, n) ? Zahl(0) : rho15 * w.d[n] / 20;
-    if (!klammer(w, n)) return rho15 * pow(w.d[n], 0.8) / 25;
+    if (w.Vorgebohrt[n]) return istKlammer(w, n) ? Zahl(0) : rho15 * w.d[n] / 20;
+    if (!istKlammer(w, n)) return rho15 * pow(w.d[n], 0.8) / 25;
     // Meant: staples of either side count only when side 1 has staples.
-    if (klammer(w, S1)) return 2 * rho15 * pow(w.d[n], 0.8) / 60;
+    if (istKlammer(w, S1)) return 2 * rho15 * pow(w.d[n], 0.8) / 60;
     return 0;
 }
 

@@ -77,6 +77,15 @@ void setzeLochleibung(Wand& w, Seite n, Lochleibung formel) {
     if (hatFormel(w, n, formel)) w.fhkPlatte[n] = lochleibung(w, n, formel);
 }
 
+void setzeLochleibungNachGruppe(Wand& w, Seite n) {
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
+    } else if (istGipskarton(w, n)) {
+        setzeLochleibung(w, n, Lochleibung::gipskarton);
+    }
+    if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
+}
+
 void setzeLochleibungEigen(Wand& w, Seite n) { w.fhkPlatte[n] = lochleibungEigen(w, n); }
 
 void setzeBeiwerte(Wand& w, Seite n, const Beiwerte& beiwerte) {

@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "model/Kataloge.h"
 #include "model/Wand.h"
 
 // What the fastener families share: the steps of the simplified method (DIN 1052 (2008), 12.2 to 12.8) and
@@ -12,18 +13,6 @@
 namespace rippenscheibe {
 
 enum class Verfahren { vereinfacht, genau };
-
-// Fastener kinds by their number in VMArten.
-enum class Art {
-    naegel = 1,
-    sondernaegel = 2,
-    klammern = 3,
-    schrauben = 4,
-    schraubenMitZulassung = 5,
-    schnellbauschrauben = 6,
-    naegelDin18182 = 7,
-    klammernDin18182 = 8,
-};
 
 // Groups of sheathing materials by their number in Plattenmaterialien. Only a file can hold a number
 // outside 1 to 13; each family says where such a number falls. Gypsum fibre board (7) has a family of its
@@ -52,6 +41,9 @@ Zahl lochleibung(const Wand& w, Seite n, Lochleibung formel);
 bool hatFormel(const Wand& w, Seite n, Lochleibung formel);
 // fhkPlatte by the formula; unchanged where there is none.
 void setzeLochleibung(Wand& w, Seite n, Lochleibung formel);
+// The groups of screws and special nails in the exact method: wood-based board, gypsum board, own material;
+// unchanged for any other.
+void setzeLochleibungNachGruppe(Wand& w, Seite n);
 // fhkPlatte of the own material: column 7 of its row chooses the formula, any other value than 1 to 4
 // takes the fixed value of column 20. Unchanged when the row is missing.
 void setzeLochleibungEigen(Wand& w, Seite n);

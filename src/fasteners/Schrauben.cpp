@@ -50,21 +50,6 @@ void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
     w.Myk[n] = vorhanden ? fliessmoment(fliessmomentSchraube, w.fuk[n], w.d[n]) : Zahl(0);
 }
 
-void setzeGruppen(Wand& w, Seite n) {
-    const Zahl d = w.d[n];
-    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
-        setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 4 * d});
-    } else if (n == Seite::zwei) {
-        // Side difference: all the rest takes the fibre-board value, predrilled too, and the required
-        // thickness goes by d1, the diameter of side 1. Meant.
-        w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
-        setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
-    } else if (istGipskarton(w, n)) {
-        setzeGruppe(w, n, Lochleibung::gipskarton, {0, 10 * d, 4 * d});
-    }
-    if (istEigenesMaterial(w, n)) setzeEigenesMaterial(w, n, 0.8);
-}
-
 // lef, f1k, f2k and Rxk. Both methods take the density of the ribs.
 void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     setzeEinbindelaenge(w, n);
@@ -89,9 +74,24 @@ constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen};
 
 }  // namespace
 
+void setzeGruppenDerSchrauben(Wand& w, Seite n) {
+    const Zahl d = w.d[n];
+    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
+        setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 4 * d});
+    } else if (n == Seite::zwei) {
+        // Side difference: all the rest takes the fibre-board value, predrilled too, and the required
+        // thickness goes by d1, the diameter of side 1. Meant.
+        w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
+        setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
+    } else if (istGipskarton(w, n)) {
+        setzeGruppe(w, n, Lochleibung::gipskarton, {0, 10 * d, 4 * d});
+    }
+}
+
 void schraubenVereinfacht(Wand& w, Seite n) {
     setzeFliessmoment(w, n, Verfahren::vereinfacht);
-    setzeGruppen(w, n);
+    setzeGruppenDerSchrauben(w, n);
+    if (istEigenesMaterial(w, n)) setzeEigenesMaterial(w, n, 0.8);
     setzeRk(w, n);
     setzeZuwachsVereinfacht(w, n, einhaengeregel);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + w.deltaRk[n]);
@@ -100,12 +100,7 @@ void schraubenVereinfacht(Wand& w, Seite n) {
 void schraubenGenau(Wand& w, Seite n) {
     setzeFliessmoment(w, n, Verfahren::genau);
     versenke(w, n);
-    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
-        setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
-    } else if (istGipskarton(w, n)) {
-        setzeLochleibung(w, n, Lochleibung::gipskarton);
-    }
-    if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
+    setzeLochleibungNachGruppe(w, n);
     setzeVersagensarten(w, n, Schaefte::einer);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
     setzeZuwachsGenau(w, n, einhaengeregel);

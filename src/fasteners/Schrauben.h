@@ -9,4 +9,7 @@ namespace rippenscheibe {
 void schraubenVereinfacht(Wand& w, Seite n);  // DIN 1052 (2008), 12.2 to 12.8
 void schraubenGenau(Wand& w, Seite n);        // annex G.2.2
 
+// The material groups of the simplified method that all screws share; the own material counts as wood-based.
+void setzeGruppenDerSchrauben(Wand& w, Seite n);
+
 }  // namespace rippenscheibe

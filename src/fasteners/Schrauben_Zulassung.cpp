@@ -3,6 +3,7 @@
 #include <array>
 
 #include "fasteners/Einhaengeeffekt.h"
+#include "fasteners/Schrauben.h"
 
 namespace rippenscheibe {
 
@@ -63,20 +64,6 @@ void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
     w.Myk[n] = vorhanden ? fliessmoment(fliessmomentSchraube, w.fuk[n], w.d[n]) : Zahl(0);
 }
 
-void setzeGruppen(Wand& w, Seite n) {
-    const Zahl d = w.d[n];
-    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
-        setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 4 * d});
-    } else if (n == Seite::zwei) {
-        // Side difference: all the rest takes the fibre-board value, predrilled too, and the required
-        // thickness goes by d1, the diameter of side 1. Meant.
-        w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
-        setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
-    } else if (istGipskarton(w, n)) {
-        setzeGruppe(w, n, Lochleibung::gipskarton, {0, 10 * d, 4 * d});
-    }
-}
-
 bool istGipskartonGenau(const Wand& w, Seite n) {
     // Side difference: side 1 takes its upper bound from the material of side 2. Meant.
     if (n == Seite::eins) return w.Material[Seite::eins] >= 3 && w.Material[Seite::zwei] <= 6;
@@ -129,7 +116,7 @@ constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen, laesstRxdSte
 
 void schraubenZulassungVereinfacht(Wand& w, Seite n) {
     setzeFliessmoment(w, n, Verfahren::vereinfacht);
-    setzeGruppen(w, n);
+    setzeGruppenDerSchrauben(w, n);
     setzeRk(w, n);
     setzeZuwachsVereinfacht(w, n, einhaengeregel);
     const auto& regeln = n == Seite::eins ? ausschluesse : ausschluesseSeite2Vereinfacht;

@@ -83,12 +83,7 @@ void sondernaegelGenau(Wand& w, Seite n) {
     setzeFliessmoment(w, n);
     versenke(w, n);
     // Both sides alike: here side 2 knows gypsum board too.
-    if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
-        setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
-    } else if (istGipskarton(w, n)) {
-        setzeLochleibung(w, n, Lochleibung::gipskarton);
-    }
-    if (istEigenesMaterial(w, n)) setzeLochleibungEigen(w, n);
+    setzeLochleibungNachGruppe(w, n);
     setzeVersagensarten(w, n, Schaefte::einer);
     w.Rd[n] = ausgeschlossen(w, n, ausschluesse) ? Zahl(0) : kleinsteVersagensart(w, n);
     setzeZuwachsGenau(w, n, einhaengeregel);

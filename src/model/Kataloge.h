@@ -8,6 +8,18 @@
 
 namespace rippenscheibe {
 
+// Fastener kinds by their number in VMArten.
+enum class Art {
+    naegel = 1,
+    sondernaegel = 2,
+    klammern = 3,
+    schrauben = 4,
+    schraubenMitZulassung = 5,
+    schnellbauschrauben = 6,
+    naegelDin18182 = 7,
+    klammernDin18182 = 8,
+};
+
 // One row of the nail table: name, diameter, length and head diameter in mm.
 struct Nageltyp {
     std::string_view name;

@@ -27,6 +27,9 @@ inline Zahl Plattendicke(const Wand& w, Seite n) {
     return n == Seite::eins ? Zahl(w.Plattendicke1) : Zahl(w.Plattendicke2);
 }
 
+// Whether the fastener of side n is a staple (kinds 3 and 8).
+inline bool istKlammer(const Wand& w, Seite n) { return w.VMArt[n] == 3 || w.VMArt[n] == 8; }
+
 // Sets the defaults of program start and of a new file: one routine serves both. Projekt, the
 // own-material table and every result keep their values.
 void setzeVorgaben(Wand& w);

@@ -208,10 +208,6 @@ void belastung(Berichtsbau& b, const Wand& w) {
     b.neu(AnkerPlus{70});  // the height of the picture is always kept free
 }
 
-bool istKlammer(const Wand& w, Seite n) {
-    return w.VMArt[n].value() == klammern || w.VMArt[n].value() == klammernDIN18182;
-}
-
 void klammerwinkel(Berichtsbau& b, const Wand& w) {
     // Both sides are asked, on a wall sheathed on one side too; that is meant.
     if (!istKlammer(w, Seite::eins) && !istKlammer(w, Seite::zwei)) return;
