@@ -4,8 +4,6 @@
 #include <array>
 #include <span>
 
-#include "design/Beanspruchbarkeiten.h"
-#include "design/Nachweise.h"
 #include "fasteners/DIN18182.h"
 #include "fasteners/Fermacell.h"
 #include "fasteners/Grundlagen.h"
@@ -74,8 +72,6 @@ void wendeGipsfaserregelAn(Wand& w) {
     }
 }
 
-bool traegt(const Wand& w, Seite n) { return w.av[n] != 0 && w.Rd[n] != 0; }
-
 }  // namespace
 
 void verteiler(Wand& w, Seite n) {
@@ -83,13 +79,6 @@ void verteiler(Wand& w, Seite n) {
     wendeGipsfaserregelAn(w);
     if (w.Rd[n] < RdKleinstes) w.Rd[n] = 0;
     if (w.Erhoehung20) w.Rd[n] = erhoehung * w.Rd[n];
-
-    // On a two-sided panel the pass of side 1 sees Rd2 of the run before. Meant.
-    if (traegt(w, Seite::eins) && (w.Einseitig || traegt(w, Seite::zwei))) {
-        beanspruchbarkeitParallel(w);
-        beanspruchbarkeitSenkrecht(w);
-        nachweise(w);
-    }
 }
 
 }  // namespace rippenscheibe

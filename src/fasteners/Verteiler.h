@@ -5,8 +5,7 @@
 namespace rippenscheibe {
 
 // Capacity Rd (N) of one fastener of side n by design method, sheathing material and fastener kind,
-// then the rules that hold for all fasteners, then a pass of resistances and proofs when both sides
-// in use have capacity and spacing.
+// then the rules that hold for all fasteners.
 void verteiler(Wand& w, Seite n);
 
 }  // namespace rippenscheibe

@@ -12,6 +12,19 @@
 
 namespace rippenscheibe {
 
+namespace {
+
+bool traegt(const Wand& w, Seite n) { return w.av[n] != 0 && w.Rd[n] != 0; }
+
+}  // namespace
+
+void zwischendurchgang(Wand& w) {
+    if (!traegt(w, Seite::eins) || !(w.Einseitig || traegt(w, Seite::zwei))) return;
+    beanspruchbarkeitParallel(w);
+    beanspruchbarkeitSenkrecht(w);
+    nachweise(w);
+}
+
 void berechnungslauf(Wand& w) {
     for (const Seite n : beideSeiten) {
         w.tvorh[n] = 1;
@@ -24,8 +37,10 @@ void berechnungslauf(Wand& w) {
     if (!w.Einseitig) beplankungswerte(w, Seite::zwei);
     // Side 2 is dispatched on a one-sided panel too: no result uses its capacity, but it adds a pass of
     // resistances and proofs, and the exact distribution of vertical loads compounds from pass to pass.
-    verteiler(w, Seite::eins);
-    verteiler(w, Seite::zwei);
+    for (const Seite n : beideSeiten) {
+        verteiler(w, n);
+        zwischendurchgang(w);
+    }
     beanspruchbarkeitParallel(w);
     beanspruchbarkeitSenkrecht(w);
     beanspruchungen(w);

@@ -32,15 +32,13 @@ inline void setze(Wand& w, Seite n, const Mittel& m) {
     if (n == Seite::zwei) w.Plattendicke2 = m.t;
 }
 
-// A wall with this fastener on both sides in timber C24 and kmod = 0.9. Its spacing is 0, so that no proof
-// runs after the capacity. The own materials differ in column 7 alone: row 1 has 1, and so on to row 5.
+// A wall with this fastener on both sides in timber C24 and kmod = 0.9. The own materials differ in column 7 alone: row 1 has 1, and so on to row 5.
 inline Wand wand(const Mittel& m, Verfahren verfahren) {
     Wand w;
     w.rhok = 350;
     w.GenauesVerfahren = verfahren == Verfahren::vereinfacht ? 1 : 2;
     for (const Seite n : beideSeiten) {
         setze(w, n, m);
-        w.av[n] = 0;
         w.kmodVM[n] = 0.9;
         w.rhokBeplankung[n] = 600;
         w.EigenesMaterial[n] = 5;

@@ -72,31 +72,6 @@ TEST(Verteiler, AnyMethodBut1IsTheExactOne) {
     }
 }
 
-TEST(Verteiler, ResistancesFollowWhenAllSidesInUseCarry) {
-    struct Fall {
-        bool einseitig;
-        double av1;
-        double av2;
-        double Rd2;
-        bool laeuft;
-    };
-    for (const auto& fall : {Fall{true, 60, 0, 0, true},
-                             {true, 0, 60, 50, false},
-                             {false, 60, 60, 50, true},
-                             {false, 60, 60, 0, false},
-                             {false, 60, 0, 50, false},
-                             {false, 0, 60, 50, false}}) {
-        Wand w = wand({Art::naegel, 1, 15}, einfach);
-        w.Einseitig = fall.einseitig;
-        w.av[s1] = fall.av1;
-        w.av[s2] = fall.av2;
-        w.Rd[s2] = fall.Rd2;  // side 2 of the run before
-        w.fv0d = -1;
-        verteiler(w, s1);
-        EXPECT_EQ(w.fv0d.value() != -1, fall.laeuft);
-    }
-}
-
 TEST(Verteiler, CountersinkingTakesTheSheathingOrRaisesWhatItNeeds) {
     for (const Seite n : beideSeiten) {
         Wand exakt = wand({Art::klammern, 1, 15, 1.8, 50, 800}, genau);

@@ -30,6 +30,32 @@ void druckeStart(Wand& w) {
     ASSERT_EQ(starte(w), Laufergebnis::gerechnet);
 }
 
+TEST(Zwischendurchgang, RunsWhenAllSidesInUseCarry) {
+    struct Fall {
+        bool einseitig;
+        double av1;
+        double av2;
+        double Rd2;
+        bool laeuft;
+    };
+    for (const auto& fall : {Fall{true, 60, 0, 0, true},
+                             {true, 0, 60, 50, false},
+                             {false, 60, 60, 50, true},
+                             {false, 60, 60, 0, false},
+                             {false, 60, 0, 50, false},
+                             {false, 0, 60, 50, false}}) {
+        Wand w = wand();
+        w.Einseitig = fall.einseitig;
+        w.av[S1] = fall.av1;
+        w.av[S2] = fall.av2;
+        w.Rd[S1] = 300;
+        w.Rd[S2] = fall.Rd2;
+        w.fv0d = -1;
+        zwischendurchgang(w);
+        EXPECT_EQ(w.fv0d.value() != -1, fall.laeuft);
+    }
+}
+
 TEST(Zuweisen, TakesTheFieldsThroughMetresAndFormsTheDesignLoads) {
     Wand w;
     w.gk = 2;
