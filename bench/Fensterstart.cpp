@@ -9,9 +9,9 @@
 #include <memory>
 #include <vector>
 
-#include "ui/Form1_Hauptfenster.h"
-#include "ui/Meldungen.h"
-#include "ui/Programm.h"
+#include "ui/basics/Meldungen.h"
+#include "ui/basics/Programm.h"
+#include "ui/main/Form1_Hauptfenster.h"
 
 // How long the main window takes from nothing to its first paint, against an empty window with 40 fields.
 // bench/fensterstart runs it under Xvfb.

@@ -6,12 +6,12 @@
 #include <string>
 #include <utility>
 
-#include "basis/Anweisungen.h"
-#include "basis/Dateischreiber.h"
-#include "basis/Zeichensatz.h"
 #include "cli/Feldwerte.h"
-#include "model/EigeneMaterialienDatei.h"
-#include "model/Positionsdatei.h"
+#include "files/Anweisungen.h"
+#include "files/Dateischreiber.h"
+#include "files/EigeneMaterialienDatei.h"
+#include "files/Positionsdatei.h"
+#include "files/Zeichensatz.h"
 #include "plausibility/Plausibilitaetslauf.h"
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"

@@ -8,7 +8,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "basis/Anweisungen.h"
+#include "files/Anweisungen.h"
 
 namespace rippenscheibe {
 

@@ -4,9 +4,9 @@
 #include <variant>
 #include <vector>
 
-#include "basis/Programmordner.h"
 #include "cli/Befehle.h"
 #include "cli/Kommandozeile.h"
+#include "files/Programmordner.h"
 
 namespace {
 

@@ -47,4 +47,10 @@ class EigeneMaterialien {
     }
 };
 
+// Whether another material fits into the table.
+bool nimmtWeitereAuf(const EigeneMaterialien& tabelle);
+// Takes row `zeile` (from 0) out; the rows behind it move up one place, so that positions that stored their
+// numbers then point at other materials. False, and nothing done, for the last material left.
+bool loesche(EigeneMaterialien& tabelle, std::size_t zeile);
+
 }  // namespace rippenscheibe

@@ -1,18 +1,13 @@
 #pragma once
 
-#include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "basis/Anweisungen.h"
-#include "basis/Dateischreiber.h"
+#include "basis/Freiwert.h"
+#include "basis/Zahl.h"
 
 namespace rippenscheibe {
 
-inline constexpr std::string_view einstellungsdatei = "Hset.dat";
-inline constexpr std::string_view logodatei = "Logo.jpg";
 inline constexpr std::string_view vorgabepfad = "C:\\Eigene Dateien\\";
 // The fixed text lines of page head 0; the second is the maker's line.
 inline constexpr std::string_view kopfzeile1Vorlage0 = "Statik - Programme für das Bauwesen";
@@ -43,15 +38,5 @@ struct Einstellungen {
     bool BlattStattSeite = false;
     Ganzzahl Suffix;
 };
-
-// Takes the four statements of a settings file (UTF-8) into the settings: fields that are missing or do not
-// parse keep their values, but BlattStattSeite and Suffix, which older files lack, become 0.
-std::vector<Uebersprungen> liesEinstellungstext(std::string_view text, Einstellungen& e);
-std::string einstellungstext(const Einstellungen& e);
-
-// The same from and to a file. A missing file leaves the settings as they are (those two aside).
-void liesEinstellungen(const std::filesystem::path& datei, Einstellungen& e);
-[[nodiscard]] std::optional<Dateifehler> schreibeEinstellungen(const std::filesystem::path& datei,
-                                                               const Einstellungen& e);
 
 }  // namespace rippenscheibe

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "basis/Dateischreiber.h"
-#include "basis/Zeichensatz.h"
 #include "cli/Befehle.h"
-#include "model/Positionsdatei.h"
+#include "files/Dateischreiber.h"
+#include "files/Positionsdatei.h"
+#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <set>
 
-#include "model/EigeneMaterialienDatei.h"
-#include "model/Positionsdatei.h"
+#include "files/EigeneMaterialienDatei.h"
+#include "files/Positionsdatei.h"
 #include "report/Bericht.h"
 #include "report/Rtfausgabe.h"
 #include "report/Seiten.h"

@@ -5,23 +5,25 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "model/EigeneMaterialienDatei.h"
+#include "files/EigeneMaterialienDatei.h"
 #include "model/VMKatalog.h"
 #include "support/GeskripteteMeldungen.h"
-#include "ui/Form0_Startbild.h"
-#include "ui/Form10_Randbedingungen.h"
-#include "ui/Form13_Systemkonfiguration.h"
-#include "ui/Form15_Projektdaten.h"
-#include "ui/Form16_VMKatalog.h"
-#include "ui/Form222_Bemerkungen.h"
-#include "ui/Form3_Taschenrechner.h"
-#include "ui/Form5_Verbindungsmittel.h"
-#include "ui/Form800_Textvorlagen.h"
-#include "ui/Form99_EigeneMaterialien.h"
-#include "ui/Handbuch.h"
-#include "ui/Pfadwahl.h"
-#include "ui/Programm.h"
-#include "ui/Werteingabe.h"
+#include "ui/basics/Materialtabelle.h"
+#include "ui/basics/Pfadwahl.h"
+#include "ui/basics/Programm.h"
+#include "ui/basics/Werteingabe.h"
+#include "ui/help/Form10_Randbedingungen.h"
+#include "ui/help/Form13_Systemkonfiguration.h"
+#include "ui/help/Form3_Taschenrechner.h"
+#include "ui/help/Handbuch.h"
+#include "ui/input/Form16_VMKatalog.h"
+#include "ui/input/Form5_Verbindungsmittel.h"
+#include "ui/main/Fensterfabrik.h"
+#include "ui/main/Form0_Startbild.h"
+#include "ui/project/Form15_Projektdaten.h"
+#include "ui/project/Form222_Bemerkungen.h"
+#include "ui/project/Form800_Textvorlagen.h"
+#include "ui/project/Form99_EigeneMaterialien.h"
 
 namespace rippenscheibe {
 namespace {
@@ -36,6 +38,7 @@ class Kleinfenster : public testing::Test {
             EXPECT_FALSE(programm->sichereProjekte());
         }
         programm = std::make_unique<Programm>(pfad(ordner.path()));
+        programm->fenster = std::make_unique<Fensterfabrik>();
         programm->ladeEinstellungen();
         programm->w.eigeneMaterialien = liesEigeneMaterialien(programm->datei(materialdatei));
     }

@@ -1,7 +1,7 @@
 #include "support/Gerechnet.h"
-#include "ui/Fensteroeffner.h"
-#include "ui/Form1_Hauptfenster.h"
-#include "ui/Form5_Verbindungsmittel.h"
+#include "ui/basics/Fensteroeffner.h"
+#include "ui/input/Form5_Verbindungsmittel.h"
+#include "ui/main/Form1_Hauptfenster.h"
 
 namespace rippenscheibe {
 namespace {

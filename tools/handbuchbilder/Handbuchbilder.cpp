@@ -12,11 +12,11 @@
 #include <functional>
 #include <vector>
 
-#include "ui/Form0_Startbild.h"
-#include "ui/Form1_Hauptfenster.h"
-#include "ui/Meldungen.h"
-#include "ui/Pfadwahl.h"
-#include "ui/Programm.h"
+#include "ui/basics/Meldungen.h"
+#include "ui/basics/Pfadwahl.h"
+#include "ui/basics/Programm.h"
+#include "ui/main/Form0_Startbild.h"
+#include "ui/main/Form1_Hauptfenster.h"
 
 // Takes the pictures of the handbook: opens the windows of the program over an example position by their own
 // buttons and menu entries and saves each as form<n>.png.

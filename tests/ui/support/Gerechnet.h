@@ -4,13 +4,14 @@
 
 #include <QTemporaryDir>
 
-#include "basis/Dateischreiber.h"
-#include "model/Positionsdatei.h"
+#include "files/Dateischreiber.h"
+#include "files/Positionsdatei.h"
 #include "run/Berechnungslauf.h"
 #include "support/Bedienung.h"
 #include "support/GeskripteteMeldungen.h"
-#include "ui/Programm.h"
-#include "ui/Sicherungskopie.h"
+#include "ui/basics/Programm.h"
+#include "ui/main/Fensterfabrik.h"
+#include "ui/main/Sicherungskopie.h"
 
 namespace rippenscheibe {
 
@@ -21,7 +22,10 @@ inline std::filesystem::path beispiel(const std::string& name) {
 // A program with a folder of its own.
 class Programmprobe : public testing::Test {
   protected:
-    Programmprobe() { programm.zuweisen(); }
+    Programmprobe() {
+        programm.fenster = std::make_unique<Fensterfabrik>();
+        programm.zuweisen();
+    }
 
     QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
     QByteArray inhalt(const QString& name) const {

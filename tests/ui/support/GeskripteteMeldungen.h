@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "ui/Meldungen.h"
+#include "ui/basics/Meldungen.h"
 
 namespace rippenscheibe {
 

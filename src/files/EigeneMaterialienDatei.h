@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "files/Dateischreiber.h"
+#include "model/EigeneMaterialien.h"
+
+namespace rippenscheibe {
+
+inline constexpr std::string_view materialdatei = "Plattenwerte.dat";
+
+// The own-material table in a file text (UTF-8): the count, then 30 statements a row. A count that is
+// missing or below 1 leaves no rows; a cell that is missing or does not parse is empty.
+EigeneMaterialien eigeneMaterialienAus(std::string_view text);
+// A table without rows is written with the count 1 and one empty row.
+std::string eigeneMaterialienText(const EigeneMaterialien& tabelle);
+
+EigeneMaterialien liesEigeneMaterialien(const std::filesystem::path& datei);
+[[nodiscard]] std::optional<Dateifehler> schreibeEigeneMaterialien(const std::filesystem::path& datei,
+                                                                   const EigeneMaterialien& tabelle);
+
+}  // namespace rippenscheibe

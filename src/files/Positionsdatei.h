@@ -1,0 +1,44 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "files/Anweisungen.h"
+#include "files/Dateischreiber.h"
+#include "model/Wand.h"
+
+// The position file: one position in a fixed sequence of text statements, all inputs and nothing computed.
+// It has no version number; a shorter file of an older layout loads as far as it goes.
+
+namespace rippenscheibe {
+
+// Message when a file of another kind is to be opened, and the title of its box.
+inline constexpr std::string_view falscheEndung = "Datei passt nicht zum Programm!";
+
+// Whether a file name ends in the three characters "rsw"; capitals do not count.
+bool istPositionsdatei(std::string_view dateiname);
+// The name to save under: without that ending ".rsw" is appended.
+std::string mitEndung(std::string dateiname);
+
+// Takes the statements of a file (UTF-8) into the record. The remarks are emptied first; every other field
+// that is missing or does not parse keeps its value. EigenesMaterial 0 and AnzahlAnker 0, which older files
+// lack, become 1. Returns the fields that kept their values, in the order of the file.
+// Derived values are not refreshed: `zuweisen` has to follow.
+std::vector<Uebersprungen> liesPositionstext(std::string_view text, Wand& w);
+
+// The statements of a position, UTF-8.
+std::string positionstext(const Wand& w);
+
+struct Positionslesung {
+    std::optional<Dateifehler> fehler;  // the file is missing or unreadable: the record holds no remarks now
+    std::vector<Uebersprungen> uebersprungen;
+};
+
+// The same from and to a file. A missing file reads like an empty one. Saving needs `zuweisen` before.
+Positionslesung liesPosition(const std::filesystem::path& datei, Wand& w);
+[[nodiscard]] std::optional<Dateifehler> schreibePosition(const std::filesystem::path& datei, const Wand& w);
+
+}  // namespace rippenscheibe

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "files/Einstellungsdatei.h"
+#include "files/Projektliste.h"
+#include "model/Wand.h"
+#include "run/Zuweisen.h"
+
+class QPrinter;
+
+namespace rippenscheibe {
+
+class Fensteroeffner;
+
+// The file action that waits for the answer to "Soll die geöffnete Datei gesichert werden ?".
+enum class Dateiaktion { keine, neu, oeffnen, sichern, beenden, sichernUnter };
+
+// What the windows of one running program share: the position, the three fields of the main window and
+// the state of its file. Made once in `main` and handed on by reference.
+class Programm : public QObject {
+    Q_OBJECT
+
+  public:
+    // `ordner` is the program's folder: all small files live there.
+    explicit Programm(std::filesystem::path ordner, QObject* parent = nullptr);
+    ~Programm() override;
+
+    Wand w;
+    Grundmasse felder;
+
+    std::filesystem::path ordner;
+    Einstellungen einstellungen;
+    Projektliste projekte;
+
+    std::string Positionspfad;                // folder of the position file, from the project data
+    std::string Dateiname;                    // full path of the open position file, "" for a new one
+    bool Sperre = false;                      // no Zuweisen on a change of the three fields
+    bool SpeichernUnter = false;              // leaving the project dialog saves the position
+    Dateiaktion Aktion = Dateiaktion::keine;  // the pending file action
+    bool SeitenzahlDrucken = true;            // of the last print job
+    QString DialogDateiname;                  // the file name that the file dialog holds
+    QString DialogOrdner;                     // its initial folder
+    std::unique_ptr<Fensteroeffner> fenster;  // makes the windows that others ask for; set by the main window
+
+    // Reads settings and project list from the program's folder; what is missing keeps its default. The
+    // project of the list becomes the project of the position.
+    void ladeEinstellungen();
+    // Writes the project list, with what another running program added to it meanwhile.
+    [[nodiscard]] std::optional<Dateifehler> sichereProjekte();
+
+    // The printer that the printer setup and the print window share; made on first use.
+    QPrinter& drucker();
+
+    bool Gesichert() const { return gesichert_; }  // nothing changed since the last save
+    void setzeGesichert(bool gesichert);
+
+    const QString& Titel() const { return titel_; }  // caption of the main window without its mark
+    void setzeTitel(const QString& titel);
+
+    // Takes the three fields into the record, refreshes derived values and design loads, and tells the
+    // windows. Dialogs call it on accept, after they have written their fields.
+    void zuweisen();
+    // A file of the program's folder.
+    std::filesystem::path datei(std::string_view name) const { return ordner / name; }
+
+  Q_SIGNALS:
+    void geaendert();                         // the record changed
+    void zustandGeaendert();                  // Gesichert, Dateiname or the caption changed
+    void dateiBenutzt(const QString& datei);  // a dialog saved the position under this name
+
+  private:
+    bool gesichert_ = true;
+    QString titel_;
+    Projektliste projekteGelesen_;  // as they were in the file
+    std::unique_ptr<QPrinter> drucker_;
+};
+
+// Makes the icons and files delivered inside the program available; may be called more than once.
+void verbindeRessourcen();
+
+// All text inside the program is UTF-8.
+inline QString qtext(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline std::string utf8(const QString& text) { return text.toStdString(); }
+std::filesystem::path pfad(const QString& text);
+
+// The decimal mark of the user's locale, ',' or '.'.
+char dezimalzeichen();
+
+}  // namespace rippenscheibe

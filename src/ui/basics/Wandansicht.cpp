@@ -1,0 +1,1 @@
+#include "ui/basics/Wandansicht.h"

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ui/drawings/Wandgeometrie.h"
+#include "ui/drawings/Zeichner.h"
+
+// The single drawings. They draw into the whole area of the Zeichner.
+
+namespace rippenscheibe {
+
+enum class Ankergruppe { HD, HTT, HD2P, HD2PSG, frei };
+// Ankertyp 1 to 5, 6 and 7, 8 to 10, 11 and 12, 13.
+Ankergruppe ankergruppe(int ankertyp);
+
+// Sketches of two parts put them one above the other in a tall area, else side by side.
+inline bool istHochformat(const QRectF& r) { return r.height() > 0.75 * r.width(); }
+
+void zeichneAnsicht(Zeichner& z, const Wand& w);
+void zeichneRippen(Zeichner& z, const Wand& w);
+void zeichneBeplankung(Zeichner& z, const Wand& w);
+void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n);
+void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe);
+// Lastfall 1, 2 or 3; the labels carry the values of the record.
+void zeichneLast(Zeichner& z, const Wand& w, int lastfall, bool windQuer);
+void zeichneSchubfluss(Zeichner& z, const Wand& w);
+void zeichneStoesse(Zeichner& z);
+void zeichneOeffnungen(Zeichner& z);
+void zeichneGruppen(Zeichner& z);
+void zeichneUeberstand(Zeichner& z, const Wand& w);
+void zeichneRollbild(Zeichner& z, const Wand& w);
+void zeichneStartbild(Zeichner& z, const Wand& w);
+
+// Horizontal section through the left edge rib and an inner rib, side 1 below, inside `r`; with the wind
+// across when there is some. Used by several drawings. Gives the outline of the section.
+enum class Schnittbeschriftung { keine, masse };
+QRectF zeichneSchnitt(Zeichner& z, const QRectF& r, const Wand& w, Schnittbeschriftung beschriftung);
+
+// The kinds of fasteners that look or are dimensioned otherwise than a nail; numbers of the catalogue.
+enum VMArtNummer : int {
+    sondernagel = 2,
+    klammer = 3,
+    schraubeDIN7997 = 4,
+    schraubeZulassung = 5,
+    schnellbauschraube = 6,
+    klammer18182 = 8,
+};
+inline bool istKlammer(int art) { return art == klammer || art == klammer18182; }
+inline bool istSchraube(int art) { return art >= schraubeDIN7997 && art <= schnellbauschraube; }
+// A staple has a back in place of a head; its length as drawn, mm.
+inline constexpr double klammerruecken = 10.0;
+
+// One fastener seen from the side, its head at `kopf`, pointing along `richtung` (unit vector); all sizes
+// in mm of the drawing.
+struct VMmasse {
+    double d;
+    double ln;
+    double dk;
+    double lg;
+};
+void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, int art, const VMmasse& masse);
+
+}  // namespace rippenscheibe

@@ -1,0 +1,109 @@
+#include "ui/input/Form14_Eigengewicht.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "basis/Zahlenformat.h"
+#include "materials/Querschnittswerte.h"
+#include "ui/basics/Programm.h"
+#include "ui/basics/Werteingabe.h"
+
+namespace rippenscheibe {
+
+Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
+    : Fenster(programm, meldungen, parent, QStringLiteral("Form14"),
+              QStringLiteral("  Eigengewicht ermitteln")) {
+    daemmung_ = new QButtonGroup(this);
+    const auto option = [this](int index, const QString& text) {
+        auto* feld = new QRadioButton(text, this);
+        feld->setObjectName(QStringLiteral("Option1(%1)").arg(index));
+        feld->setAccessibleName(text.simplified());
+        daemmung_->addButton(feld, index);
+        return feld;
+    };
+    auto* ohne = option(1, QStringLiteral(" keine Dämmung vorhanden"));
+    auto* mit = option(0, QStringLiteral(" Dämmung vorhanden >>>"));
+    dicke_ = new Werteingabe(QStringLiteral("Textbox1(0)"),
+                             {.beschriftung = QStringLiteral("Dicke der Dämmung ="),
+                              .einheit = QStringLiteral("cm"),
+                              .min = 0,
+                              .max = 1000,
+                              .maske = QStringLiteral("0.0")},
+                             this);
+    ergebnis_ = new Werteingabe(
+        QStringLiteral("Textbox1(1)"),
+        {.beschriftung = QStringLiteral("g,k,Wand ="), .einheit = QStringLiteral("kN/m")}, this);
+    ergebnis_->setReadOnly(true);
+    ergebnis_->setAccessibleDescription(QStringLiteral("Ergebnis, nur Anzeige"));
+
+    auto* felder = new QGridLayout;
+    felder->setSpacing(raster);
+    felder->addWidget(ohne, 0, 0);
+    felder->addWidget(mit, 1, 0);
+    dicke_->setzeInZeile(felder, 1, 1);
+    ergebnis_->setzeInZeile(felder, 2, 1);
+    inhalt()->addLayout(felder);
+
+    auto* wichten = new QGroupBox(QStringLiteral("Angesetzte Wichten"), this);
+    auto* zeilen = new QVBoxLayout(wichten);
+    zeilen->setSpacing(raster / 2);
+    for (const QString& text :
+         {QStringLiteral("g - Nadelholz = 5,0 kN/m³"), QStringLiteral("g - Spanplatten / OSB = 6,0 kN/m³"),
+          QStringLiteral("g - Gipskarton = 0,09 kN/m² je cm Dicke"),
+          QStringLiteral("g - Faserdämmstoffe = 0,01 kN/m² je cm Dicke")})
+        zeilen->addWidget(new QLabel(text, wichten));
+    inhalt()->addWidget(wichten);
+    wichtenhinweis_ = new QLabel(herkunft(), this);
+    wichtenhinweis_->setObjectName(QStringLiteral("Wichtenhinweis"));
+    wichtenhinweis_->setForegroundRole(QPalette::PlaceholderText);
+    wichtenhinweis_->setWordWrap(true);
+    inhalt()->addWidget(wichtenhinweis_);
+    inhalt()->addStretch(1);
+
+    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
+    ende->setDefault(true);
+    connect(ende, &QPushButton::clicked, this, &QDialog::accept);
+    connect(schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch")), &QPushButton::clicked, this,
+            &QDialog::reject);
+
+    ohne->setChecked(true);
+    dicke_->setzeWert((programm.w.hRandrippe / 10).value());
+    connect(daemmung_, &QButtonGroup::idToggled, this, &Form14::rechne);
+    connect(dicke_, &Werteingabe::geaendert, this, &Form14::rechne);
+    rechne();
+}
+
+double Form14::gkWand() const { return ergebnis_->wert(); }
+
+// The unit weights of the sheathing are results: those of the last calculation, until another one runs.
+QString Form14::herkunft() const {
+    const Wand& w = programm_.w;
+    const auto fehlt = [&](Seite n) { return w.Wichte[n] == 0; };
+    if (fehlt(Seite::eins) || (!w.Einseitig && fehlt(Seite::zwei)))
+        return QStringLiteral(
+            "Die Wichte der Beplankung liegt erst nach einer Berechnung vor; bis dahin ist ihr Gewicht "
+            "hier nicht enthalten.");
+    const auto zahl = [&](Seite n) {
+        return qtext(formatiere("0.0", w.Wichte[n].value(), dezimalzeichen()));
+    };
+    const QString werte =
+        w.Einseitig ? zahl(Seite::eins) : zahl(Seite::eins) + QStringLiteral(" / ") + zahl(Seite::zwei);
+    return QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: %1 kN/m³").arg(werte);
+}
+
+void Form14::rechne() {
+    const bool vorhanden = daemmung_->checkedId() == 0;
+    dicke_->setzeAktiv(vorhanden);
+    Wand w = programm_.w;  // the record itself is changed by nothing but the accept of the load dialog
+    w.DickeDaemmung = dicke_->wert();
+    eigengewicht(w, vorhanden ? Daemmung::vorhanden : Daemmung::keine);
+    const Zahl jeMeter = w.GewichtGesamt / w.Wandlaenge;
+    if (!jeMeter.failed()) ergebnis_->setzeWert(jeMeter.value());
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/basics/Fenster.h"
+
+class QButtonGroup;
+class QLabel;
+
+namespace rippenscheibe {
+
+class Werteingabe;
+
+// "  Eigengewicht ermitteln": the self-weight of the wall in kN/m from the fixed unit weights. It changes no
+// record; an accept hands its result to the load dialog.
+class Form14 : public Fenster {
+    Q_OBJECT
+
+  public:
+    Form14(Programm& programm, Meldungen& meldungen, QWidget* parent);
+
+    double gkWand() const;  // kN/m
+
+  private:
+    void rechne();
+    QString herkunft() const;
+
+    QButtonGroup* daemmung_;  // id 0: present, 1: none
+    Werteingabe* dicke_;
+    Werteingabe* ergebnis_;
+    QLabel* wichtenhinweis_;  // where the unit weights of the sheathing come from
+};
+
+}  // namespace rippenscheibe

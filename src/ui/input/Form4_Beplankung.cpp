@@ -1,0 +1,176 @@
+#include "ui/input/Form4_Beplankung.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "model/Kataloge.h"
+#include "plausibility/Plausibilitaetslauf.h"
+#include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Programm.h"
+#include "ui/basics/Werteingabe.h"
+#include "ui/drawings/Zeichnungsansicht.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr int freiesMaterial = 13;
+
+// The names of a side's controls and the indices of its option buttons. Side 2 counts its service
+// classes down: Option3(3) is NKL 1, Option3(2) is NKL 2.
+struct Steuernamen {
+    const char* material;
+    const char* eigenes;
+    int dicke;
+    int breite;
+    int nichtGestossen;
+    int einmalGestossen;
+    int nkl1;
+    int nkl2;
+};
+// clang-format off
+constexpr Paar<Steuernamen> steuernamen{{{
+    {"MaterialBox",  "Combo1", 0, 1, 0, 1, 0, 1},
+    {"Materialbox2", "Combo2", 2, 3, 2, 3, 3, 2},
+}}};
+// clang-format on
+
+}  // namespace
+
+Form4::Form4(Programm& programm, Meldungen& meldungen, QWidget* parent)
+    : Eingabedialog(programm, meldungen, parent, QStringLiteral("Form4"),
+                    QStringLiteral("  Eingabe der Beplankung")) {
+    beplankt_ = optionen(QStringLiteral("Option1"), {{0, QStringLiteral("einseitig beplankt")},
+                                                     {1, QStringLiteral("zweiseitig beplankt")}});
+    auto* wahl = new QHBoxLayout;
+    wahl->setSpacing(2 * raster);
+    wahl->addWidget(beplankt_->button(0));
+    wahl->addWidget(beplankt_->button(1));
+    wahl->addStretch(1);
+    felder()->addLayout(wahl);
+
+    auto* spalten = new QHBoxLayout;
+    spalten->setSpacing(2 * raster);
+    for (const Seite n : beideSeiten) {
+        seiten_[n] = baueSeite(n);
+        spalten->addWidget(seiten_[n].rahmen, 1);
+    }
+    felder()->addLayout(spalten);
+    QPushButton* datenbank = knopf(QStringLiteral("ComProfile"), QStringLiteral("Datenbank bearbeiten"));
+    felder()->addWidget(datenbank, 0, Qt::AlignLeft);
+    felder()->addStretch(1);
+    fuelleEigeneMaterialien();
+
+    skizziere(new Zeichnungsansicht(Zeichnung::beplankung, this));
+
+    connect(beplankt_->button(0), &QRadioButton::toggled, this,
+            [this](bool einseitig) { seiten_[Seite::zwei].rahmen->setVisible(!einseitig); });
+    connect(datenbank, &QPushButton::clicked, this, [this] {
+        oeffne(Fensterart::eigeneMaterialien, programm_, meldungen_, this);
+        fuelleEigeneMaterialien();
+    });
+    beginne();
+}
+
+Form4::Seitenfelder Form4::baueSeite(Seite n) {
+    const Steuernamen& namen = steuernamen[n];
+    const auto textbox = [](int index) { return QStringLiteral("Textbox1(%1)").arg(index); };
+    Seitenfelder s{};
+    s.rahmen = gruppe(QStringLiteral("Beplankung %1").arg(nummer(n)));
+    s.rahmen->setObjectName(QStringLiteral("Frame%1").arg(nummer(n)));
+    s.material = liste(QLatin1String(namen.material), QStringLiteral("Material"), Plattenmaterialien());
+    s.eigenes = liste(QLatin1String(namen.eigenes), QStringLiteral("eigenes Material"));
+    s.dicke = werteingabe(textbox(namen.dicke), {.beschriftung = QStringLiteral("Plattendicke t ="),
+                                                 .einheit = QStringLiteral("mm"),
+                                                 .min = 6,
+                                                 .max = 200,
+                                                 .maske = QStringLiteral("0.0")});
+    s.breite = werteingabe(textbox(namen.breite), {.beschriftung = QStringLiteral("Plattenbreite lp ="),
+                                                   .einheit = QStringLiteral("m"),
+                                                   .min = 0.2,
+                                                   .max = 20});
+    s.gestossen =
+        optionen(QStringLiteral("Option2"),
+                 {{namen.nichtGestossen, QStringLiteral("Beplankung ist horizontal nicht gestoßen")},
+                  {namen.einmalGestossen, QStringLiteral("Beplankung ist horizontal einmal gestoßen")}});
+    s.nkl = optionen(QStringLiteral("Option3"),
+                     {{namen.nkl1, QStringLiteral("NKL 1")}, {namen.nkl2, QStringLiteral("NKL 2")}});
+
+    QGridLayout* felder = grid(s.rahmen);
+    felder->addWidget(beschriftung(QStringLiteral("Material:"), s.material), 0, 0);
+    felder->addWidget(s.material, 0, 1, 1, 2);
+    felder->addWidget(beschriftung(QStringLiteral("eigenes Material:"), s.eigenes), 1, 0);
+    felder->addWidget(s.eigenes, 1, 1, 1, 2);
+    s.dicke->setzeInZeile(felder, 2);
+    s.breite->setzeInZeile(felder, 3);
+    felder->addWidget(s.gestossen->button(namen.nichtGestossen), 4, 0, 1, 3);
+    felder->addWidget(s.gestossen->button(namen.einmalGestossen), 5, 0, 1, 3);
+    auto* klassen = new QHBoxLayout;
+    klassen->setSpacing(2 * raster);
+    klassen->addWidget(s.nkl->button(namen.nkl1));
+    klassen->addWidget(s.nkl->button(namen.nkl2));
+    klassen->addStretch(1);
+    felder->addLayout(klassen, 6, 0, 1, 3);
+    felder->setRowStretch(7, 1);
+    connect(s.material, &QComboBox::currentIndexChanged, this, [this, n] { zeigeEigene(n); });
+    return s;
+}
+
+// The names of the own materials, the selected rows kept.
+void Form4::fuelleEigeneMaterialien() {
+    for (const Seite n : beideSeiten) {
+        QComboBox* namen = seiten_[n].eigenes;
+        const int gewaehlt = namen->currentIndex();
+        namen->clear();
+        for (const auto& zeile : programm_.w.eigeneMaterialien.zeilen) namen->addItem(qtext(zeile.name));
+        if (gewaehlt >= 0) namen->setCurrentIndex(std::min(gewaehlt, namen->count() - 1));
+    }
+}
+
+void Form4::zeigeEigene(Seite n) {
+    seiten_[n].eigenes->setEnabled(seiten_[n].material->currentIndex() + 1 == freiesMaterial);
+}
+
+void Form4::lade(const Wand& w) {
+    beplankt_->button(w.Einseitig ? 0 : 1)->setChecked(true);
+    for (const Seite n : beideSeiten) {
+        const Steuernamen& namen = steuernamen[n];
+        const Seitenfelder& s = seiten_[n];
+        waehle(s.material, w.Material[n]);
+        waehle(s.eigenes, w.EigenesMaterial[n]);
+        s.dicke->setzeWert(Plattendicke(w, n).value());
+        s.breite->setzeWert((w.Plattenbreite[n] / 1000).value());
+        s.gestossen->button(w.Gestossen[n] ? namen.einmalGestossen : namen.nichtGestossen)->setChecked(true);
+        s.nkl->button(w.NKLBeplankung[n] == 1 ? namen.nkl1 : namen.nkl2)->setChecked(true);
+        zeigeEigene(n);
+    }
+}
+
+void Form4::schreibe(Wand& w) const {
+    w.Einseitig = beplankt_->checkedId() == 0;
+    for (const Seite n : beideSeiten) {
+        const Steuernamen& namen = steuernamen[n];
+        const Seitenfelder& s = seiten_[n];
+        uebernimm(s.material, w.Material[n]);
+        uebernimm(s.eigenes, w.EigenesMaterial[n]);
+        w.Plattenbreite[n] = s.breite->wert() * 1000;
+        w.Gestossen[n] = s.gestossen->checkedId() == namen.einmalGestossen;
+        w.NKLBeplankung[n] = s.nkl->checkedId() == namen.nkl1 ? 1 : 2;
+    }
+    w.Plattendicke1 = seiten_[Seite::eins].dicke->wert();
+    w.Plattendicke2 = seiten_[Seite::zwei].dicke->wert();
+}
+
+std::optional<Eingabedialog::Ablehnung> Form4::ablehnung(const Wand& w) const {
+    const std::optional<std::string> text = beplankungPruefung(w);
+    if (!text) return std::nullopt;
+    return Ablehnung{QStringLiteral(" Fehler"), qtext(*text)};
+}
+
+}  // namespace rippenscheibe

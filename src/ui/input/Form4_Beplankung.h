@@ -1,0 +1,41 @@
+#pragma once
+
+#include "basis/Seite.h"
+#include "ui/basics/Eingabedialog.h"
+
+namespace rippenscheibe {
+
+// "  Eingabe der Beplankung": the sheathing of both sides. The panel width is shown in m, the record holds
+// mm.
+class Form4 : public Eingabedialog {
+    Q_OBJECT
+
+  public:
+    Form4(Programm& programm, Meldungen& meldungen, QWidget* parent);
+
+  protected:
+    void lade(const Wand& w) override;
+    void schreibe(Wand& w) const override;
+    // Looks at side 2 of a one-sided wall too; that is meant.
+    std::optional<Ablehnung> ablehnung(const Wand& w) const override;
+
+  private:
+    struct Seitenfelder {
+        QGroupBox* rahmen;
+        QComboBox* material;
+        QComboBox* eigenes;
+        Werteingabe* dicke;
+        Werteingabe* breite;
+        QButtonGroup* gestossen;  // ids: `nicht` and `einmal` below
+        QButtonGroup* nkl;
+    };
+
+    Seitenfelder baueSeite(Seite n);
+    void fuelleEigeneMaterialien();
+    void zeigeEigene(Seite n);
+
+    QButtonGroup* beplankt_;
+    Paar<Seitenfelder> seiten_;
+};
+
+}  // namespace rippenscheibe

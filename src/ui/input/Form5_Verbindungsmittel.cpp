@@ -1,0 +1,230 @@
+#include "ui/input/Form5_Verbindungsmittel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <array>
+
+#include "model/Kataloge.h"
+#include "plausibility/Plausibilitaetslauf.h"
+#include "ui/basics/Programm.h"
+#include "ui/basics/Werteingabe.h"
+#include "ui/drawings/Zeichnungsansicht.h"
+#include "ui/input/Form16_VMKatalog.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+struct Steuernamen {
+    const char* art;
+    const char* klasse;
+    const char* nagel;
+    int av, fuk, dk, lg, d, ln;
+    const char* vorgebohrt;
+    const char* versenkt;
+    const char* zweireihig;
+    const char* info;
+};
+// clang-format off
+constexpr Paar<Steuernamen> steuernamen{{{
+    {"Combo1", "Combo2", "Combo9",  0, 1, 2, 3, 8,  9,  "Check1", "Check2", "Check5", "ComInfo2"},
+    {"Combo5", "Combo6", "Combo10", 4, 5, 6, 7, 10, 11, "Check3", "Check4", "Check6", "Command2"},
+}}};
+// clang-format on
+
+// What a kind of fastener needs, and the tensile strength (N/mm²) that choosing it sets; 0 leaves it.
+struct Artregel {
+    bool nagelliste;
+    bool klassenliste;
+    bool kopf;
+    bool gewinde;
+    bool vorbohren;  // false: " vorgebohrt" is off and cleared
+    double fuk;
+};
+// clang-format off
+constexpr std::array<Artregel, 8> artregeln{{
+    // nail list, class list, dk, lg, predrilled, fuk
+    {true,  false, true,  false, true,  600},  // Nägel
+    {false, true,  true,  true,  true,  600},  // Sondernägel
+    {false, false, false, false, false, 800},  // Klammern
+    {false, false, true,  true,  true,  600},  // Schrauben DIN 7997
+    {false, true,  true,  true,  true,  0},    // Schrauben mit Zulassung
+    {false, false, false, false, false, 400},  // Schnellbauschrauben DIN 18182-2
+    {false, false, true,  true,  false, 600},  // Nägel DIN 18182-2
+    {false, false, false, false, false, 950},  // Klammern DIN 18182-2
+}};
+// clang-format on
+
+bool gipsplatte(const Wand& w, Seite n) { return w.Material[n] >= 3 && w.Material[n] <= 7; }
+
+}  // namespace
+
+Form5::Form5(Programm& programm, Meldungen& meldungen, QWidget* parent)
+    : Eingabedialog(programm, meldungen, parent, QStringLiteral("Form5"),
+                    QStringLiteral("  Eingabe der Verbindungsmittel")) {
+    auto* spalten = new QHBoxLayout;
+    spalten->setSpacing(2 * raster);
+    for (const Seite n : beideSeiten) {
+        seiten_[n] = baueSeite(n);
+        spalten->addWidget(seiten_[n].rahmen, 1);
+    }
+    felder()->addLayout(spalten);
+    felder()->addStretch(1);
+
+    skizziere(new Zeichnungsansicht(Zeichnung::verbindungsmittel1, this));
+    auto* skizze2 = new Zeichnungsansicht(Zeichnung::verbindungsmittel2, this);
+    skizziere(skizze2);
+    skizze2->setVisible(!programm.w.Einseitig);
+    seiten_[Seite::zwei].rahmen->setVisible(!programm.w.Einseitig);
+    beginne();
+}
+
+Form5::Seitenfelder Form5::baueSeite(Seite n) {
+    const Steuernamen& namen = steuernamen[n];
+    const auto feld = [&](int index, const QString& text, const QString& einheit, double min, double max,
+                          const QString& maske) {
+        return werteingabe(
+            QStringLiteral("Textbox1(%1)").arg(index),
+            {.beschriftung = text, .einheit = einheit, .min = min, .max = max, .maske = maske});
+    };
+    const QString mm = QStringLiteral("mm");
+    const QString ganz = QStringLiteral("0");
+    const QString eine = QStringLiteral("0.0");
+    const QString zwei = QStringLiteral("0.00");
+
+    Seitenfelder s{};
+    s.rahmen = gruppe(QStringLiteral("Verbindungsmittel Beplankung %1 (%2)")
+                          .arg(nummer(n))
+                          .arg(qtext(eintrag(Plattenmaterialien(), programm_.w.Material[n].value()))));
+    s.rahmen->setObjectName(QStringLiteral("Frame%1").arg(nummer(n)));
+    s.art = liste(QLatin1String(namen.art), QStringLiteral("VM"), VMArten());
+    s.klasse = liste(QLatin1String(namen.klasse), QStringLiteral("Tragfähigkeitsklasse"));
+    for (const std::string_view klasse : VMKlassen())
+        s.klasse->addItem(QStringLiteral("Tragfähigkeitsklasse ") + qtext(klasse));
+    s.nagel = liste(QLatin1String(namen.nagel), QStringLiteral("Nagel"));
+    for (const Nageltyp& nagel : VMTypen()) s.nagel->addItem(qtext(nagel.name));
+    s.d = feld(namen.d, QStringLiteral("d ="), mm, 0.5, 100, zwei);
+    s.ln = feld(namen.ln, QStringLiteral("l ="), mm, 10, 300, eine);
+    s.dk = feld(namen.dk, QStringLiteral("d - Kopf ="), mm, 2, 80, eine);
+    s.lg = feld(namen.lg, QStringLiteral("Länge Gewinde/Rillen lg ="), mm, 2, 300, eine);
+    s.fuk = feld(namen.fuk, QStringLiteral("fuk ="), QStringLiteral("N/mm²"), 20, 5000, eine);
+    s.av = feld(namen.av, QStringLiteral("Abstand av ="), mm, 20, 200, ganz);
+    s.vorgebohrt = ankreuzfeld(QLatin1String(namen.vorgebohrt), QStringLiteral(" vorgebohrt"));
+    s.versenkt = ankreuzfeld(QLatin1String(namen.versenkt), QStringLiteral(" versenkt"));
+    s.zweireihig = ankreuzfeld(QLatin1String(namen.zweireihig),
+                               QStringLiteral(" zweireihig, versetzt           angeordnet"));
+    QPushButton* info =
+        knopf(QLatin1String(namen.info), QStringLiteral("Info / Werte zu Verbindungsmitteln"));
+
+    QGridLayout* felder = grid(s.rahmen);
+    felder->addWidget(beschriftung(QStringLiteral("VM:"), s.art), 0, 0);
+    felder->addWidget(s.art, 0, 1, 1, 2);
+    felder->addWidget(s.klasse, 1, 1, 1, 2);
+    felder->addWidget(beschriftung(QStringLiteral("Nagel = "), s.nagel), 2, 0);
+    felder->addWidget(s.nagel, 2, 1, 1, 2);
+    int zeile = 3;
+    for (Werteingabe* wert : {s.d, s.ln, s.dk, s.lg, s.fuk, s.av}) wert->setzeInZeile(felder, zeile++);
+    for (QCheckBox* haken : {s.vorgebohrt, s.versenkt, s.zweireihig})
+        felder->addWidget(haken, zeile++, 0, 1, 3);
+    felder->addWidget(info, zeile, 0, 1, 3, Qt::AlignLeft);
+
+    connect(s.art, &QComboBox::currentIndexChanged, this, [this] { richteNachArt(Anlass::wechsel); });
+    connect(s.nagel, &QComboBox::currentIndexChanged, this, [this] { richteNachArt(Anlass::wechsel); });
+    connect(info, &QPushButton::clicked, this, [this, n] { Form16(programm_, meldungen_, this, n).exec(); });
+    return s;
+}
+
+// One routine serves both sides, so a change on one side also sets the strength and the nail's sizes of the
+// other; that is meant.
+void Form5::richteNachArt(Anlass anlass) {
+    if (laedt() && anlass == Anlass::wechsel) return;
+    for (const Seite n : beideSeiten) richteSeite(n, anlass);
+}
+
+void Form5::richteSeite(Seite n, Anlass anlass) {
+    const Seitenfelder& s = seiten_[n];
+    s.dk->setzeAktiv(true);
+    s.lg->setzeAktiv(true);
+    s.vorgebohrt->setEnabled(true);
+    s.versenkt->setEnabled(true);
+    const int art = s.art->currentIndex();
+    if (art < 0) return;
+
+    const Artregel& regel = artregeln[static_cast<std::size_t>(art)];
+    s.nagel->setEnabled(regel.nagelliste);
+    s.klasse->setEnabled(regel.klassenliste);
+    s.dk->setzeAktiv(regel.kopf);
+    s.lg->setzeAktiv(regel.gewinde);
+    s.vorgebohrt->setEnabled(regel.vorbohren);
+    if (anlass == Anlass::laden) return;
+
+    if (!regel.vorbohren) s.vorgebohrt->setChecked(false);
+    if (regel.fuk > 0) s.fuk->setzeWert(regel.fuk);
+    if (regel.nagelliste) uebernimmNagel(n);
+}
+
+void Form5::uebernimmNagel(Seite n) {
+    const Seitenfelder& s = seiten_[n];
+    if (s.nagel->currentIndex() < 0) return;
+    const Nageltyp& nagel = VMTypen()[static_cast<std::size_t>(s.nagel->currentIndex())];
+    s.d->setzeWert(nagel.d);
+    s.ln->setzeWert(nagel.ln);
+    s.dk->setzeWert(nagel.dk);
+}
+
+void Form5::lade(const Wand& w) {
+    for (const Seite n : beideSeiten) {
+        const Seitenfelder& s = seiten_[n];
+        waehle(s.art, w.VMArt[n]);
+        waehle(s.klasse, w.VMKlasse[n]);
+        waehle(s.nagel, w.VMTyp[n]);
+        s.av->setzeWert(w.av[n].value());
+        s.fuk->setzeWert(w.fuk[n].value());
+        s.dk->setzeWert(w.dk[n].value());
+        s.lg->setzeWert(w.lg[n].value());
+        s.d->setzeWert(w.d[n].value());
+        s.ln->setzeWert(w.ln[n].value());
+        s.vorgebohrt->setChecked(w.Vorgebohrt[n]);
+        s.versenkt->setChecked(w.Versenkt[n]);
+        s.zweireihig->setChecked(w.Zweireihig[n]);
+    }
+    richteNachArt(Anlass::laden);
+    // Gypsum and gypsum-fibre boards are not predrilled. A later change of the kind frees the box again;
+    // that is meant.
+    for (const Seite n : beideSeiten) {
+        if (!gipsplatte(w, n)) continue;
+        seiten_[n].vorgebohrt->setChecked(false);
+        seiten_[n].vorgebohrt->setEnabled(false);
+    }
+}
+
+void Form5::schreibe(Wand& w) const {
+    for (const Seite n : beideSeiten) {
+        const Seitenfelder& s = seiten_[n];
+        uebernimm(s.art, w.VMArt[n]);
+        uebernimm(s.klasse, w.VMKlasse[n]);
+        uebernimm(s.nagel, w.VMTyp[n]);
+        w.av[n] = s.av->wert();
+        w.fuk[n] = s.fuk->wert();
+        w.dk[n] = s.dk->wert();
+        w.lg[n] = s.lg->wert();
+        w.d[n] = s.d->wert();
+        w.ln[n] = s.ln->wert();
+        w.Vorgebohrt[n] = s.vorgebohrt->isChecked();
+        w.Versenkt[n] = s.versenkt->isChecked();
+        w.Zweireihig[n] = s.zweireihig->isChecked();
+    }
+}
+
+std::optional<Eingabedialog::Ablehnung> Form5::ablehnung(const Wand& w) const {
+    const Texte funde = allgemeinePruefung(w);
+    if (funde.empty()) return std::nullopt;
+    return Ablehnung{QStringLiteral("Fehler"), qtext(funde.front())};
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "basis/Seite.h"
+#include "ui/basics/Eingabedialog.h"
+
+namespace rippenscheibe {
+
+// "  Eingabe der Verbindungsmittel": the fasteners of both sides.
+class Form5 : public Eingabedialog {
+    Q_OBJECT
+
+  public:
+    Form5(Programm& programm, Meldungen& meldungen, QWidget* parent);
+
+  protected:
+    void lade(const Wand& w) override;
+    void schreibe(Wand& w) const override;
+    // The first finding of the general fastener check.
+    std::optional<Ablehnung> ablehnung(const Wand& w) const override;
+
+  private:
+    struct Seitenfelder {
+        QGroupBox* rahmen;
+        QComboBox* art;
+        QComboBox* klasse;
+        QComboBox* nagel;
+        Werteingabe* av;
+        Werteingabe* fuk;
+        Werteingabe* dk;
+        Werteingabe* lg;
+        Werteingabe* d;
+        Werteingabe* ln;
+        QCheckBox* vorgebohrt;
+        QCheckBox* versenkt;
+        QCheckBox* zweireihig;
+    };
+    enum class Anlass { laden, wechsel };
+
+    Seitenfelder baueSeite(Seite n);
+    // What applies to the chosen kind of both sides; on a change it also sets what hangs on the kind.
+    void richteNachArt(Anlass anlass);
+    void richteSeite(Seite n, Anlass anlass);
+    // d, l and dk of the chosen row of the nail table.
+    void uebernimmNagel(Seite n);
+
+    Paar<Seitenfelder> seiten_;
+};
+
+}  // namespace rippenscheibe

@@ -1,0 +1,209 @@
+#include "ui/main/Dateiablauf.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <utility>
+
+#include "files/Positionsdatei.h"
+#include "ui/basics/Meldungen.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+const QString dateifilter = QStringLiteral("Datei Rippenscheibe 2.0 (*.rsw);;alle Dateien (*.*)");
+const QString dateiendung = QStringLiteral("rsw");
+
+QString abfragetitel(Dateiaktion aktion) {
+    switch (aktion) {
+        case Dateiaktion::neu:
+            return QStringLiteral("Neue Datei");
+        case Dateiaktion::oeffnen:
+            return QStringLiteral("Datei öffnen");
+        default:
+            return QStringLiteral("Datei Schließen");
+    }
+}
+
+}  // namespace
+
+Dateiablauf::Dateiablauf(Programm& programm, Meldungen& meldungen, QWidget* fenster)
+    : programm_(programm), meldungen_(meldungen), fenster_(fenster) {}
+
+void Dateiablauf::neu() {
+    // Any answer resets the position, a cancel too; that is meant. Only a save that failed keeps it.
+    if (frage(Dateiaktion::neu) != Ausgang::fehlgeschlagen) setzeNeu();
+    programm_.Aktion = Dateiaktion::keine;
+}
+
+void Dateiablauf::oeffnen(const std::optional<QString>& datei) {
+    wunsch_ = datei;
+    frage(Dateiaktion::oeffnen);
+    wunsch_.reset();
+    programm_.Aktion = Dateiaktion::keine;
+}
+
+void Dateiablauf::sichern() {
+    programm_.Aktion = Dateiaktion::sichern;
+    sicherungsschritt();
+    programm_.Aktion = Dateiaktion::keine;
+}
+
+void Dateiablauf::sichernUnter() {
+    const std::string vorher = std::exchange(programm_.Dateiname, std::string());
+    programm_.Aktion = Dateiaktion::sichernUnter;
+    programm_.SpeichernUnter = true;
+    if (projektdaten) projektdaten();
+    programm_.SpeichernUnter = false;
+    programm_.Aktion = Dateiaktion::keine;
+    if (programm_.Dateiname.empty()) programm_.Dateiname = vorher;  // cancelled
+}
+
+bool Dateiablauf::beenden() {
+    const bool zuEnde = frage(Dateiaktion::beenden) == Ausgang::weiter;
+    programm_.Aktion = Dateiaktion::keine;
+    return zuEnde;
+}
+
+Dateiablauf::Ausgang Dateiablauf::frage(Dateiaktion aktion) {
+    programm_.Aktion = aktion;
+    if (programm_.Gesichert()) {
+        if (aktion == Dateiaktion::oeffnen) naechsterSchritt();
+        return Ausgang::weiter;
+    }
+    const Antwort antwort = meldungen_.zeige(
+        fenster_, {Symbol::frage, abfragetitel(aktion),
+                   QStringLiteral("Soll die geöffnete Datei gesichert werden ?"), Knoepfe::jaNeinAbbrechen});
+    if (antwort == Antwort::ja) return sicherungsschritt();
+    if (antwort == Antwort::nein) {
+        naechsterSchritt();
+        return Ausgang::weiter;
+    }
+    programm_.Aktion = Dateiaktion::keine;
+    return Ausgang::abgebrochen;
+}
+
+Dateiablauf::Ausgang Dateiablauf::sicherungsschritt() {
+    const bool nameBekannt = !programm_.DialogDateiname.isEmpty() && !programm_.Dateiname.empty();
+    if (!nameBekannt) return dialogUndSichern();
+    return saveFile() ? Ausgang::weiter : Ausgang::fehlgeschlagen;
+}
+
+void Dateiablauf::naechsterSchritt() {
+    if (programm_.Aktion == Dateiaktion::oeffnen) oeffnenDialog();
+    if (programm_.Aktion == Dateiaktion::neu) {
+        programm_.DialogDateiname.clear();
+        programm_.setzeTitel(QStringLiteral(" <Neue Datei> "));
+    }
+}
+
+void Dateiablauf::oeffnenDialog() {
+    std::optional<QString> datei = wunsch_;
+    if (!datei)
+        datei = meldungen_.oeffnen(
+            fenster_, {QStringLiteral("Datei öffnen"), ordner(), QString(), dateifilter, dateiendung});
+    if (!datei) return;
+    programm_.DialogDateiname = *datei;
+    lade(*datei);
+}
+
+bool Dateiablauf::sichernDialog() { return dialogUndSichern() == Ausgang::weiter; }
+
+Dateiablauf::Ausgang Dateiablauf::dialogUndSichern() {
+    std::optional<QString> datei;
+    do {
+        datei = meldungen_.sichern(fenster_, {QStringLiteral("Datei speichern unter"), ordner(), vorschlag(),
+                                              dateifilter, dateiendung});
+        if (!datei) return Ausgang::abgebrochen;
+    } while (!darfUeberschreiben(*datei));
+    const QString dialognameVorher = std::exchange(programm_.DialogDateiname, *datei);
+    const std::string nameVorher = std::exchange(programm_.Dateiname, utf8(*datei));
+    if (saveFile()) return Ausgang::weiter;
+    programm_.DialogDateiname = dialognameVorher;
+    programm_.Dateiname = nameVorher;
+    return Ausgang::fehlgeschlagen;
+}
+
+// The file dialog asks about the name as it was chosen, and it appends the ending only to a name without a
+// point: "1.2" is written to "1.2.rsw", which it has not asked about.
+bool Dateiablauf::darfUeberschreiben(const QString& gewaehlt) {
+    const QString ziel = qtext(mitEndung(utf8(gewaehlt)));
+    if (ziel == gewaehlt || !QFileInfo::exists(ziel)) return true;
+    const QString frage =
+        QStringLiteral("Die Datei\n%1\nist bereits vorhanden. Soll sie überschrieben werden ?");
+    return meldungen_.zeige(fenster_, {Symbol::frage, QStringLiteral("Datei speichern"), frage.arg(ziel),
+                                       Knoepfe::jaNein}) == Antwort::ja;
+}
+
+// Where the file dialogs begin: beside the open file. Saving under another name begins in the folder of the
+// project or of the settings, as long as there is one.
+QString Dateiablauf::ordner() const {
+    const auto ordnerVon = [](const QString& datei) { return QFileInfo(datei).absolutePath(); };
+    if (!programm_.Dateiname.empty()) return ordnerVon(qtext(programm_.Dateiname));
+    if (!programm_.DialogOrdner.isEmpty() || programm_.DialogDateiname.isEmpty())
+        return programm_.DialogOrdner;
+    return ordnerVon(programm_.DialogDateiname);
+}
+
+// The position and its remark; characters that part folders in a path become a dash.
+QString Dateiablauf::vorschlag() const {
+    if (!programm_.Dateiname.empty()) return QFileInfo(qtext(programm_.Dateiname)).fileName();
+    QString name = qtext(programm_.w.Position);
+    if (!programm_.w.PositionsBemerkung.empty())
+        name += QLatin1Char('-') + qtext(programm_.w.PositionsBemerkung);
+    for (const QChar trenner : {QLatin1Char('/'), QLatin1Char('\\'), QLatin1Char(':')})
+        name.replace(trenner, QLatin1Char('-'));
+    return name;
+}
+
+bool Dateiablauf::saveFile() {
+    programm_.zuweisen();
+    programm_.Dateiname = mitEndung(programm_.Dateiname);
+    if (const std::optional<Dateifehler> fehler =
+            schreibePosition(pfad(qtext(programm_.Dateiname)), programm_.w)) {
+        programm_.setzeGesichert(false);
+        meldungen_.piep();
+        meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(fehler->text));
+        return false;
+    }
+    programm_.setzeGesichert(true);
+    programm_.setzeTitel(qtext(programm_.Dateiname));
+    if (benutzt) benutzt(qtext(programm_.Dateiname));
+    naechsterSchritt();
+    return true;
+}
+
+bool Dateiablauf::lade(const QString& datei) {
+    programm_.Dateiname = utf8(datei);
+    if (!istPositionsdatei(programm_.Dateiname)) {
+        meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(falscheEndung));
+        programm_.Dateiname.clear();
+        return false;
+    }
+    programm_.Sperre = true;
+    // What does not parse keeps its value without a word: files of older layouts end early.
+    const Positionslesung lesung = liesPosition(pfad(datei), programm_.w);
+    programm_.felder = grundmasse(programm_.w);
+    programm_.setzeGesichert(false);  // a file just opened counts as changed; that is meant
+    programm_.setzeTitel(datei);
+    programm_.Sperre = false;
+    programm_.zuweisen();
+    if (benutzt && !lesung.fehler) benutzt(datei);
+    return true;
+}
+
+void Dateiablauf::setzeNeu() {
+    programm_.Sperre = true;
+    setzeVorgaben(programm_.w);
+    programm_.w.Hinweise.clear();
+    if (listeGeleert) listeGeleert();
+    programm_.felder = grundmasse(programm_.w);
+    programm_.Sperre = false;
+    programm_.zuweisen();
+    programm_.setzeTitel(QStringLiteral("Neue Datei"));
+    programm_.Dateiname.clear();
+    programm_.DialogDateiname.clear();
+    if (projektdaten) projektdaten();
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "ui/basics/Programm.h"
+
+namespace rippenscheibe {
+
+class Meldungen;
+
+// The file flow of the main window: new, open, save, save as, end, with its queries. The pending action
+// stands in the program's state, so that a save can carry on with what was waiting for it.
+class Dateiablauf {
+  public:
+    // `fenster` is the parent of all boxes.
+    Dateiablauf(Programm& programm, Meldungen& meldungen, QWidget* fenster);
+
+    std::function<void()> projektdaten;                 // opens the project dialog
+    std::function<void()> listeGeleert;                 // the findings are gone
+    std::function<void(const QString& datei)> benutzt;  // a position file was opened or saved
+
+    // Asks when there are unsaved changes, then sets the defaults whatever the answer, a cancel too; that
+    // is meant. The project keeps its name.
+    void neu();
+    // Asks, then opens `datei`, or lets the user choose one.
+    void oeffnen(const std::optional<QString>& datei = std::nullopt);
+    void sichern();
+    // Through the project dialog, whose accept saves.
+    void sichernUnter();
+    // Asks; true when the program may end.
+    bool beenden();
+
+    // Reads a position file into the record. False when its ending is not that of a position.
+    bool lade(const QString& datei);
+    // Lets the user choose a name and saves under it. False after a cancel or a failed save.
+    bool sichernDialog();
+
+  private:
+    enum class Ausgang { weiter, abgebrochen, fehlgeschlagen };
+
+    Ausgang frage(Dateiaktion aktion);
+    Ausgang sicherungsschritt();
+    Ausgang dialogUndSichern();
+    bool darfUeberschreiben(const QString& gewaehlt);
+    void naechsterSchritt();
+    void oeffnenDialog();
+    bool saveFile();
+    void setzeNeu();
+    QString ordner() const;
+    QString vorschlag() const;
+
+    Programm& programm_;
+    Meldungen& meldungen_;
+    QPointer<QWidget> fenster_;
+    std::optional<QString> wunsch_;  // the file to open in place of asking for one
+};
+
+}  // namespace rippenscheibe

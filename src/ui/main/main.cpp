@@ -1,0 +1,106 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHashSeed>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTimer>
+#include <QTranslator>
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+#include "files/Programmordner.h"
+#include "ui/basics/Meldungen.h"
+#include "ui/basics/Programm.h"
+#include "ui/help/Handbuch.h"
+#include "ui/main/Form0_Startbild.h"
+#include "ui/main/Form1_Hauptfenster.h"
+#include "ui/output/PdfBefehl.h"
+
+using namespace rippenscheibe;
+
+namespace {
+
+// Numbers show the decimal mark of the user's locale; without one it is German.
+void waehleSprache() {
+    const QLocale eigene = QLocale::system();
+    QLocale::setDefault(eigene.language() == QLocale::C ? QLocale(QLocale::German, QLocale::Germany)
+                                                        : eigene);
+}
+
+void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
+
+// Help and version are printed; like the PDF they need no display.
+bool willNurText(const QStringList& angaben) {
+    const QStringList woerter{QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("--help-all"),
+                              QStringLiteral("-v"), QStringLiteral("--version")};
+    return std::any_of(woerter.cbegin(), woerter.cend(),
+                       [&](const QString& wort) { return angaben.contains(wort); });
+}
+
+void verzichteAufAnzeige() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What Qt says about a missing session is of no use here; only the program's own messages are.
+    qInstallMessageHandler([](QtMsgType art, const QMessageLogContext&, const QString& text) {
+        if (art == QtFatalMsg) schreibe(stderr, text.toStdString() + "\n");
+    });
+}
+
+// The command that needs no display.
+int laufeOhneFenster(int argc, char** argv) {
+    verzichteAufAnzeige();
+    QHashSeed::setDeterministicGlobalSeed();  // the order of a PDF's parts depends on it
+    const QGuiApplication application(argc, argv);
+    QTranslator deutsch;
+    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QCoreApplication::installTranslator(&deutsch);
+    const Pdfausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
+                               [](std::string_view text) { schreibe(stderr, text); }};
+    return static_cast<int>(fuehrePdfBefehlAus(QCoreApplication::arguments(), programmordner(), ausgaben));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setApplicationName(QStringLiteral("rippenscheibe"));
+    QApplication::setApplicationVersion(QStringLiteral(RIPPENSCHEIBE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("rippenscheibe"));
+    QStringList angaben;
+    for (int i = 0; i < argc; ++i) angaben << QString::fromLocal8Bit(argv[i]);
+    if (istPdfBefehl(angaben)) return laufeOhneFenster(argc, argv);
+
+    if (willNurText(angaben)) verzichteAufAnzeige();
+    QApplication application(argc, argv);
+    waehleSprache();
+    // Qt's own buttons, menus, dialogs and the help of the command line in German, whatever the locale: the
+    // program is.
+    QTranslator deutsch;
+    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
+
+    QCommandLineParser befehlszeile;
+    beschreibeAufruf(befehlszeile);
+    befehlszeile.process(application);
+    const QString angabe = befehlszeile.positionalArguments().value(0);
+    const QString datei = angabe.isEmpty() ? angabe : QFileInfo(angabe).absoluteFilePath();
+
+    Programm programm(programmordner());
+    Plattformmeldungen meldungen;
+    const Hilfetaste hilfetaste(&application);
+    Form0 startbild(programm);
+    std::unique_ptr<Form1> hauptfenster;
+    const auto baue = [&] {
+        if (hauptfenster == nullptr) hauptfenster = std::make_unique<Form1>(programm, meldungen);
+    };
+    QObject::connect(&startbild, &Form0::entladen, &application, [&] {
+        baue();
+        hauptfenster->show();
+        // The start may open windows and wait for them; the splash has to be gone by then.
+        QTimer::singleShot(0, hauptfenster.get(), [&] { hauptfenster->starte(datei); });
+    });
+    startbild.show();
+    // The main window is built while the splash is looked at, and shown behind it.
+    constexpr int nachDemErstenBild = 50;  // ms
+    QTimer::singleShot(nachDemErstenBild, &application, baue);
+    return QApplication::exec();
+}

@@ -1,0 +1,275 @@
+#include "ui/output/Form23_Ergebnisse.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTextBlock>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "report/Bericht.h"
+#include "report/Rtfausgabe.h"
+#include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Meldungen.h"
+#include "ui/basics/Programm.h"
+#include "ui/drawings/Ausgabe.h"
+#include "ui/output/Form23_Ausnutzungen.h"
+#include "ui/output/Form23_Text.h"
+#include "ui/output/PdfAusgabe.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr double aufloesungBild = 200;  // dots per inch of an inserted picture
+
+}  // namespace
+
+Form23::Form23(Programm& programm, Meldungen& meldungen, QWidget* parent)
+    : Fenster(programm, meldungen, parent, QStringLiteral("Form23"), QStringLiteral("  Ergebnisse "),
+              Tippen::aendertNichts) {
+    auto* teiler = new QSplitter(Qt::Horizontal, this);
+    teiler->setChildrenCollapsible(false);
+    teiler->addWidget(baueText());
+    teiler->addWidget(baueListe());
+    teiler->setStretchFactor(0, 1);
+    teiler->setSizes({740, 280});
+    inhalt()->addWidget(teiler, 1);
+    baueSchaltflaechen();
+    lade();
+    resize(1060, 720);
+}
+
+// ---- Building ----
+
+QWidget* Form23::baueText() {
+    auto* spalte = new QWidget(this);
+    auto* reihe = new QVBoxLayout(spalte);
+    reihe->setContentsMargins(0, 0, 0, 0);
+    reihe->setSpacing(raster / 2);
+    text_ = new Ergebnisfeld(spalte);
+    text_->setObjectName(QStringLiteral("Rbox1"));
+    text_->setAccessibleName(QStringLiteral("Ergebnisse"));
+    reihe->addWidget(text_, 1);
+    reihe->addWidget(baueSuchzeile());
+    return spalte;
+}
+
+QWidget* Form23::baueSuchzeile() {
+    suchzeile_ = new QWidget(this);
+    auto* reihe = new QHBoxLayout(suchzeile_);
+    reihe->setContentsMargins(0, 0, 0, 0);
+    reihe->setSpacing(raster);
+    suchwort_ = new QLineEdit(suchzeile_);
+    suchwort_->setObjectName(QStringLiteral("Suchwort"));
+    suchwort_->setAccessibleName(QStringLiteral("Suchen nach"));
+    suchwort_->setClearButtonEnabled(true);
+    auto* schild = new QLabel(QStringLiteral("Suchen :"), suchzeile_);
+    schild->setBuddy(suchwort_);
+    trefferzahl_ = new QLabel(suchzeile_);
+    trefferzahl_->setObjectName(QStringLiteral("Trefferzahl"));
+    trefferzahl_->setMinimumWidth(12 * raster);
+    reihe->addWidget(schild);
+    reihe->addWidget(suchwort_, 1);
+    reihe->addWidget(trefferzahl_);
+    const auto knopf = [&](const QString& name, const QString& text, const QKeySequence& taste, int schritt) {
+        auto* k = new QToolButton(suchzeile_);
+        k->setObjectName(name);
+        k->setText(text);
+        k->setAccessibleName(text);
+        k->setToolTip(taste.toString(QKeySequence::NativeText));
+        reihe->addWidget(k);
+        connect(k, &QToolButton::clicked, this, [this, schritt] { springe(schritt); });
+        auto* aktion = new QAction(this);
+        aktion->setShortcut(taste);
+        connect(aktion, &QAction::triggered, this, [this, schritt] { springe(schritt); });
+        addAction(aktion);
+    };
+    knopf(QStringLiteral("Voriger"), QStringLiteral("Voriger"), QKeySequence(Qt::SHIFT | Qt::Key_F3), -1);
+    knopf(QStringLiteral("Naechster"), QStringLiteral("Nächster"), QKeySequence(Qt::Key_F3), 1);
+    connect(suchwort_, &QLineEdit::textChanged, this, &Form23::suche);
+    connect(suchwort_, &QLineEdit::returnPressed, this, [this] { springe(1); });
+
+    // Esc leaves the search first, then the window.
+    auto* verbergen = new QAction(suchzeile_);
+    verbergen->setShortcut(QKeySequence(Qt::Key_Escape));
+    verbergen->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(verbergen, &QAction::triggered, this, &Form23::verbirgSuche);
+    suchzeile_->addAction(verbergen);
+    suchzeile_->hide();
+    return suchzeile_;
+}
+
+QWidget* Form23::baueListe() {
+    auto* spalte = new QWidget(this);
+    auto* reihe = new QVBoxLayout(spalte);
+    reihe->setContentsMargins(0, 0, 0, 0);
+    reihe->setSpacing(raster / 2);
+    liste_ = new Ausnutzungsliste(spalte);
+    liste_->setObjectName(QStringLiteral("Ausnutzungen"));
+    liste_->setAccessibleName(QStringLiteral("Ausnutzungen"));
+    auto* schild = new QLabel(QStringLiteral("Ausnutzungen (Marke bei 1,00)"), spalte);
+    schild->setBuddy(liste_);
+    reihe->addWidget(schild);
+    reihe->addWidget(liste_, 1);
+    connect(liste_, &Ausnutzungsliste::gewaehlt, this, &Form23::zeigeZeile);
+    return spalte;
+}
+
+void Form23::baueSchaltflaechen() {
+    const auto knopf = [this](const QString& name, const QString& text, const QString& hinweis,
+                              void (Form23::*tue)(), const QKeySequence& taste = {}) {
+        QPushButton* k = schaltflaeche(name, text);
+        k->setToolTip(hinweis);
+        if (!taste.isEmpty()) k->setShortcut(taste);
+        connect(k, &QPushButton::clicked, this, tue);
+    };
+    knopf(QStringLiteral("ComSuche"), QStringLiteral("Suchen"), QStringLiteral("Sucht im Text (Strg+F)"),
+          &Form23::zeigeSuche, QKeySequence::Find);
+    knopf(QStringLiteral("Command1"), QStringLiteral("Systembild einfügen"),
+          QStringLiteral("Fügt das Bild der Wand an der Schreibmarke ein"), &Form23::fuegeSystembildEin);
+    knopf(QStringLiteral("Command2"), QStringLiteral("Kopieren"),
+          QStringLiteral("Kopiert den Text in die Zwischenablage"), &Form23::kopiere);
+    knopf(QStringLiteral("ComSave"), QStringLiteral("Speichern"),
+          QStringLiteral("Speichert den Text als .RTF Datei"), &Form23::speichere, QKeySequence::Save);
+    knopf(QStringLiteral("ComPdf"), QStringLiteral("Als PDF speichern"),
+          QStringLiteral("Speichert den ausführlichen Ausdruck als .PDF Datei"), &Form23::speichereAlsPdf);
+    knopf(QStringLiteral("ComDruck"), QStringLiteral("Drucken"),
+          QStringLiteral("Öffnet das Fenster zum Drucken"), &Form23::drucke, QKeySequence::Print);
+    // Enter belongs to the text and to the search here.
+    zurueck(QStringLiteral("ComEnde"))->setDefault(false);
+}
+
+// ---- The text ----
+
+void Form23::lade() {
+    const char zeichen = dezimalzeichen();
+    const Fliesstext text = fliesstext(bericht(programm_.w, Form::ansicht, {.dezimalzeichen = zeichen}));
+    const bool dunkel = palette().color(QPalette::Base).lightness() < 128;
+    for (const int block : fuelleDokument(*text_->document(), text, dunkel))
+        zeilen_.emplace_back(text_->document()->findBlockByNumber(block));
+    std::vector<Ausnutzung> ausnutzungen;
+    for (const Absatz& absatz : text)
+        if (absatz.ausnutzung) ausnutzungen.push_back(*absatz.ausnutzung);
+    liste_->zeige(ausnutzungen, zeichen);
+    text_->setReadOnly(true);
+    text_->moveCursor(QTextCursor::Start);
+}
+
+void Form23::speichere() {
+    const std::optional<QString> ziel =
+        meldungen_.sichern(this, {.titel = QStringLiteral("Speichern"),
+                                  .ordner = programm_.DialogOrdner,
+                                  .vorschlag = QFileInfo(qtext(programm_.Dateiname)).completeBaseName(),
+                                  .filter = QStringLiteral("Rich-Text-Format (*.RTF)"),
+                                  .endung = QStringLiteral("rtf")});
+    if (!ziel) return;
+    if (const auto fehler = schreibeDauerhaft(pfad(*ziel), alsRtf(fliesstextAus(*text_->document()))))
+        meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
+}
+
+// The text stays unlocked afterwards, and that is meant.
+void Form23::kopiere() {
+    text_->setReadOnly(false);
+    text_->selectAll();
+    text_->setFocus();
+    QApplication::clipboard()->clear();
+    text_->copy();
+    text_->moveCursor(QTextCursor::Start);
+}
+
+// The picture goes to the clipboard too, and into the text at the caret.
+void Form23::fuegeSystembildEin() {
+    text_->setReadOnly(false);
+    Zeichenstil stil = Zeichenstil::papier();
+    stil.dezimalzeichen = dezimalzeichen();
+    const QSizeF mm = groesse(Zeichnung::ansicht);
+    QApplication::clipboard()->setImage(bild(Zeichnung::ansicht, programm_.w, mm, aufloesungBild, stil));
+    fuegeBildEin(text_->textCursor(), png(Zeichnung::ansicht, programm_.w, mm, aufloesungBild, stil), mm);
+    text_->ensureCursorVisible();
+}
+
+void Form23::drucke() { oeffne(Fensterart::druck, programm_, meldungen_, this); }
+
+void Form23::speichereAlsPdf() {
+    speicherePdf(programm_, meldungen_, this,
+                 standardausdruck(programm_.w, programm_.einstellungen, liesLogo(programm_.ordner)));
+}
+
+void Form23::done(int ergebnis) {
+    text_->clear();
+    Fenster::done(ergebnis);
+}
+
+// ---- Finding one's way ----
+
+void Form23::zeigeSuche() {
+    suchzeile_->show();
+    suchwort_->setFocus(Qt::ShortcutFocusReason);
+    suchwort_->selectAll();
+}
+
+void Form23::verbirgSuche() {
+    suchzeile_->hide();
+    suchwort_->clear();
+    text_->setFocus();
+}
+
+// Marks all places of the words and goes to the first from the caret on.
+void Form23::suche(const QString& worte) {
+    treffer_.clear();
+    aktuellerTreffer_ = -1;
+    QList<QTextEdit::ExtraSelection> marken;
+    QColor farbe = palette().color(QPalette::Highlight);
+    farbe.setAlphaF(0.35F);
+    QTextCursor stelle(text_->document());
+    while (!worte.isEmpty()) {
+        stelle = text_->document()->find(worte, stelle);
+        if (stelle.isNull()) break;
+        treffer_.push_back(stelle);
+        marken.push_back({stelle, {}});
+        marken.back().format.setBackground(farbe);
+    }
+    text_->setExtraSelections(marken);
+    trefferzahl_->clear();
+    if (worte.isEmpty()) return;
+    if (treffer_.empty()) {
+        trefferzahl_->setText(QStringLiteral("kein Treffer"));
+        return;
+    }
+    const int ab = text_->textCursor().selectionStart();
+    const auto naechster = std::find_if(treffer_.begin(), treffer_.end(),
+                                        [ab](const QTextCursor& t) { return t.selectionStart() >= ab; });
+    aktuellerTreffer_ = naechster == treffer_.end() ? -1 : static_cast<int>(naechster - treffer_.begin()) - 1;
+    springe(1);
+}
+
+void Form23::springe(int schritt) {
+    if (treffer_.empty()) return;
+    const int anzahl = static_cast<int>(treffer_.size());
+    aktuellerTreffer_ = (aktuellerTreffer_ + schritt + anzahl) % anzahl;
+    text_->setTextCursor(treffer_[static_cast<std::size_t>(aktuellerTreffer_)]);
+    text_->ensureCursorVisible();
+    trefferzahl_->setText(QStringLiteral("%1 von %2").arg(aktuellerTreffer_ + 1).arg(anzahl));
+}
+
+// Marks the line of a utilisation and brings it to the upper third.
+void Form23::zeigeZeile(int ausnutzung) {
+    if (ausnutzung < 0 || ausnutzung >= static_cast<int>(zeilen_.size())) return;
+    QTextCursor zeile = zeilen_[static_cast<std::size_t>(ausnutzung)];
+    zeile.movePosition(QTextCursor::StartOfBlock);
+    zeile.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    text_->setTextCursor(zeile);
+    QScrollBar* leiste = text_->verticalScrollBar();
+    leiste->setValue(leiste->value() + text_->cursorRect().top() - text_->viewport()->height() / 3);
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QPrinter>
+
+#include "ui/basics/Fenster.h"
+#include "ui/output/PdfAusgabe.h"
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPrintPreviewWidget;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+
+namespace rippenscheibe {
+
+class Werteingabe;
+
+// "   Drucken ": what of the report is printed, with page numbers and a preview. The preview, the printer and
+// the PDF come from one page machine.
+class Form6 : public Fenster {
+    Q_OBJECT
+
+  public:
+    Form6(Programm& programm, Meldungen& meldungen, QWidget* parent);
+
+    // Does nothing while a job runs but to stop it.
+    void reject() override;
+
+  private:
+    QWidget* baueOptionen();
+    QGroupBox* baueForm();
+    QGroupBox* baueUmfang();
+    QGroupBox* baueSeitenzahl();
+    QWidget* baueLogo();
+    QWidget* baueVorschau();
+    QCheckBox* ankreuzfeld(const QString& name, const QString& text);
+
+    void lade();
+    void setzeZaehlung(bool an);
+    void folgeAenderungen();
+
+    // What the controls say.
+    Ausdruck ausdruck() const;
+    void zeigeVorschau(QPrinter* drucker);
+    // Takes the page number settings over.
+    void uebernimmZaehlung();
+    void drucke();
+    bool setzeUndSende();
+    void zeigeAnlauf();
+    void pruefeStopp() const;
+    void speicherePdf();
+    void merkeSeite(const Druckergebnis& ergebnis);
+
+    bool gestoppt_ = false;
+    bool druckt_ = false;
+    QImage logo_;
+    QPrinter vorschaudrucker_{QPrinter::HighResolution};
+
+    QWidget* optionen_;
+    QRadioButton* lang_;
+    QCheckBox* bemerkungen_;
+    QCheckBox* systemgrafik_;
+    QCheckBox* randbedingungen_;
+    QCheckBox* seitenzahl_;
+    Werteingabe* startseite_;
+    Werteingabe* suffix_;
+    QLabel* indexschild_;
+    QLineEdit* index_;
+    QProgressBar* fortschritt_;
+    QPrintPreviewWidget* vorschau_;
+    QLabel* seitenanzahl_;
+    QPushButton* stopp_;
+};
+
+}  // namespace rippenscheibe

@@ -1,0 +1,93 @@
+#include "ui/output/PdfAusgabe.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include "ui/basics/Meldungen.h"
+#include "ui/basics/Programm.h"
+#include "ui/output/Seitenmaler.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr double mmJeZoll = 25.4;
+constexpr int aufloesung = 1200;  // dots per inch of the PDF's coordinates
+
+}  // namespace
+
+Ausdruck standardausdruck(const Wand& w, const Einstellungen& e, const QImage& logo) {
+    Ausdruck a;
+    a.optionen.Systemgrafik = e.SystembildStandard;
+    a.optionen.dezimalzeichen = dezimalzeichen();
+    a.auftrag.einstellungen = e;
+    a.auftrag.zaehlung.SeitenzahlDrucken = e.SeitenzahlStandard;
+    a.auftrag.zaehlung.Startseite = 1;
+    a.auftrag.Projekt = w.Projekt;
+    a.auftrag.Position = w.Position;
+    a.logo = logo;
+    return a;
+}
+
+QImage liesLogo(const std::filesystem::path& programmordner) {
+    const Dateiinhalt inhalt = liesDatei(programmordner / logodatei);
+    return QImage::fromData(QByteArray::fromStdString(inhalt.bytes));
+}
+
+QString dokumenttitel(const Wand& w) {
+    const QString position = QStringLiteral("Position ") + qtext(w.Position);
+    return w.Projekt.empty() ? position : qtext(w.Projekt) + QStringLiteral(" - ") + position;
+}
+
+Druckergebnis setze(Zeichenflaeche& flaeche, const Wand& w, const Ausdruck& ausdruck) {
+    return druckeSeiten(flaeche, bericht(w, ausdruck.form, ausdruck.optionen), ausdruck.auftrag);
+}
+
+bool aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const Ausdruck& ausdruck,
+               const std::function<void(Zeichenflaeche&)>& zeichne) {
+    QPainter painter;
+    if (!painter.begin(&geraet)) return false;
+    Seitenmaler maler(painter, geraet.logicalDpiY() / mmJeZoll,
+                      {w, ausdruck.logo, ausdruck.optionen.dezimalzeichen}, [&] { geraet.newPage(); });
+    zeichne(maler);
+    return painter.end();
+}
+
+Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
+    Pdf datei;
+    QBuffer puffer(&datei.bytes);
+    puffer.open(QIODevice::WriteOnly);
+    QPdfWriter schreiber(&puffer);
+    schreiber.setPageSize(QPageSize(QPageSize::A4));
+    schreiber.setPageMargins(QMarginsF());
+    schreiber.setResolution(aufloesung);
+    schreiber.setTitle(dokumenttitel(w));
+    schreiber.setCreator(QStringLiteral("Rippenscheibe"));
+    aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { datei.ergebnis = setze(f, w, ausdruck); });
+    return datei;
+}
+
+std::optional<Druckergebnis> speicherePdf(Programm& programm, Meldungen& meldungen, QWidget* fenster,
+                                          const Ausdruck& ausdruck) {
+    const QString position = programm.Dateiname.empty()
+                                 ? qtext(programm.w.Position)
+                                 : QFileInfo(qtext(programm.Dateiname)).completeBaseName();
+    const std::optional<QString> ziel =
+        meldungen.sichern(fenster, {.titel = QStringLiteral("Als PDF speichern"),
+                                    .ordner = programm.DialogOrdner,
+                                    .vorschlag = position + QStringLiteral(".pdf"),
+                                    .filter = QStringLiteral("PDF-Datei (*.pdf)"),
+                                    .endung = QStringLiteral("pdf")});
+    if (!ziel) return std::nullopt;
+    const Pdf datei = pdf(programm.w, ausdruck);
+    if (const auto fehler = schreibeDauerhaft(pfad(*ziel), datei.bytes.toStdString())) {
+        meldungen.kritisch(fenster, QStringLiteral("Fehler"), qtext(fehler->text));
+        return std::nullopt;
+    }
+    return datei.ergebnis;
+}
+
+}  // namespace rippenscheibe

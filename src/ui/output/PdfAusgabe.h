@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+#include "files/Dateischreiber.h"
+#include "report/Bericht.h"
+#include "report/Seiten.h"
+
+class QPagedPaintDevice;
+class QWidget;
+
+namespace rippenscheibe {
+
+class Meldungen;
+class Programm;
+
+// A printout of the report: which form of it, with what head, foot and page numbers.
+struct Ausdruck {
+    Form form = Form::lang;
+    Berichtsoptionen optionen;
+    Druckauftrag auftrag;
+    QImage logo;
+};
+
+// The printout that the settings ask for. Pages are numbered from 1 when numbers are standard.
+Ausdruck standardausdruck(const Wand& w, const Einstellungen& e, const QImage& logo);
+
+// The user's logo of the page head; empty when there is none.
+QImage liesLogo(const std::filesystem::path& programmordner);
+
+// Title of a document: project and position.
+QString dokumenttitel(const Wand& w);
+
+// Lays the printout out on pages of a surface.
+Druckergebnis setze(Zeichenflaeche& flaeche, const Wand& w, const Ausdruck& ausdruck);
+
+// Opens a printer or a PDF and hands `zeichne` the surface of its pages, which begin at the corner of the
+// paper. False when the device cannot be drawn on.
+bool aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const Ausdruck& ausdruck,
+               const std::function<void(Zeichenflaeche&)>& zeichne);
+
+// The printout as a PDF file on A4: text is text, fonts are embedded. The same input gives the same bytes
+// except for the dates.
+struct Pdf {
+    QByteArray bytes;
+    Druckergebnis ergebnis;
+};
+Pdf pdf(const Wand& w, const Ausdruck& ausdruck);
+
+// Asks for a file and writes the PDF of the open position there; nothing when the user cancels or the file
+// cannot be written, which is reported.
+std::optional<Druckergebnis> speicherePdf(Programm& programm, Meldungen& meldungen, QWidget* fenster,
+                                          const Ausdruck& ausdruck);
+
+}  // namespace rippenscheibe

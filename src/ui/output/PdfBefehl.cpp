@@ -1,0 +1,146 @@
+#include "ui/output/PdfBefehl.h"
+
+#include <QCommandLineParser>
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "files/EigeneMaterialienDatei.h"
+#include "files/Einstellungsdatei.h"
+#include "files/Positionsdatei.h"
+#include "files/Zeichensatz.h"
+#include "run/Berechnungslauf.h"
+#include "run/Zuweisen.h"
+#include "ui/basics/Materialtabelle.h"
+#include "ui/basics/Programm.h"
+#include "ui/output/PdfAusgabe.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+const QString optionPdf = QStringLiteral("pdf");
+const QString optionForm = QStringLiteral("form");
+
+struct Pdfauftrag {
+    std::filesystem::path ziel;
+    std::filesystem::path position;
+    Form form = Form::lang;
+};
+
+std::optional<Form> formAus(const QString& wort) {
+    if (wort == QStringLiteral("lang")) return Form::lang;
+    if (wort == QStringLiteral("kurz")) return Form::kurz;
+    return std::nullopt;
+}
+
+// One position from its file to its PDF.
+class Pdflauf {
+  public:
+    Pdflauf(const Pdfauftrag& auftrag, const std::filesystem::path& ordner, const Pdfausgaben& ausgaben)
+        : auftrag_(auftrag), ordner_(ordner), ausgaben_(ausgaben), w_(std::make_unique<Wand>()) {}
+
+    Pdfrueckgabe laufe() {
+        if (!lade()) return Pdfrueckgabe::dateifehler;
+        if (starte(*w_) == Laufergebnis::hinweise) {
+            melde("Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!");
+            for (const std::string& hinweis : w_->Hinweise) melde(hinweis);
+            return Pdfrueckgabe::hinweise;
+        }
+        if (!schreibe()) return Pdfrueckgabe::dateifehler;
+        if (w_->AlleNachweiseErfuellt) return Pdfrueckgabe::erfuellt;
+        melde("Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! ");
+        return Pdfrueckgabe::nichtErfuellt;
+    }
+
+  private:
+    bool lade() {
+        if (!istPositionsdatei(auftrag_.position.string())) {
+            melde(std::string(falscheEndung));
+            return false;
+        }
+        const Dateiinhalt inhalt = liesDatei(auftrag_.position);
+        if (inhalt.fehler) {
+            ausgaben_.meldungen(inhalt.fehler->text + "\n");
+            return false;
+        }
+        // The table of the window, delivered rows included; a command leaves no file behind but the PDF.
+        w_->eigeneMaterialien = ladeEigeneMaterialien(ordner_ / materialdatei, ErsteTabelle::nurLesen);
+        for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), *w_))
+            melde(beschreibung(feld));
+        zuweisen(*w_, grundmasse(*w_));
+        return true;
+    }
+
+    bool schreibe() {
+        Einstellungen einstellungen;
+        liesEinstellungen(ordner_ / einstellungsdatei, einstellungen);
+        Ausdruck ausdruck = standardausdruck(*w_, einstellungen, liesLogo(ordner_));
+        ausdruck.form = auftrag_.form;
+        ausdruck.optionen.dezimalzeichen = ',';  // the same file in every locale
+        const QByteArray bytes = pdf(*w_, ausdruck).bytes;
+        const auto fehler = schreibeDauerhaft(auftrag_.ziel, bytes.toStdString());
+        if (fehler) ausgaben_.meldungen(fehler->text + "\n");
+        return !fehler;
+    }
+
+    void melde(const std::string& text) const {
+        ausgaben_.meldungen(auftrag_.position.string() + ": " + text + "\n");
+    }
+
+    const Pdfauftrag& auftrag_;
+    const std::filesystem::path& ordner_;
+    const Pdfausgaben& ausgaben_;
+    std::unique_ptr<Wand> w_;
+};
+
+}  // namespace
+
+void beschreibeAufruf(QCommandLineParser& befehlszeile) {
+    befehlszeile.setApplicationDescription(
+        QStringLiteral("Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)"));
+    befehlszeile.addHelpOption();
+    befehlszeile.addVersionOption();
+    befehlszeile.addOption({optionPdf,
+                            QStringLiteral("Schreibt den Ausdruck der Position als PDF, ohne Fenster."),
+                            QStringLiteral("AUS.pdf")});
+    befehlszeile.addOption({optionForm, QStringLiteral("Form des PDF: lang oder kurz (sonst lang)."),
+                            QStringLiteral("lang|kurz"), QStringLiteral("lang")});
+    befehlszeile.addPositionalArgument(QStringLiteral("DATEI"), QStringLiteral("Positionsdatei (*.rsw)"),
+                                       QStringLiteral("[DATEI]"));
+}
+
+bool istPdfBefehl(const QStringList& argumente) {
+    return std::any_of(argumente.cbegin(), argumente.cend(), [](const QString& a) {
+        return a == QStringLiteral("--pdf") || a.startsWith(QStringLiteral("--pdf="));
+    });
+}
+
+Pdfrueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem::path& programmordner,
+                                const Pdfausgaben& ausgaben) {
+    QCommandLineParser befehlszeile;
+    beschreibeAufruf(befehlszeile);
+    const auto falscherAufruf = [&](const QString& grund) {
+        ausgaben.meldungen(utf8(grund) + "\nHilfe: rippenscheibe --help\n");
+        return Pdfrueckgabe::aufruf;
+    };
+    if (!befehlszeile.parse(argumente)) return falscherAufruf(befehlszeile.errorText());
+    if (befehlszeile.isSet(QStringLiteral("help"))) {
+        ausgaben.standard(utf8(befehlszeile.helpText()));
+        return Pdfrueckgabe::erfuellt;
+    }
+    const std::optional<Form> form = formAus(befehlszeile.value(optionForm));
+    if (!form)
+        return falscherAufruf(QStringLiteral("--form: \"%1\" geht nicht, möglich: lang|kurz")
+                                  .arg(befehlszeile.value(optionForm)));
+    if (befehlszeile.value(optionPdf).isEmpty())
+        return falscherAufruf(QStringLiteral("--pdf fehlt der Name der Datei."));
+    if (befehlszeile.positionalArguments().size() != 1)
+        return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei erwartet."));
+    const Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
+                             pfad(befehlszeile.positionalArguments().constFirst()), *form};
+    return Pdflauf(auftrag, programmordner, ausgaben).laufe();
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,103 @@
+#include "ui/output/Seitenmaler.h"
+
+#include <QFontMetricsF>
+#include <utility>
+
+#include "ui/basics/Programm.h"
+#include "ui/drawings/Zeichnungen.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr double mmJeZoll = 25.4;
+
+QColor qfarbe(Farbe farbe) { return QColor::fromRgb(static_cast<QRgb>(farbe)); }
+
+// Free families with the same character widths as the usual ones, so that lines keep their length.
+QStringList familien(const QString& name) {
+    if (name == QStringLiteral("Courier New")) return {name, QStringLiteral("Liberation Mono")};
+    if (name == QStringLiteral("Times New Roman")) return {name, QStringLiteral("Liberation Serif")};
+    return {name, QStringLiteral("Liberation Sans")};
+}
+
+}  // namespace
+
+QFont papierschrift(const Schrift& schrift) {
+    QFont font;
+    font.setFamilies(familien(qtext(schrift.name)));
+    font.setPointSizeF(schrift.groesse);
+    font.setBold(schrift.fett);
+    font.setItalic(schrift.kursiv);
+    font.setUnderline(schrift.unterstrichen);
+    font.setHintingPreference(QFont::PreferNoHinting);  // the same line lengths at every resolution
+    return font;
+}
+
+Schriftmass schriftmass(const Schrift& schrift) {
+    constexpr double punkteJeZoll = 72;
+    constexpr int probe = 1000;  // px, large enough to measure the outlines
+    QFont font = papierschrift(schrift);
+    font.setPixelSize(probe);
+    const QFontMetricsF masse(font);
+    const double mmJePixel = schrift.groesse * mmJeZoll / punkteJeZoll / probe;
+    return {masse.ascent() * mmJePixel, masse.height() * mmJePixel};
+}
+
+Seitenmaler::Seitenmaler(QPainter& painter, double mm, Bildquelle bilder, std::function<void()> neueSeite)
+    : painter_(painter), mm_(mm), bilder_(std::move(bilder)), neueSeite_(std::move(neueSeite)) {
+    setzeSchrift({});
+}
+
+void Seitenmaler::setzeSchrift(const Schrift& schrift) {
+    // Points are counted in the painter's own dots; the page may be drawn smaller or larger than that.
+    const double dichte = painter_.device()->logicalDpiY();
+    QFont font = papierschrift(schrift);
+    font.setPointSizeF(schrift.groesse * mm_ * mmJeZoll / dichte);
+    painter_.setFont(font);
+    mass_ = schriftmass(schrift);
+    textfarbe_ = qfarbe(schrift.farbe);
+}
+
+void Seitenmaler::setzeStrich(double breite) { strich_ = breite * mm_; }
+
+void Seitenmaler::text(double x, double y, std::string_view text) {
+    painter_.setPen(textfarbe_);
+    painter_.drawText(QPointF(x * mm_, (y + mass_.oberlaenge) * mm_), qtext(text));
+}
+
+void Seitenmaler::rahmen(const Rechteck& rechteck, Farbe farbe) {
+    painter_.setPen(QPen(qfarbe(farbe), strich_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(inEinheiten(rechteck));
+}
+
+void Seitenmaler::flaeche(const Rechteck& rechteck, Farbe farbe) {
+    painter_.fillRect(inEinheiten(rechteck), qfarbe(farbe));
+}
+
+void Seitenmaler::bild(Bild bild, const Rechteck& rechteck) {
+    const QRectF ort = inEinheiten(rechteck);
+    if (bild == Bild::logo) {
+        if (!bilder_.logo.isNull()) painter_.drawImage(ort, bilder_.logo);
+        return;
+    }
+    Zeichenstil stil = Zeichenstil::papier(mm_);
+    stil.dezimalzeichen = bilder_.dezimalzeichen;
+    painter_.save();
+    zeichneBild(painter_, ort, bild, bilder_.w, stil);
+    painter_.restore();
+}
+
+void Seitenmaler::neueSeite() {
+    if (neueSeite_) neueSeite_();
+}
+
+// The height of a line does not depend on its words.
+double Seitenmaler::texthoehe(std::string_view) const { return mass_.hoehe; }
+
+QRectF Seitenmaler::inEinheiten(const Rechteck& r) const {
+    return {r.x * mm_, r.y * mm_, r.breite * mm_, r.hoehe * mm_};
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,155 @@
+#include "ui/project/Form15_Projektdaten.h"
+
+#include <QComboBox>
+#include <QDate>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "files/Positionsdatei.h"
+#include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Meldungen.h"
+#include "ui/basics/Pfadwahl.h"
+#include "ui/basics/Programm.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+QLabel* schild(const QString& text, QWidget* feld) {
+    auto* label = new QLabel(text, feld->parentWidget());
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setBuddy(feld);
+    return label;
+}
+
+}  // namespace
+
+Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
+    : Fenster(programm, meldungen, parent, QStringLiteral("Form15"), QStringLiteral("  Projektdaten")),
+      projekt_(new QComboBox(this)) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(raster);
+    grid->setVerticalSpacing(raster);
+    grid->setColumnStretch(1, 1);
+    inhalt()->addLayout(grid);
+
+    projekt_->setObjectName(QStringLiteral("Combo1"));
+    projekt_->setAccessibleName(QStringLiteral("Projekt"));
+    projekt_->setEditable(true);
+    projekt_->setInsertPolicy(QComboBox::NoInsert);
+    // A name is taken as typed: completing "Haus 1" to a known "Haus 12" would file it under another project.
+    projekt_->setCompleter(nullptr);
+    projekt_->setMinimumWidth(360);
+    projekt_->lineEdit()->setObjectName(QStringLiteral("Combo1_Text"));
+    projekt_->lineEdit()->setAccessibleName(QStringLiteral("Projekt"));
+    grid->addWidget(schild(QStringLiteral("Projekt :"), projekt_), 0, 0);
+    grid->addWidget(projekt_, 0, 1, 1, 2);
+
+    position_ = textfeld(grid, 1, QStringLiteral("Position :"));
+    datum_ = textfeld(grid, 2, QStringLiteral("Datum :"));
+    bemerkung_ = textfeld(grid, 3, QStringLiteral("Bemerkung :"));
+    pfad_ = textfeld(grid, 0, QStringLiteral("Pfad :"));
+    auto* waehlen = new QPushButton(QStringLiteral("Pfad wählen"), this);
+    waehlen->setObjectName(QStringLiteral("Command1"));
+    waehlen->setAccessibleName(waehlen->text());
+    waehlen->setAutoDefault(false);
+    grid->addWidget(waehlen, grid->rowCount() - 1, 2);
+    inhalt()->addStretch(1);
+
+    connect(projekt_, &QComboBox::activated, this, &Form15::waehleProjekt);
+    connect(waehlen, &QPushButton::clicked, this, [this] {
+        // The chooser starts at the typed folder; cancelled, it leaves the stored one.
+        const std::string vorher = std::exchange(programm_.Positionspfad, utf8(pfad_->text()));
+        Pfadwahl wahl(programm_, meldungen_, this, Pfadwahl::Zweck::positionspfad);
+        if (wahl.exec() == QDialog::Accepted) {
+            pfad_->setText(wahl.pfad());
+        } else {
+            programm_.Positionspfad = vorher;
+        }
+    });
+    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Zurück zum Hauptfenster"));
+    ende->setDefault(true);
+    connect(ende, &QPushButton::clicked, this, &Form15::zurueckZumHauptfenster);
+    lade();
+}
+
+// A row "Text1(index)" of the grid.
+QLineEdit* Form15::textfeld(QGridLayout* grid, int index, const QString& beschriftung) {
+    auto* feld = new QLineEdit(this);
+    feld->setObjectName(QStringLiteral("Text1(%1)").arg(index));
+    feld->setAccessibleName(beschriftung.section(QLatin1Char(' '), 0, 0));
+    const int zeile = grid->rowCount();
+    grid->addWidget(schild(beschriftung, feld), zeile, 0);
+    grid->addWidget(feld, zeile, 1, 1, index == 0 ? 1 : 2);
+    return feld;
+}
+
+void Form15::lade() {
+    // Empty entries keep their place in the list, but there is nothing to choose in them.
+    const auto& eintraege = programm_.projekte.eintraege;
+    for (std::size_t i = 0; i < eintraege.size(); ++i) {
+        if (!eintraege[i].name.empty()) projekt_->addItem(qtext(eintraege[i].name), static_cast<int>(i));
+        if (eintraege[i].name == programm_.w.Projekt && aktuellesProjekt_ == 1)
+            aktuellesProjekt_ = static_cast<int>(i) + 1;
+    }
+    projekt_->setCurrentIndex(
+        projekt_->findText(qtext(programm_.w.Projekt), Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    projekt_->setEditText(qtext(programm_.w.Projekt));
+    position_->setText(qtext(programm_.w.Position));
+    const bool leer = programm_.w.Datum.empty();
+    datum_->setText(leer ? QDate::currentDate().toString(QStringLiteral("dd.MM.yyyy"))
+                         : qtext(programm_.w.Datum));
+    bemerkung_->setText(qtext(programm_.w.PositionsBemerkung));
+    pfad_->setText(qtext(programm_.Positionspfad));
+}
+
+void Form15::waehleProjekt(int eintrag) {
+    const int stelle = projekt_->itemData(eintrag).toInt();
+    aktuellesProjekt_ = stelle + 1;
+    pfad_->setText(qtext(programm_.projekte.eintraege[static_cast<std::size_t>(stelle)].pfad));
+}
+
+// A project that is not in the list is added with the folder as it was entered, an empty one too; an
+// existing entry keeps its folder.
+void Form15::merkeProjekt() {
+    auto& eintraege = programm_.projekte.eintraege;
+    const std::string& name = programm_.w.Projekt;
+    const auto gleich = [&](const Projekteintrag& eintrag) { return eintrag.name == name; };
+    if (std::any_of(eintraege.begin(), eintraege.end(), gleich)) return;
+    eintraege.push_back({name, programm_.Positionspfad});
+}
+
+void Form15::zurueckZumHauptfenster() {
+    Wand& w = programm_.w;
+    const std::string vorher = positionstext(w);
+    w.Projekt = utf8(projekt_->currentText());
+    w.Position = utf8(position_->text());
+    w.Datum = utf8(datum_->text());
+    w.PositionsBemerkung = utf8(bemerkung_->text());
+    programm_.Positionspfad = utf8(pfad_->text());
+    if (positionstext(w) != vorher) programm_.setzeGesichert(false);
+    merkeProjekt();
+    if (programm_.Positionspfad.empty()) programm_.Positionspfad = programm_.einstellungen.StandardPfad;
+    if (programm_.SpeichernUnter) sichernUnter();
+    Q_EMIT programm_.geaendert();
+    accept();
+}
+
+void Form15::sichernUnter() {
+    programm_.SpeichernUnter = false;
+    if (!programm_.Positionspfad.empty()) programm_.DialogOrdner = qtext(programm_.Positionspfad);
+    if (programm_.fenster != nullptr) programm_.fenster->sichernUnter(programm_, meldungen_, this);
+}
+
+// Leaving without "Zurück zum Hauptfenster" changes nothing, and nothing is saved.
+void Form15::reject() {
+    programm_.SpeichernUnter = false;
+    Fenster::reject();
+}
+
+}  // namespace rippenscheibe

@@ -1,0 +1,198 @@
+#include "report/Bericht.h"
+#include "report/Rtfausgabe.h"
+#include "report/Textausgabe.h"
+#include "support/Gerechnet.h"
+#include "ui/output/Form23_Ausnutzungen.h"
+#include "ui/output/Form23_Ergebnisse.h"
+#include "ui/output/Form23_Text.h"
+
+namespace rippenscheibe {
+namespace {
+
+class Ergebnisansicht : public Gerechnet {
+  protected:
+    void oeffne() {
+        fenster = std::make_unique<Form23>(programm, meldungen, nullptr);
+        fenster->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(fenster.get()));
+        text = &finde<QTextEdit>(*fenster, "Rbox1");
+    }
+    Fliesstext erwartet() const { return fliesstext(bericht(programm.w, Form::ansicht)); }
+    // The text of the view, with the line end of its last line.
+    std::string gezeigt() const { return utf8(text->toPlainText()) + "\n"; }
+    QByteArray gespeichert() {
+        meldungen.dateien = {datei("bericht.rtf")};
+        klicke(*fenster, "ComSave");
+        return inhalt(datei("bericht.rtf"));
+    }
+
+    std::unique_ptr<Form23> fenster;
+    QTextEdit* text = nullptr;
+};
+
+TEST_F(Ergebnisansicht, TheViewShowsTheReportLockedAndAtItsTop) {
+    oeffne();
+    EXPECT_EQ(gezeigt(), alsText(erwartet()));
+    EXPECT_TRUE(text->isReadOnly());
+    EXPECT_EQ(text->textCursor().position(), 0);
+    EXPECT_EQ(text->verticalScrollBar()->value(), 0);
+}
+
+// The document and back: fonts, sizes, colours and blanks survive.
+TEST_F(Ergebnisansicht, AnUntouchedTextSavesTheBytesOfTheReport) {
+    for (const char* name : {"windsog", "zuganker", "nicht_erfuellt"}) {
+        SCOPED_TRACE(name);
+        rechne(name);
+        oeffne();
+        EXPECT_EQ(gespeichert().toStdString(), alsRtf(erwartet()));
+    }
+    EXPECT_EQ(meldungen.gewaehlt[0].filter, QStringLiteral("Rich-Text-Format (*.RTF)"));
+}
+
+TEST_F(Ergebnisansicht, ADarkWindowSavesTheSameColours) {
+    const QPalette vorher = QApplication::palette();
+    QPalette dunkel = vorher;
+    dunkel.setColor(QPalette::Base, QColor(0x202020));
+    dunkel.setColor(QPalette::Text, Qt::white);
+    QApplication::setPalette(dunkel);
+    oeffne();
+    const QByteArray bytes = gespeichert();
+    QApplication::setPalette(vorher);
+    EXPECT_EQ(bytes.toStdString(), alsRtf(erwartet()));
+}
+
+TEST_F(Ergebnisansicht, EditsAndThePictureAreSavedWhereTheyAre) {
+    oeffne();
+    klicke(*fenster, "Command1");
+    EXPECT_FALSE(text->isReadOnly());
+    EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasImage());
+    text->moveCursor(QTextCursor::End);
+    QTest::keyClicks(text, QStringLiteral("geprueft {Mai}"));
+    const QByteArray rtf = gespeichert();
+    EXPECT_EQ(rtf.count("\\pngblip"), 1);
+    // 100 x 91 mm in twips of 1/1440 inch: 5669 x 5159.
+    EXPECT_TRUE(rtf.contains("\\picwgoal5669\\pichgoal5159"));
+    EXPECT_LT(rtf.indexOf("\\pngblip"), rtf.indexOf("Eingabedaten"));
+    EXPECT_GT(rtf.indexOf("geprueft \\{Mai\\}"), rtf.indexOf("Alle Nachweise"));
+}
+
+TEST_F(Ergebnisansicht, ASaveThatFailsIsReportedAndACancelIsNot) {
+    oeffne();
+    meldungen.dateien = {datei("nirgends/a.rtf")};
+    klicke(*fenster, "ComSave");
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    klicke(*fenster, "ComSave");
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+}
+
+TEST_F(Ergebnisansicht, ACopyIsTextHtmlAndRtfAndUnlocks) {
+    oeffne();
+    klicke(*fenster, "Command2");
+    const QMimeData* daten = QApplication::clipboard()->mimeData();
+    EXPECT_EQ(utf8(daten->text()), alsText(erwartet()));
+    EXPECT_EQ(daten->data(QStringLiteral("text/rtf")).toStdString(), alsRtf(erwartet()));
+    EXPECT_TRUE(daten->html().contains(QStringLiteral("Wandlänge l = 7,500 m")));
+    EXPECT_FALSE(text->isReadOnly());
+    EXPECT_FALSE(text->textCursor().hasSelection());
+    EXPECT_EQ(text->textCursor().position(), 0);
+}
+
+// A picture that is copied with its text is still a picture where it is pasted.
+TEST_F(Ergebnisansicht, APictureSurvivesTheClipboard) {
+    oeffne();
+    klicke(*fenster, "Command1");
+    klicke(*fenster, "Command2");
+    const QMimeData* daten = QApplication::clipboard()->mimeData();
+    EXPECT_TRUE(daten->data(QStringLiteral("text/rtf")).contains("\\pngblip"));
+    QTextDocument anderswo;
+    anderswo.setHtml(daten->html());
+    EXPECT_EQ(alsRtf(fliesstextAus(anderswo)).find("\\pngblip") != std::string::npos, true);
+}
+
+TEST_F(Ergebnisansicht, PicturesAndLineBreaksSplitAParagraphInOrder) {
+    QTextDocument dokument;
+    QTextCursor cursor(&dokument);
+    cursor.insertText(QStringLiteral("vor\u2028bruch"));
+    QImage punkt(2, 2, QImage::Format_RGB32);
+    punkt.fill(Qt::red);
+    dokument.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("punkt")), punkt);
+    QTextImageFormat bild;
+    bild.setName(QStringLiteral("punkt"));
+    cursor.insertImage(bild);
+    bild.setName(QStringLiteral("fehlt.png"));
+    cursor.insertImage(bild);
+    cursor.insertText(QStringLiteral("nach"), {});
+    const Fliesstext gelesen = fliesstextAus(dokument);
+    ASSERT_EQ(gelesen.size(), 2U);
+    EXPECT_EQ(gelesen[0].laeufe.at(0).text, "vor\nbruch");
+    ASSERT_EQ(gelesen[0].bilder.size(), 1U);
+    EXPECT_NEAR(gelesen[0].bilder[0].breite, 2 * 25.4 / 96, 1e-9);
+    EXPECT_EQ(gelesen[1].laeufe.at(0).text, "nach");
+}
+
+TEST_F(Ergebnisansicht, BarsStandInTheOrderOfTheReportAndLeadToTheirLines) {
+    rechne("nicht_erfuellt");
+    oeffne();
+    auto& liste = finde<QListWidget>(*fenster, "Ausnutzungen");
+    int zeile = 0;
+    int nichtErfuellt = 0;
+    for (const Absatz& absatz : erwartet()) {
+        if (!absatz.ausnutzung) continue;
+        ASSERT_LT(zeile, liste.count());
+        const QString anzeige = liste.item(zeile)->text();
+        EXPECT_TRUE(anzeige.startsWith(qtext(absatz.ausnutzung->name)));
+        EXPECT_EQ(anzeige.endsWith(QStringLiteral("nicht erfüllt")), !absatz.ausnutzung->erfuellt);
+        if (!absatz.ausnutzung->erfuellt) ++nichtErfuellt;
+        liste.setCurrentRow(zeile);
+        EXPECT_EQ(utf8(text->textCursor().selectedText()), absatz.laeufe.at(0).text);
+        EXPECT_TRUE(text->viewport()->rect().contains(text->cursorRect().center()));
+        ++zeile;
+    }
+    EXPECT_EQ(zeile, liste.count());
+    EXPECT_GT(nichtErfuellt, 0);
+    // An edit above moves the lines, and the bars still find them.
+    text->moveCursor(QTextCursor::Start);
+    text->textCursor().insertText(QStringLiteral("neu\nneu\n"));
+    liste.setCurrentRow(0);
+    EXPECT_TRUE(text->textCursor().selectedText().startsWith(QStringLiteral("Ausnutzung Scheibenschub")));
+}
+
+TEST_F(Ergebnisansicht, AUtilisationWithoutResistanceIsInfinite) {
+    EXPECT_EQ(ausnutzungstext(std::numeric_limits<double>::infinity(), ','), QStringLiteral("∞"));
+    EXPECT_EQ(ausnutzungstext(1.004, ','), QStringLiteral("1,00"));
+}
+
+TEST_F(Ergebnisansicht, SearchGoesRoundAndEscLeavesItFirst) {
+    oeffne();
+    QTest::keySequence(fenster.get(), QKeySequence::Find);
+    auto& wort = finde<QLineEdit>(*fenster, "Suchwort");
+    auto& zahl = finde<QLabel>(*fenster, "Trefferzahl");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wort.isVisible(); }));  // the button is pressed for a moment
+    tippe(wort, QStringLiteral("beplankung 2"));
+    const int treffer = int(text->toPlainText().count(QStringLiteral("beplankung 2"), Qt::CaseInsensitive));
+    ASSERT_GT(treffer, 2);
+    EXPECT_EQ(zahl.text(), QStringLiteral("1 von %1").arg(treffer));
+    EXPECT_EQ(text->textCursor().selectedText(), QStringLiteral("Beplankung 2"));
+    klicke(*fenster, "Voriger");
+    EXPECT_EQ(zahl.text(), QStringLiteral("%1 von %1").arg(treffer));
+    QTest::keyClick(&wort, Qt::Key_Return);
+    EXPECT_EQ(zahl.text(), QStringLiteral("1 von %1").arg(treffer));
+    tippe(wort, QStringLiteral("gibt es nicht"));
+    EXPECT_EQ(zahl.text(), QStringLiteral("kein Treffer"));
+    QTest::keyClick(&wort, Qt::Key_Escape);
+    EXPECT_FALSE(wort.isVisible());
+    EXPECT_TRUE(fenster->isVisible());
+}
+
+TEST_F(Ergebnisansicht, ThePrintWindowOpensFromHere) {
+    oeffne();
+    QString name;
+    mitFenster([&] { klicke(*fenster, "ComDruck"); }, [&](QWidget& druck) { name = druck.objectName(); });
+    EXPECT_EQ(name, QStringLiteral("Form6"));
+    meldungen.dateien = {datei("lang.pdf")};
+    klicke(*fenster, "ComPdf");
+    EXPECT_TRUE(inhalt(datei("lang.pdf")).startsWith("%PDF"));
+}
+
+}  // namespace
+}  // namespace rippenscheibe
