@@ -129,7 +129,9 @@ void vertikallastAufRippe(Wand& w, int i) {
 // Meant: a net compression on the tension edge does not reduce its tension.
 void zugInRippe(Wand& w, int i) {
     const Zahl summe = w.FcdStabilitaet(i) + w.FcdVeraenderlich(i);
-    const Zahl kante = lage(w, i) == zugrand(w) ? Zahl(w.FEdge) : Zahl(0);
+    // By index: the only rib of a wall is the tension edge whichever way the load points.
+    const bool zugkante = w.Fvd >= 0 ? i == 1 : w.AnzahlRippen == i;
+    const Zahl kante = zugkante ? Zahl(w.FEdge) : Zahl(0);
     if (summe < 0) {
         w.Ftd(i) = -summe + kante;
         w.FcdStabilitaet(i) = 0;

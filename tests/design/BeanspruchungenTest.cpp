@@ -92,14 +92,18 @@ TEST(Beanspruchungen, FromWindSuctionPullTheFastenersOfSideOne) {
     expectRippen(w.Faxd, {0, 0, 0, 0, 0, 0}, "Faxd under pressure");
 }
 
-TEST(Beanspruchungen, OfASingleRibTakeItAsTheLeftEdgeRib) {
+TEST(Beanspruchungen, OfASingleRibPressItAsTheLeftEdgeRibAndPullItEitherWay) {
     Wand w = wand();
     w.Rippenabstand = 0;
     w.Fvd = -10;
     beanspruchungen(w);
     EXPECT_EQ(w.AnzahlRippen.value(), 1);
     EXPECT_NEAR(w.FcdVeraenderlich(1).operator Zahl().value(), 10, eps);
-    EXPECT_NEAR(w.Ftd(1).operator Zahl().value(), 0, eps);
+    EXPECT_NEAR(w.Ftd(1).operator Zahl().value(), 10, eps);
+
+    w.Fcgd = -14;  // lifts more than the edge presses
+    beanspruchungen(w);
+    EXPECT_NEAR(w.Ftd(1).operator Zahl().value(), 14 - 10 + 10, eps);
 }
 
 // Exact distribution: OSB one-sided, three ribs at 625 mm on 1.25 m, no wind.
