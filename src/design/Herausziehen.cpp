@@ -1,8 +1,7 @@
 #include "design/Herausziehen.h"
 
-#include <array>
-
 #include "design/Rippen.h"
+#include "fasteners/Ausziehen.h"
 #include "model/Kataloge.h"
 
 namespace rippenscheibe {
@@ -12,118 +11,111 @@ namespace {
 constexpr Seite S1 = Seite::eins;
 constexpr double kein = 0.000001;  // N: too little for any proof, but no division by zero
 
-struct Klassenzeile {
-    double sondernaegel;  // factors c of f1k and f2k = c * 10^-6 * rho²
-    double schrauben;
-    double kopf;
-};
-
-// clang-format off
-// Withdrawal parameters by load-capacity class 1A to 3C (DIN 1052 (2008), tables 14 and 15).
-constexpr std::array<Klassenzeile, 9> klassen{{
-    {30, 60,  60},
-    {30, 60,  80},
-    {30, 60, 100},
-    {40, 70,  60},
-    {40, 70,  80},
-    {40, 70, 100},
-    {50, 80,  60},
-    {50, 80,  80},
-    {50, 80, 100},
-}};
-// clang-format on
-
-const Klassenzeile* klasse(const Wand& w) {
-    const int k = w.VMKlasse[S1].value();
-    return k >= 1 && k <= static_cast<int>(klassen.size()) ? &klassen[static_cast<std::size_t>(k) - 1]
-                                                           : nullptr;
-}
-
-// Parameters of one kind of fastener.
+// What sets the withdrawal of one kind of fastener apart.
 struct Ausziehart {
-    double mindestens;                    // least penetration as a multiple of d
-    Zahl f1k;                             // N/mm²; failed: not assigned
-    Zahl kopfparameter;                   // factor of f2k above 20 mm; failed: not assigned
-    Zahl kopfflaeche;                     // dk², mm²
-    Zahl duenn = Zahl::fehlgeschlagen();  // below this thickness no resistance, mm; failed: no such limit
-    bool f1kErstAb12 = false;             // f1k is assigned only where the thickness asks for it
+    int mindestens;            // least penetration as a multiple of d
+    Zahl f1k;                  // N/mm²; failed: not assigned
+    Zahl f2kUeber20;           // N/mm², sheathing above 20 mm; failed: not assigned
+    Zahl kopfflaeche;          // dk², mm²
+    bool duennOhne = false;    // no resistance at all below 8 mm of sheathing
+    bool f1kErstAb12 = false;  // f1k is assigned only where the thickness asks for it
 };
 
 // The resistance of one shank by the thickness of the sheathing, N.
 void widerstand(Wand& w, const Ausziehart& art) {
-    const Zahl d = w.d[S1];
-    const Zahl t = w.t[S1];
-    const Zahl schwelle = art.mindestens * d;
     if (!art.f1kErstAb12) w.f1k[S1] = art.f1k;
-    if (w.lef[S1] < schwelle || t < art.duenn) {
+    const Einbindung einbindung = pruefeEinbindung(w, S1, art.mindestens);
+    if (einbindung == Einbindung::zuKurz || (art.duennOhne && w.t[S1] < 8)) {
         w.Rxk[S1] = kein;
         return;
     }
-    // A penetration of exactly the least one matches no case and keeps the earlier value.
-    if (!(w.lef[S1] > schwelle)) return;
-    if (t < 12) {
-        w.Rxk[S1] = 400;
+    if (einbindung == Einbindung::grenze) return;
+    const Dickenband band = dickenband(w, S1);
+    if (band == Dickenband::unter12) {
+        w.Rxk[S1] = RxkDuennePlatte;
         return;
     }
     w.f1k[S1] = art.f1k;
-    // Meant: the head term has the fixed density 380 kg/m³.
-    w.f2k[S1] = t <= 20 ? Zahl(8) : art.kopfparameter * 1e-6 * (380.0 * 380.0);
-    w.Rxk[S1] = Min(w.f1k[S1] * d * w.lef[S1], w.f2k[S1] * art.kopfflaeche);
+    w.f2k[S1] = band == Dickenband::bis20 ? Zahl(f2kBis20) : art.f2kUeber20;
+    w.Rxk[S1] = Min(w.f1k[S1] * w.d[S1] * w.lef[S1], w.f2k[S1] * art.kopfflaeche);
 }
 
-void begrenze(Feld& lef, Zahl grenze) {
-    if (lef > grenze) lef = grenze;
+// f1k and f2k of a fastener by its class; failed when there is no such class.
+Zahl f1kNachKlasse(const Wand& w, double Tragfaehigkeitsklasse::*c) {
+    const Tragfaehigkeitsklasse* klasse = tragfaehigkeitsklasse(w, S1);
+    return klasse != nullptr ? ausziehparameter(klasse->*c, w.rhok) : Zahl::fehlgeschlagen();
+}
+Zahl f2kNachKlasse(const Wand& w) {
+    const Tragfaehigkeitsklasse* klasse = tragfaehigkeitsklasse(w, S1);
+    return klasse != nullptr ? kopfdurchziehparameter(klasse->kopf) : Zahl::fehlgeschlagen();
+}
+
+Zahl kopfquadrat(const Wand& w) { return w.dk[S1] * w.dk[S1]; }
+
+void widerstandNaegel(Wand& w) {
+    w.lef[S1] = w.ln[S1] - w.t[S1];
+    begrenzeEinbindelaenge(w, S1);
+    const Zahl f1k = w.Vorgebohrt[S1] ? Zahl(0) : ausziehparameter(cNagel, w.rhok);
+    widerstand(w, {mindesteinbindungNagel, f1k, kopfdurchziehparameter(cKopf), kopfquadrat(w)});
+}
+
+void widerstandSondernaegel(Wand& w) {
+    setzeEinbindelaenge(w, S1);
+    begrenzeEinbindelaenge(w, S1);
+    const Zahl f1k = f1kNachKlasse(w, &Tragfaehigkeitsklasse::sondernaegel);
+    widerstand(w, {mindesteinbindungNagel, w.Vorgebohrt[S1] ? beiwertVorgebohrt * f1k : f1k, f2kNachKlasse(w),
+                   kopfquadrat(w)});
+}
+
+void widerstandKlammern(Wand& w) {
+    w.lef[S1] = w.ln[S1] - w.t[S1];
+    begrenzeEinbindelaenge(w, S1);
+    widerstand(w, {.mindestens = mindesteinbindungKlammer,
+                   .f1k = ausziehparameter(cKlammer, w.rhok),
+                   .f2kUeber20 = kopfdurchziehparameter(cKopf),
+                   .kopfflaeche = 5.8 * (w.d[S1] * w.d[S1]),
+                   .duennOhne = true});
+    // Two shanks.
+    w.Rxk[S1] = w.beta >= 30 ? 2 * w.Rxk[S1] : 2 * 0.7 * w.Rxk[S1];
+}
+
+void widerstandSchrauben(Wand& w) {
+    setzeEinbindelaenge(w, S1);
+    widerstand(w, {mindesteinbindungSchraube, ausziehparameter(cSchraube, w.rhok),
+                   kopfdurchziehparameter(cKopf), kopfquadrat(w)});
+}
+
+void widerstandSchraubenMitZulassung(Wand& w) {
+    setzeEinbindelaenge(w, S1);
+    // Meant: thinner sheathing leaves f1k1 as it was.
+    widerstand(w, {.mindestens = mindesteinbindungSchraube,
+                   .f1k = f1kNachKlasse(w, &Tragfaehigkeitsklasse::schrauben),
+                   .f2kUeber20 = f2kNachKlasse(w),
+                   .kopfflaeche = kopfquadrat(w),
+                   .f1kErstAb12 = true});
 }
 
 void ausziehwiderstand(Wand& w) {
-    const Zahl d = w.d[S1];
-    const Zahl rho2 = w.rhok * w.rhok;
-    const Zahl kopf2 = w.dk[S1] * w.dk[S1];
-    const Zahl einschlag = w.ln[S1] - w.t[S1];
-    const bool vorgebohrt = w.Vorgebohrt[S1];
-    const Klassenzeile* zeile = klasse(w);
-    const Zahl kopfklasse = zeile != nullptr ? Zahl(zeile->kopf) : Zahl::fehlgeschlagen();
-
     switch (static_cast<Art>(w.VMArt[S1].value())) {
-        case Art::sondernaegel: {
-            w.lef[S1] = Min(einschlag, w.lg[S1]);
-            begrenze(w.lef[S1], 20 * d);
-            Zahl f1k = zeile != nullptr ? zeile->sondernaegel * 1e-6 * rho2 : Zahl::fehlgeschlagen();
-            if (vorgebohrt) f1k = 0.7 * f1k;
-            widerstand(w, {8, f1k, kopfklasse, kopf2});
-            break;
-        }
         case Art::naegel:
-            w.lef[S1] = einschlag;
-            begrenze(w.lef[S1], 20 * d);
-            widerstand(w, {8, vorgebohrt ? Zahl(0) : 18 * 1e-6 * rho2, 60, kopf2});
+            widerstandNaegel(w);
+            break;
+        case Art::sondernaegel:
+            widerstandSondernaegel(w);
             break;
         case Art::klammern:
-            w.lef[S1] = einschlag;
-            begrenze(w.lef[S1], 20 * d);
-            widerstand(w, {12, 40 * 1e-6 * rho2, 60, 5.8 * (d * d), 8});
-            // Two shanks.
-            w.Rxk[S1] = w.beta >= 30 ? 2 * w.Rxk[S1] : 2 * 0.7 * w.Rxk[S1];
+            widerstandKlammern(w);
             break;
         case Art::schrauben:
-            w.lef[S1] = Min(einschlag, w.lg[S1]);
-            widerstand(w, {4, 70 * 1e-6 * rho2, 60, kopf2});
+            widerstandSchrauben(w);
             break;
-        case Art::schraubenMitZulassung: {
-            w.lef[S1] = Min(einschlag, w.lg[S1]);
-            const Zahl f1k = zeile != nullptr ? zeile->schrauben * 1e-6 * rho2 : Zahl::fehlgeschlagen();
-            // Meant: thinner sheathing leaves f1k1 as it was.
-            widerstand(w, {.mindestens = 4,
-                           .f1k = f1k,
-                           .kopfparameter = kopfklasse,
-                           .kopfflaeche = kopf2,
-                           .f1kErstAb12 = true});
+        case Art::schraubenMitZulassung:
+            widerstandSchraubenMitZulassung(w);
             break;
-        }
         default:
             w.Rxk[S1] = kein;
     }
-    w.Rxd[S1] = w.kmodVM[S1] * w.Rxk[S1] / 1.3;
+    setzeRxd(w, S1);
 }
 
 }  // namespace

@@ -4,43 +4,23 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double gammaAusziehen = 1.3;
 constexpr double anteilAusziehen = 0.25;
-constexpr double rohdichteKopf = 380;
 
 }  // namespace
-
-void setzeEinbindelaenge(Wand& w, Seite n) { w.lef[n] = Min(w.ln[n] - w.t[n], w.lg[n]); }
-
-Zahl ausziehparameter(double c, Zahl rho) { return c * 1e-6 * pow(rho, 2); }
-Zahl kopfdurchziehparameter(double c) { return ausziehparameter(c, rohdichteKopf); }
-
-Einbindung pruefeEinbindung(const Wand& w, Seite n, int vielfaches) {
-    if (w.lef[n] < vielfaches * w.d[n]) return Einbindung::zuKurz;
-    if (w.lef[n] > vielfaches * w.d[n]) return Einbindung::genuegt;
-    return Einbindung::grenze;
-}
-
-Dickenband dickenband(const Wand& w, Seite n) {
-    if (w.t[n] < 12) return Dickenband::unter12;
-    return w.t[n] <= 20 ? Dickenband::bis20 : Dickenband::ueber20;
-}
 
 Zahl ausziehtragfaehigkeit(const Wand& w, Seite n) {
     return Min(w.f1k[n] * w.d[n] * w.lef[n], w.f2k[n] * pow(w.dk[n], 2));
 }
 
-void setzeRxkNachDicke(Wand& w, Seite n, double cKopf) {
+void setzeRxkNachDicke(Wand& w, Seite n, double kopf) {
     const Dickenband band = dickenband(w, n);
     if (band == Dickenband::unter12) {
         w.Rxk[n] = RxkDuennePlatte;
         return;
     }
-    w.f2k[n] = band == Dickenband::bis20 ? Zahl(f2kBis20) : kopfdurchziehparameter(cKopf);
+    w.f2k[n] = band == Dickenband::bis20 ? Zahl(f2kBis20) : kopfdurchziehparameter(kopf);
     w.Rxk[n] = ausziehtragfaehigkeit(w, n);
 }
-
-void setzeRxd(Wand& w, Seite n) { w.Rxd[n] = w.kmodVM[n] * w.Rxk[n] / gammaAusziehen; }
 
 void setzeDeltaRk(Wand& w, Seite n, double anteil) {
     w.deltaRk[n] = Min(anteilAusziehen * w.Rxk[n], anteil * w.Rk[n]);

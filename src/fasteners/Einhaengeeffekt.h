@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fasteners/Ausziehen.h"
 #include "fasteners/Grundlagen.h"
 
 // Rope effect: the share of the withdrawal capacity that raises the shear capacity of screws and special
@@ -7,32 +8,11 @@
 
 namespace rippenscheibe {
 
-// lef = the smaller of ln - t and lg.
-void setzeEinbindelaenge(Wand& w, Seite n);
-
-// c * 10^-6 * rho², N/mm².
-Zahl ausziehparameter(double c, Zahl rho);
-// The same for the head, always with the density 380 kg/m³ and not that of the ribs.
-Zahl kopfdurchziehparameter(double c);
-
-// At lef = m * d exactly the fastener is neither too short nor long enough: Rxk keeps its earlier value.
-enum class Einbindung { zuKurz, grenze, genuegt };
-Einbindung pruefeEinbindung(const Wand& w, Seite n, int vielfaches);
-
-// Bands of the sheathing thickness: below 12 mm Rxk is a fixed value, up to 20 mm f2k is.
-enum class Dickenband { unter12, bis20, ueber20 };
-Dickenband dickenband(const Wand& w, Seite n);
-
-inline constexpr double RxkDuennePlatte = 400;
-inline constexpr double f2kBis20 = 8;
-
 // min(f1k * d * lef; f2k * dk²).
 Zahl ausziehtragfaehigkeit(const Wand& w, Seite n);
 // Rxk by the thickness band for a fastener that reaches deep enough, with f1k as it stands. Writes f2k in the
-// bands from 12 mm on; cKopf is the c of the head above 20 mm.
-void setzeRxkNachDicke(Wand& w, Seite n, double cKopf);
-// Rxd = kmodVM * Rxk / 1.3.
-void setzeRxd(Wand& w, Seite n);
+// bands from 12 mm on; kopf is the c of the head above 20 mm.
+void setzeRxkNachDicke(Wand& w, Seite n, double kopf);
 
 // The gain, 0.25 times the withdrawal capacity and at most anteil * Rk or anteil * Rd.
 void setzeDeltaRk(Wand& w, Seite n, double anteil);

@@ -9,9 +9,6 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int mindesteinbindung = 4;  // times d, for the withdrawal
-constexpr double cAusziehen = 70;
-constexpr double cKopf = 60;
 constexpr double anteilEinhaengen = 1.0;  // the gain may reach the whole shear capacity
 
 // Smallest head diameter; it holds for these three diameters exactly and for no other. mm.
@@ -56,9 +53,9 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     // Side difference: side 1, simplified, leaves f1k1 alone, so that the minimum below works with what an
     // earlier calculation left there, 0 after program start. Meant.
     if (!(n == Seite::eins && verfahren == Verfahren::vereinfacht)) {
-        w.f1k[n] = ausziehparameter(cAusziehen, w.rhok);
+        w.f1k[n] = ausziehparameter(cSchraube, w.rhok);
     }
-    switch (pruefeEinbindung(w, n, mindesteinbindung)) {
+    switch (pruefeEinbindung(w, n, mindesteinbindungSchraube)) {
         case Einbindung::zuKurz:
             w.Rxk[n] = 0;
             break;

@@ -9,35 +9,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int mindesteinbindung = 4;  // times d, for the withdrawal
 constexpr double anteilEinhaengen = 1.0;
-
-// Withdrawal by load-capacity class: f1k = auszieh * 10^-6 * rhok², f2k above 20 mm = kopf * 10^-6 * 380².
-struct Tragfaehigkeitsklasse {
-    double auszieh;
-    double kopf;
-};
-// clang-format off
-constexpr std::array<Tragfaehigkeitsklasse, 9> klassen{{
-    {60,  60},  // 1A
-    {60,  80},  // 1B
-    {60, 100},  // 1C
-    {70,  60},  // 2A
-    {70,  80},  // 2B
-    {70, 100},  // 2C
-    {80,  60},  // 3A
-    {80,  80},  // 3B
-    {80, 100},  // 3C
-}};
-// clang-format on
-static_assert(klassen.size() == 9);
-
-// The class of side n; nullptr for a number outside 1 to 9, which only a file can hold.
-const Tragfaehigkeitsklasse* klasse(const Wand& w, Seite n) {
-    const int nummer = w.VMKlasse[n].value();
-    const bool vorhanden = nummer >= 1 && nummer <= static_cast<int>(klassen.size());
-    return vorhanden ? &klassen[static_cast<std::size_t>(nummer) - 1] : nullptr;
-}
 
 bool randrippeZuDuennFuerD1(const Wand& w, Seite n) {
     return w.hRandrippe < 14 * w.d[Seite::eins] && !w.Vorgebohrt[n];
@@ -77,8 +49,8 @@ void setzeRxkTiefGenug(Wand& w, Seite n, Verfahren verfahren) {
         w.Rxk[n] = RxkDuennePlatte;
         return;
     }
-    const Tragfaehigkeitsklasse* k = klasse(w, n);
-    if (k != nullptr) w.f1k[n] = ausziehparameter(k->auszieh, w.rhok);
+    const Tragfaehigkeitsklasse* k = tragfaehigkeitsklasse(w, n);
+    if (k != nullptr) w.f1k[n] = ausziehparameter(k->schrauben, w.rhok);
     if (band == Dickenband::bis20) {
         w.f2k[n] = f2kBis20;
     } else if (k != nullptr) {
@@ -91,7 +63,7 @@ void setzeRxkTiefGenug(Wand& w, Seite n, Verfahren verfahren) {
 
 void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     setzeEinbindelaenge(w, n);
-    switch (pruefeEinbindung(w, n, mindesteinbindung)) {
+    switch (pruefeEinbindung(w, n, mindesteinbindungSchraube)) {
         case Einbindung::zuKurz:
             w.Rxk[n] = 0;
             break;
@@ -107,7 +79,7 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
 // it. Meant.
 bool laesstRxdStehen(const Wand& w, Seite n) {
     return n == Seite::zwei && dickenband(w, n) == Dickenband::bis20 &&
-           pruefeEinbindung(w, n, mindesteinbindung) == Einbindung::genuegt;
+           pruefeEinbindung(w, n, mindesteinbindungSchraube) == Einbindung::genuegt;
 }
 
 constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen, laesstRxdStehen};

@@ -8,16 +8,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int mindesteinbindung = 8;       // times d, for the withdrawal
-constexpr int groessteEinbindung = 20;     // times d
-constexpr double cAusziehen = 50;          // classes 3A to 3C
-constexpr double beiwertVorgebohrt = 0.7;  // of f1k
-constexpr double anteilEinhaengen = 0.5;   // the gain reaches half the shear capacity at most
-
-// Head parameter above 20 mm thickness, c of c * 10^-6 * 380², of the classes that have a rope effect.
-constexpr int ersteKlasse = 7;
-constexpr std::array<double, 3> cKopf{60, 80, 100};  // 3A, 3B, 3C
-static_assert(cKopf.size() == 3);
+constexpr double anteilEinhaengen = 0.5;  // the gain reaches half the shear capacity at most
 
 bool dickerAls8(const Wand& w, Seite n) { return w.d[n] > 8; }
 
@@ -44,27 +35,26 @@ void setzeGruppen(Wand& w, Seite n) {
 // lef, f1k, f2k and Rxk. Classes below 3A have no withdrawal capacity.
 void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     setzeEinbindelaenge(w, n);
-    if (w.lef[n] > groessteEinbindung * w.d[n]) w.lef[n] = groessteEinbindung * w.d[n];
-
-    const int klasse = w.VMKlasse[n].value() - ersteKlasse;
-    if (klasse < 0 || klasse >= static_cast<int>(cKopf.size())) {
+    begrenzeEinbindelaenge(w, n);
+    if (!istKlasse3(w, n)) {
         w.Rxk[n] = 0;
         return;
     }
+    const Tragfaehigkeitsklasse& klasse = *tragfaehigkeitsklasse(w, n);
     // The simplified method has no density: f1k is 0 there, and only a sheathing below 12 mm gives a gain.
     // Meant.
     const Zahl rho = verfahren == Verfahren::vereinfacht ? Zahl(0) : Zahl(w.rhok);
-    const Zahl f1k = ausziehparameter(cAusziehen, rho);
+    const Zahl f1k = ausziehparameter(klasse.sondernaegel, rho);
     w.f1k[n] = w.Vorgebohrt[n] ? beiwertVorgebohrt * f1k : f1k;
 
-    const Einbindung einbindung = pruefeEinbindung(w, n, mindesteinbindung);
+    const Einbindung einbindung = pruefeEinbindung(w, n, mindesteinbindungNagel);
     if (einbindung == Einbindung::zuKurz) {
         w.Rxk[n] = 0;
         return;
     }
     // At lef = 8 d exactly the simplified method keeps Rxk, the exact one goes on. Meant.
     if (einbindung == Einbindung::grenze && verfahren == Verfahren::vereinfacht) return;
-    setzeRxkNachDicke(w, n, cKopf[static_cast<std::size_t>(klasse)]);
+    setzeRxkNachDicke(w, n, klasse.kopf);
 }
 
 constexpr Einhaengeregel einhaengeregel{setzeRxk, anteilEinhaengen};
