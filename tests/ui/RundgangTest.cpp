@@ -1,5 +1,6 @@
 #include "support/Gerechnet.h"
 #include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Symbol.h"
 #include "ui/input/Form5_Verbindungsmittel.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
@@ -87,6 +88,18 @@ TEST_F(Rundgang, EveryWindowNamesItsControlsAndReachesThemByTheTabKey) {
     }
     Form5 verbindungsmittel(programm, meldungen, nullptr);
     EXPECT_TRUE(mitFenster([&] { klicke(verbindungsmittel, "ComInfo2"); }, pruefeFenster));
+}
+
+TEST_F(Rundgang, NoIconIsEmpty) {
+    const QStringList dateien = QDir(QStringLiteral(":/icons")).entryList({QStringLiteral("*.svg")});
+    EXPECT_GE(dateien.size(), 17);
+    for (const QString& datei : dateien) {
+        const QImage bild = symbol(QFileInfo(datei).baseName()).pixmap(24, 24).toImage();
+        bool gezeichnet = false;
+        for (int i = 0; i < bild.width() * bild.height() && !gezeichnet; ++i)
+            gezeichnet = qAlpha(bild.pixel(i % bild.width(), i / bild.width())) > 100;
+        EXPECT_TRUE(gezeichnet) << datei.toStdString();
+    }
 }
 
 TEST_F(Rundgang, DialogsBeginInTheirFirstFieldAndEndWithTheirButtons) {

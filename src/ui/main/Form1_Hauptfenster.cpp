@@ -35,6 +35,7 @@
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Materialtabelle.h"
 #include "ui/basics/Meldungen.h"
+#include "ui/basics/Symbol.h"
 #include "ui/basics/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/help/Handbuch.h"
@@ -69,7 +70,7 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     if (programm.fenster == nullptr) programm.fenster = std::make_unique<Fensterfabrik>();
     setObjectName(QStringLiteral("Form1"));
     setAccessibleName(QStringLiteral("Hauptfenster"));
-    setWindowIcon(QIcon(QStringLiteral(":/icons/rippenscheibe.svg")));
+    setWindowIcon(symbol(QStringLiteral("rippenscheibe")));
     setAcceptDrops(true);
 
     auto* mitte = new QSplitter(Qt::Horizontal, this);
@@ -387,8 +388,8 @@ void Form1::setzeFarben() {
     einsehen_->setPalette(akzent);
     const bool dunkel = palette().color(QPalette::Window).lightness() < 128;
     for (const Symboltraeger& traeger : symbole_)
-        traeger.setze(QIcon(QStringLiteral(":/icons/%1%2.svg")
-                                .arg(traeger.name, dunkel ? QStringLiteral("-dunkel") : QString())));
+        traeger.setze(
+            symbol(QStringLiteral("%1%2").arg(traeger.name, dunkel ? QStringLiteral("-dunkel") : QString())));
 }
 
 // ---- Start and end ----
