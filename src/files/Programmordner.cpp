@@ -24,7 +24,8 @@ fs::path datenordner() {
 fs::path programmordner() {
     std::error_code fehler;
     const fs::path daneben = fs::read_symlink("/proc/self/exe", fehler).parent_path();
-    if (!fehler && access(daneben.c_str(), W_OK) == 0) return daneben;
+    const bool installiert = daneben.filename() == "bin";
+    if (!fehler && !installiert && access(daneben.c_str(), W_OK) == 0) return daneben;
     const fs::path daten = datenordner();
     return daten.empty() ? daneben : daten;
 }
