@@ -11,6 +11,7 @@ namespace rippenscheibe {
 namespace {
 
 constexpr double mmJeZoll = 25.4;
+constexpr double punkteJeZoll = 72.0;
 
 QColor qfarbe(Farbe farbe) { return QColor::fromRgb(static_cast<QRgb>(farbe)); }
 
@@ -35,7 +36,6 @@ QFont papierschrift(const Schrift& schrift) {
 }
 
 Schriftmass schriftmass(const Schrift& schrift) {
-    constexpr double punkteJeZoll = 72;
     constexpr int probe = 1000;  // px, large enough to measure the outlines
     QFont font = papierschrift(schrift);
     font.setPixelSize(probe);
@@ -54,7 +54,9 @@ void Seitenmaler::setzeSchrift(const Schrift& schrift) {
     const double dichte = painter_.device()->logicalDpiY();
     QFont font = papierschrift(schrift);
     font.setPointSizeF(schrift.groesse * mm_ * mmJeZoll / dichte);
+    font.setUnderline(false);
     painter_.setFont(font);
+    schrift_ = schrift;
     mass_ = schriftmass(schrift);
     textfarbe_ = qfarbe(schrift.farbe);
 }
@@ -62,8 +64,21 @@ void Seitenmaler::setzeSchrift(const Schrift& schrift) {
 void Seitenmaler::setzeStrich(double breite) { strich_ = breite * mm_; }
 
 void Seitenmaler::text(double x, double y, std::string_view text) {
+    const QPointF grundlinie(x * mm_, (y + mass_.oberlaenge) * mm_);
     painter_.setPen(textfarbe_);
-    painter_.drawText(QPointF(x * mm_, (y + mass_.oberlaenge) * mm_), qtext(text));
+    painter_.drawText(grundlinie, qtext(text));
+    if (schrift_.unterstrichen)
+        unterstreiche(grundlinie,
+                      QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(qtext(text)));
+}
+
+// The fonts say where their underline lies, and some of them cut through the letters: this one stands clear
+// below them.
+void Seitenmaler::unterstreiche(QPointF grundlinie, double breite) {
+    constexpr double tiefe = 0.11;  // em below the base line
+    const double em = schrift_.groesse * mm_ * mmJeZoll / punkteJeZoll;
+    const double dicke = (schrift_.fett ? 0.09 : 0.06) * em;
+    painter_.fillRect(QRectF(grundlinie + QPointF(0.0, tiefe * em), QSizeF(breite, dicke)), textfarbe_);
 }
 
 void Seitenmaler::rahmen(const Rechteck& rechteck, Farbe farbe) {

@@ -48,6 +48,7 @@ class Seitenmaler final : public Zeichenflaeche {
 
   private:
     QRectF inEinheiten(const Rechteck& r) const;
+    void unterstreiche(QPointF grundlinie, double breite);
 
     QPainter& painter_;
     double mm_;
@@ -55,7 +56,8 @@ class Seitenmaler final : public Zeichenflaeche {
     std::function<void()> neueSeite_;
     QColor textfarbe_ = Qt::black;
     double strich_ = 0.0;  // painter units
-    Schriftmass mass_;     // of the current font
+    Schrift schrift_;      // the current font
+    Schriftmass mass_;     // of it
 };
 
 }  // namespace rippenscheibe
