@@ -97,6 +97,15 @@ std::size_t stelle(std::vector<T>& tabelle, const T& wert) {
     return tabelle.size() - 1;
 }
 
+bool istLeer(const Absatz& absatz) { return absatz.laeufe.empty() && absatz.bilder.empty(); }
+
+// A line that is bold from end to end. The running text may have been edited, so it carries no styles.
+bool istUeberschrift(const Absatz& absatz) {
+    return !absatz.laeufe.empty() && absatz.bilder.empty() &&
+           std::all_of(absatz.laeufe.begin(), absatz.laeufe.end(),
+                       [](const Textlauf& lauf) { return lauf.schrift.fett; });
+}
+
 class Schreiber {
   public:
     std::string schreibe(const Fliesstext& text) {
@@ -107,7 +116,8 @@ class Schreiber {
 
   private:
     void schreibeAbsatz(const Absatz& absatz) {
-        rumpf_ += "\\pard\\plain\\f0\\fs20 ";
+        bleibtBeimNaechsten_ = istUeberschrift(absatz) || (istLeer(absatz) && bleibtBeimNaechsten_);
+        rumpf_ += bleibtBeimNaechsten_ ? "\\pard\\keepn\\plain\\f0\\fs20 " : "\\pard\\plain\\f0\\fs20 ";
         for (const Textlauf& lauf : absatz.laeufe) schreibeLauf(lauf);
         for (const Textbild& bild : absatz.bilder) schreibeBild(bild);
         rumpf_ += "\\par\n";
@@ -153,12 +163,14 @@ class Schreiber {
             k += "\\red" + std::to_string((rgb >> 16U) & 0xFFU) + "\\green" +
                  std::to_string((rgb >> 8U) & 0xFFU) + "\\blue" + std::to_string(rgb & 0xFFU) + ";";
         }
-        return k + "}\n\\paperw11906\\paperh16838\\margl1134\\margr1134\\deflang1031\n";
+        // A proof line with its formula is 177 mm long at most: the right margin is narrower than the left.
+        return k + "}\n\\paperw11906\\paperh16838\\margl1134\\margr567\\deflang1031\n";
     }
 
     std::vector<std::string> schriften_;
     std::vector<Farbe> farben_;
     std::string rumpf_;
+    bool bleibtBeimNaechsten_ = false;  // a heading, or blank lines behind one
 };
 
 }  // namespace

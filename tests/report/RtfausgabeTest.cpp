@@ -45,5 +45,15 @@ TEST(Rtfausgabe, APictureIsItsBytesAndItsSize) {
     EXPECT_NE(rtf.find("{\\pict\\pngblip\\picwgoal1440\\pichgoal2880\n89504e4700}"), std::string::npos);
 }
 
+TEST(Rtfausgabe, AHeadingKeepsWithTheFirstLineBelowIt) {
+    const Absatz kopf{{{"1. System", schrift(Stil::ueberschrift1)}}};
+    const Absatz zeile{{{"l = 5,000 m", {}}}};
+    const std::string rtf = alsRtf({zeile, kopf, {}, kopf, {}, zeile, {}, zeile});
+    std::string absaetze;  // k: keeps with the next
+    for (std::size_t i = rtf.find("\\pard"); i != std::string::npos; i = rtf.find("\\pard", i + 1))
+        absaetze += rtf.compare(i, 11, "\\pard\\keepn") == 0 ? 'k' : '-';
+    EXPECT_EQ(absaetze, "-kkkk---");
+}
+
 }  // namespace
 }  // namespace rippenscheibe
