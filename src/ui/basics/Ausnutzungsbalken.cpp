@@ -144,7 +144,7 @@ void Ausnutzungsbalken::setzeNamensbreite(int pixel) {
 }
 
 int Ausnutzungsbalken::namensbreite() const {
-    return namensbreite_ > 0 ? namensbreite_ : fontMetrics().horizontalAdvance(wert_.name);
+    return namensbreite_ > 0 ? namensbreite_ : fontMetrics().horizontalAdvance(wert_.name) + 2;
 }
 
 void Ausnutzungsbalken::setzeUrteilInWorten(bool inWorten) {
@@ -163,9 +163,18 @@ QString Ausnutzungsbalken::werttext() const {
     return inWorten_ ? text + QLatin1Char(' ') + urteilswort(wert_.urteil) : text;
 }
 
+// As wide as any verdict, so that the marks of bars below each other are in line.
 int Ausnutzungsbalken::wertbreite() const {
-    const int usual = fontMetrics().horizontalAdvance(QStringLiteral("✗ 88,88"));
-    return std::max(usual, fontMetrics().horizontalAdvance(werttext()));
+    int breite = std::max(fontMetrics().horizontalAdvance(QStringLiteral("✗ 88,88")),
+                          fontMetrics().horizontalAdvance(werttext()));
+    if (!inWorten_) return breite;
+    using enum Balkenurteil;
+    for (const Balkenurteil urteil : {ueberschritten, ohneBedarf, ohneNachweis}) {
+        const QString zahl = urteil == ueberschritten ? QStringLiteral("88,88 ") : QString();
+        const QString text = urteilszeichen(urteil) + QLatin1Char(' ') + zahl + urteilswort(urteil);
+        breite = std::max(breite, fontMetrics().horizontalAdvance(text));
+    }
+    return breite;
 }
 
 QSize Ausnutzungsbalken::sizeHint() const {

@@ -103,7 +103,6 @@ QString laengentext(double mm, char dezimalzeichen) {
 QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z) {
     const int art = w.VMArt[n].value();
     const QString name = utf8text(eintrag(VMArten(), art));
-    if (art == 1) return name + QLatin1Char(' ') + utf8text(nagelname(w.VMTyp[n].value()));
     const char zeichen = z.stil().dezimalzeichen;
     return name + QLatin1Char(' ') + durchmessertext(w.d[n].value(), zeichen) + QLatin1Char('x') +
            laengentext(w.ln[n].value(), zeichen);

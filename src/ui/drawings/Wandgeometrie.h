@@ -49,7 +49,7 @@ QString plattenname(const Wand& w, Seite n);
 QString durchmessertext(double mm, char dezimalzeichen);
 // A length with the places it needs: "50", "52,5".
 QString laengentext(double mm, char dezimalzeichen);
-// "Nägel 2,7x50", "Klammern 1,53x50".
+// Kind, diameter and length as entered, whatever row of a list they came from: "Nägel 2,7x50".
 QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z);
 // The last word of the anchor's name ("HTT5"), or the name of the free anchor.
 QString ankerkurzname(const Wand& w);
