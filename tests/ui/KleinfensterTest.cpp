@@ -361,8 +361,12 @@ TEST_F(EigeneMaterialienFenster, EditingOverwritesTheRowAndValuesOutOfRangeAreHe
     tippe(fenster, "TextBox2(17)", "42");
     tippe(fenster, "TextBox2(1)", "0,05");
     klick(fenster, "Command3");
+    EXPECT_DOUBLE_EQ(tabelle()(7, 1).value(), 2);
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+    tippe(fenster, "TextBox2(1)", "4");
+    klick(fenster, "Command3");
     ASSERT_EQ(tabelle().zeilen.size(), 1U);
-    EXPECT_DOUBLE_EQ(tabelle()(2, 1).value(), 3);
+    EXPECT_DOUBLE_EQ(tabelle()(2, 1).value(), 4);
     EXPECT_DOUBLE_EQ(tabelle()(7, 1).value(), 5);
     EXPECT_DOUBLE_EQ(tabelle()(20, 1).value(), 42);
 }

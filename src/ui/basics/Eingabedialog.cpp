@@ -89,6 +89,7 @@ void Eingabedialog::skizziere(Wandansicht* ansicht) {
 }
 
 void Eingabedialog::uebernehmen() {
+    if (!eingabenGueltig(*this, meldungen_)) return;
     const std::string vorher = positionstext(programm_.w);
     schreibe(programm_.w);
     if (positionstext(programm_.w) != vorher) programm_.setzeGesichert(false);

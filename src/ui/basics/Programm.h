@@ -72,6 +72,7 @@ class Programm : public QObject {
 
   Q_SIGNALS:
     void geaendert();                         // the record changed
+    void ersetzt();                           // another position took the place of the one before
     void zustandGeaendert();                  // Gesichert, Dateiname or the caption changed
     void dateiBenutzt(const QString& datei);  // a dialog saved the position under this name
 

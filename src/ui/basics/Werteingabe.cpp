@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "basis/Zahlenformat.h"
+#include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 
 namespace rippenscheibe {
@@ -71,8 +72,15 @@ Werteingabe::Werteingabe(const QString& name, Wertvorgabe vorgabe, QWidget* pare
 void Werteingabe::setzeWert(double wert) {
     const bool neu = wert != wert_;
     wert_ = wert;
+    darfLeerSein_ = false;
     zeigeWert();
     if (neu) Q_EMIT geaendert(wert_);
+}
+
+void Werteingabe::setzeLeer() {
+    setzeWert(0.0);
+    darfLeerSein_ = true;
+    zeigeWert();
 }
 
 QString Werteingabe::bereichstext() const {
@@ -83,10 +91,22 @@ QString Werteingabe::bereichstext() const {
     return einheit.isEmpty() ? text : text + QLatin1Char(' ') + einheit;
 }
 
+QString Werteingabe::bezeichnung() const {
+    return vorgabe_.beschriftung.section(QLatin1Char('='), 0, 0).simplified();
+}
+
 void Werteingabe::setzeInZeile(QGridLayout* grid, int zeile, int spalte) {
-    grid->addWidget(beschriftung_, zeile, spalte);
-    grid->addWidget(this, zeile, spalte + 1);
-    grid->addWidget(einheit_, zeile, spalte + 2);
+    zelle_ = new QWidget(parentWidget());
+    auto* reihen = new QGridLayout(zelle_);
+    reihen->setContentsMargins(0, 0, 0, 0);
+    reihen->setHorizontalSpacing(8);
+    reihen->setVerticalSpacing(0);
+    reihen->setColumnStretch(1, 1);
+    reihen->addWidget(this, 0, 0);
+    reihen->addWidget(einheit_, 0, 1);
+    beschriftung_->setMinimumHeight(sizeHint().height());  // beside the field, not beside its range
+    grid->addWidget(beschriftung_, zeile, spalte, Qt::AlignTop);
+    grid->addWidget(zelle_, zeile, spalte + 1, 1, 2, Qt::AlignTop);
 }
 
 void Werteingabe::setzeAktiv(bool aktiv) {
@@ -97,18 +117,28 @@ void Werteingabe::setzeAktiv(bool aktiv) {
 
 void Werteingabe::uebernimmText(const QString& text) {
     const std::optional<double> gelesen = zahlAus(text);
-    const bool gut = gelesen && *gelesen >= vorgabe_.min && *gelesen <= vorgabe_.max;
+    const bool geleert = darfLeerSein_ && text.isEmpty();
+    const bool gut = geleert || (gelesen && erlaubt(*gelesen));
     setzeAbgelehnt(!gut);
-    if (!gut || *gelesen == wert_) return;
-    wert_ = *gelesen;
+    if (geleert)
+        aendere(0.0);
+    else
+        aendere(gut ? *gelesen : vorher_);
+}
+
+void Werteingabe::aendere(double wert) {
+    if (wert == wert_) return;
+    wert_ = wert;
     Q_EMIT geaendert(wert_);
 }
 
 void Werteingabe::zeigeWert() {
-    const QString text = formatiert(vorgabe_.maske, wert_);
+    const bool leer = darfLeerSein_ && wert_ == 0.0;
+    const QString text = leer ? QString() : formatiert(vorgabe_.maske, wert_);
     // A value may need more characters than the user may type; it is never cut.
     if (vorgabe_.hoechstlaenge > 0) setMaxLength(std::max<int>(vorgabe_.hoechstlaenge, int(text.size())));
     if (text != this->text()) setText(text);
+    vorher_ = wert_;
     setzeAbgelehnt(false);
 }
 
@@ -122,32 +152,51 @@ void Werteingabe::setzeAbgelehnt(bool abgelehnt) {
     update();
 }
 
-// The allowed range beneath the field, over whatever stands there, so that nothing jumps.
+// The allowed range beneath the field. While one types it floats over whatever stands there, so that nothing
+// jumps; beneath a field that was left it takes its own place, so that it covers no other one.
 void Werteingabe::zeigeBereich() {
     if (!abgelehnt_ || !isVisible()) {
         if (bereich_ != nullptr) bereich_->hide();
         return;
     }
     if (bereich_ == nullptr) {
-        bereich_ = new QLabel(bereichstext(), window());
+        bereich_ = new QLabel(bereichstext());
         bereich_->setObjectName(objectName() + QStringLiteral("_Bereich"));
-        bereich_->setAutoFillBackground(true);
-        bereich_->setMargin(3);
-        bereich_->setFrameShape(QFrame::Box);
+        bereich_->setTextFormat(Qt::PlainText);
         bereich_->setAttribute(Qt::WA_TransparentForMouseEvents);
-        QPalette farben = palette();
-        farben.setColor(QPalette::Window, palette().color(QPalette::ToolTipBase));
-        farben.setColor(QPalette::WindowText, palette().color(QPalette::ToolTipText));
-        bereich_->setPalette(farben);
     }
+    if (bereich_->isVisible() && bereich_->parentWidget() == zelle_) return;
+    const bool schwebt = hasFocus() || zelle_ == nullptr;
+    bereich_->setAutoFillBackground(schwebt);
+    bereich_->setFrameShape(schwebt ? QFrame::Box : QFrame::NoFrame);
+    bereich_->setMargin(schwebt ? 3 : 0);
+    if (schwebt) {
+        lasseBereichSchweben();
+    } else {
+        bereich_->setPalette(QPalette());
+        static_cast<QGridLayout*>(zelle_->layout())->addWidget(bereich_, 1, 0, 1, 2);
+    }
+    bereich_->show();
+}
+
+// Over the window or what scrolls in it, above the field where there is no room beneath.
+void Werteingabe::lasseBereichSchweben() {
+    QWidget* flaeche = parentWidget();
+    while (!flaeche->isWindow() &&
+           flaeche->parentWidget()->objectName() != QStringLiteral("qt_scrollarea_viewport"))
+        flaeche = flaeche->parentWidget();
+    bereich_->setParent(flaeche);
+    QPalette farben = palette();
+    farben.setColor(QPalette::Window, palette().color(QPalette::ToolTipBase));
+    farben.setColor(QPalette::WindowText, palette().color(QPalette::ToolTipText));
+    bereich_->setPalette(farben);
     bereich_->adjustSize();
-    QPoint ort = mapTo(window(), QPoint(0, height() + 1));
-    ort.setX(std::max(0, std::min(ort.x(), window()->width() - bereich_->width() - 4)));
-    if (ort.y() + bereich_->height() > window()->height())
+    QPoint ort = mapTo(flaeche, QPoint(0, height() + 1));
+    ort.setX(std::max(0, std::min(ort.x(), flaeche->width() - bereich_->width() - 4)));
+    if (ort.y() + bereich_->height() > flaeche->height())
         ort.setY(ort.y() - height() - 2 - bereich_->height());
     bereich_->move(ort);
     bereich_->raise();
-    bereich_->show();
 }
 
 void Werteingabe::paintEvent(QPaintEvent* event) {
@@ -159,17 +208,47 @@ void Werteingabe::paintEvent(QPaintEvent* event) {
     maler.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 2, 2);
 }
 
+void Werteingabe::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    zeigeBereich();
+}
+
 void Werteingabe::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    zeigeBereich();
+    if (abgelehnt_) return;
+    vorher_ = wert_;
     // A good text is put in order when the format shows all of it; else it stays as it was typed.
-    const std::optional<double> gezeigt = zahlAus(formatiert(vorgabe_.maske, wert_));
-    if (abgelehnt_ || gezeigt == wert_) zeigeWert();
+    if (zahlAus(formatiert(vorgabe_.maske, wert_)) == wert_) zeigeWert();
 }
 
 void Werteingabe::hideEvent(QHideEvent* event) {
     QLineEdit::hideEvent(event);
+    if (abgelehnt_ && !isVisibleTo(window())) zeigeWert();
     if (bereich_ != nullptr) bereich_->hide();
+}
+
+void Werteingabe::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled() && abgelehnt_) zeigeWert();
+}
+
+Werteingabe* abgelehntesFeld(const QWidget& fenster) {
+    for (auto* feld : fenster.findChildren<Werteingabe*>())
+        if (feld->abgelehnt() && feld->window() == &fenster) return feld;
+    return nullptr;
+}
+
+bool eingabenGueltig(QWidget& fenster, Meldungen& meldungen) {
+    Werteingabe* feld = abgelehntesFeld(fenster);
+    if (feld == nullptr) return true;
+    meldungen.kritisch(&fenster, QStringLiteral(" Fehler"),
+                       QStringLiteral("Die Eingabe \"%1\" bei \"%2\" ist unzulässig.\n\n%3")
+                           .arg(feld->text(), feld->bezeichnung(), feld->bereichstext()));
+    feld->setFocus(Qt::OtherFocusReason);
+    feld->selectAll();
+    return false;
 }
 
 }  // namespace rippenscheibe

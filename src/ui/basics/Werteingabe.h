@@ -9,6 +9,8 @@ class QGridLayout;
 
 namespace rippenscheibe {
 
+class Meldungen;
+
 // What one labelled value input shows and accepts.
 struct Wertvorgabe {
     QString beschriftung;  // "Wandlänge l ="
@@ -23,10 +25,12 @@ struct Wertvorgabe {
 // Labelled value input: a label, a text box for a number, a unit. The text box is this widget, label and
 // unit are placed beside it by `setzeInZeile`.
 //
-// Comma and point are both the decimal mark; several marks or a grouping are refused. While the text is no
-// number or out of range the field shows it, the value stays the last good one and no change is told;
-// leaving the field brings the last good value back. A value written by the program is shown in its format
-// and keeps its full precision until the text is edited.
+// Comma and point are both the decimal mark; several marks or a grouping are refused. A good text counts at
+// once. A text that is no number or out of range stays, red and with its range beneath, until it is mended;
+// the value is then the one from before this editing began, so that no good beginning of a refused text
+// becomes a number. An editing begins in the field or with a value from the program, and ends when the field
+// is left with a good text. A value written by the program is shown in its format and keeps its full
+// precision until the text is edited. A field that is dimmed or hidden drops its refused text.
 class Werteingabe : public QLineEdit {
     Q_OBJECT
 
@@ -36,14 +40,20 @@ class Werteingabe : public QLineEdit {
     double wert() const { return wert_; }
     // Shows the value in its format. The range is not tested: the program may write what the user may not.
     void setzeWert(double wert);
+    // An empty field, which holds 0 and may be left empty, until it is filled.
+    void setzeLeer();
     bool abgelehnt() const { return abgelehnt_; }
+    // Whether the user might enter this value.
+    bool erlaubt(double wert) const { return wert >= vorgabe_.min && wert <= vorgabe_.max; }
     // "zulässig: 0,2 bis 100 m"
     QString bereichstext() const;
+    // What a message calls the field: "Wandlänge l".
+    QString bezeichnung() const;
 
     QLabel* beschriftung() const { return beschriftung_; }
     QLabel* einheit() const { return einheit_; }
 
-    // Label, field and unit in three columns of the grid, from column `spalte` on.
+    // Label in column `spalte` of the grid, field and unit over the next two.
     void setzeInZeile(QGridLayout* grid, int zeile, int spalte = 0);
     // Dims or lights label, field and unit together.
     void setzeAktiv(bool aktiv);
@@ -54,21 +64,34 @@ class Werteingabe : public QLineEdit {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void uebernimmText(const QString& text);
     void zeigeWert();
+    void aendere(double wert);
     void setzeAbgelehnt(bool abgelehnt);
     void zeigeBereich();
+    void lasseBereichSchweben();
 
     Wertvorgabe vorgabe_;
     double wert_ = 0.0;
+    double vorher_ = 0.0;  // the value before this editing began
+    bool darfLeerSein_ = false;
     bool abgelehnt_ = false;
     QLabel* beschriftung_;
     QLabel* einheit_;
-    QLabel* bereich_ = nullptr;  // lies over the window beneath the field while a value is refused
+    QWidget* zelle_ = nullptr;   // field and unit, and the range of a refused text that was left
+    QLabel* bereich_ = nullptr;  // beneath the field while a text is refused
 };
+
+// The first field of the window that holds a refused text, or nullptr.
+Werteingabe* abgelehntesFeld(const QWidget& fenster);
+// Whether no refused text stands in the window. Where one does, a box names its field and range, and the
+// field gets the focus: nothing is accepted, started or saved before it is mended.
+bool eingabenGueltig(QWidget& fenster, Meldungen& meldungen);
 
 // The number of a text: an optional sign, digits and at most one decimal mark, comma or point; nothing for
 // anything else.

@@ -67,7 +67,9 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
     QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
     ende->setDefault(true);
-    connect(ende, &QPushButton::clicked, this, &QDialog::accept);
+    connect(ende, &QPushButton::clicked, this, [this] {
+        if (eingabenGueltig(*this, meldungen_)) accept();
+    });
     connect(schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch")), &QPushButton::clicked, this,
             &QDialog::reject);
 

@@ -66,7 +66,7 @@ void Form2::baueQuerschnitte() {
         schild->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         grid(rahmen)->addWidget(schild, nummer, 0);
         erstes->setzeInZeile(grid(rahmen), nummer, 1);
-        zweites->setzeInZeile(grid(rahmen), nummer, 3);
+        zweites->setzeInZeile(grid(rahmen), nummer, 4);
     };
     zeile(0, QStringLiteral("Randrippen:"), bRandrippe_, hRandrippe_);
     zeile(1, QStringLiteral("Innenrippen:"), bInnenrippe_, hInnenrippe_);
@@ -79,9 +79,9 @@ void Form2::baueQuerschnitte() {
     QPushButton* info = knopf(QStringLiteral("ComInfo2"), QStringLiteral("Info zu Überständen"));
     connect(info, &QPushButton::clicked, this,
             [this] { oeffne(Fensterart::ueberstaende, programm_, meldungen_, this); });
-    grid(rahmen)->addWidget(links_, 3, 0, 1, 6);
-    grid(rahmen)->addWidget(rechts_, 4, 0, 1, 6);
-    grid(rahmen)->addWidget(info, 5, 0, 1, 6, Qt::AlignLeft);
+    grid(rahmen)->addWidget(links_, 3, 0, 1, 7);
+    grid(rahmen)->addWidget(rechts_, 4, 0, 1, 7);
+    grid(rahmen)->addWidget(info, 5, 0, 1, 7, Qt::AlignLeft);
     felder()->addWidget(rahmen);
 }
 

@@ -6,6 +6,7 @@
 
 #include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
+#include "ui/basics/Werteingabe.h"
 
 namespace rippenscheibe {
 
@@ -50,6 +51,7 @@ void Dateiablauf::sichern() {
 }
 
 void Dateiablauf::sichernUnter() {
+    if (!nichtsAbgelehnt()) return;
     const std::string vorher = std::exchange(programm_.Dateiname, std::string());
     programm_.Aktion = Dateiaktion::sichernUnter;
     programm_.SpeichernUnter = true;
@@ -83,7 +85,13 @@ Dateiablauf::Ausgang Dateiablauf::frage(Dateiaktion aktion) {
     return Ausgang::abgebrochen;
 }
 
+// A refused text in the main window counts as a save that failed.
+bool Dateiablauf::nichtsAbgelehnt() {
+    return fenster_ == nullptr || eingabenGueltig(*fenster_, meldungen_);
+}
+
 Dateiablauf::Ausgang Dateiablauf::sicherungsschritt() {
+    if (!nichtsAbgelehnt()) return Ausgang::fehlgeschlagen;
     const bool nameBekannt = !programm_.DialogDateiname.isEmpty() && !programm_.Dateiname.empty();
     if (!nameBekannt) return dialogUndSichern();
     return saveFile() ? Ausgang::weiter : Ausgang::fehlgeschlagen;
@@ -187,6 +195,7 @@ bool Dateiablauf::lade(const QString& datei) {
     programm_.setzeGesichert(false);  // a file just opened counts as changed; that is meant
     programm_.setzeTitel(datei);
     programm_.Sperre = false;
+    Q_EMIT programm_.ersetzt();
     programm_.zuweisen();
     if (benutzt && !lesung.fehler) benutzt(datei);
     return true;
@@ -199,6 +208,7 @@ void Dateiablauf::setzeNeu() {
     if (listeGeleert) listeGeleert();
     programm_.felder = grundmasse(programm_.w);
     programm_.Sperre = false;
+    Q_EMIT programm_.ersetzt();
     programm_.zuweisen();
     programm_.setzeTitel(QStringLiteral("Neue Datei"));
     programm_.Dateiname.clear();

@@ -43,6 +43,7 @@ class Dateiablauf {
     enum class Ausgang { weiter, abgebrochen, fehlgeschlagen };
 
     Ausgang frage(Dateiaktion aktion);
+    bool nichtsAbgelehnt();
     Ausgang sicherungsschritt();
     Ausgang dialogUndSichern();
     bool darfUeberschreiben(const QString& gewaehlt);

@@ -89,6 +89,10 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     auto* regel = new Tastenregel(this, {QStringLiteral("Text"), QStringLiteral("Mate")});
     connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
     connect(&programm_, &Programm::geaendert, this, &Form1::zeige);
+    connect(&programm_, &Programm::ersetzt, this, [this] {
+        // A refused text does not outlive its position.
+        for (const auto& [feld, mass] : felder_) feld->setzeWert(programm_.felder.*mass);
+    });
     connect(&programm_, &Programm::zustandGeaendert, this, &Form1::zeigeTitel);
     connect(&programm_, &Programm::dateiBenutzt, this, &Form1::merkeDatei);
     ablauf_.projektdaten = [this] { oeffneFenster(Fensterart::projektdaten); };
@@ -457,10 +461,8 @@ void Form1::starteProjektmanager() {
 // ---- Showing the position ----
 
 void Form1::zeige() {
-    // A refused text belongs to the value before; it does not outlive it.
     for (const auto& [feld, mass] : felder_)
-        if (feld->abgelehnt() || feld->wert() != programm_.felder.*mass)
-            feld->setzeWert(programm_.felder.*mass);
+        if (feld->wert() != programm_.felder.*mass) feld->setzeWert(programm_.felder.*mass);
     for (const Zeile& zeile : zeilen_) zeile.schild->setzeText(zeile.text(programm_.w));
     ansicht_->setzeWand(programm_.w);
     zeigeTitel();
@@ -484,7 +486,8 @@ void Form1::uebernimmFeld(double Grundmasse::*feld, double wert) {
 }
 
 void Form1::rechneUndZeige(Fensterart ausgabe) {
-    programm_.zuweisen();  // shows the position too: a refused text gives way to the value that is used
+    if (!eingabenGueltig(*this, meldungen_)) return;
+    programm_.zuweisen();
     const Laufergebnis ergebnis = rippenscheibe::starte(programm_.w);
     zeigeHinweise();
     if (ergebnis == Laufergebnis::hinweise) {

@@ -292,6 +292,7 @@ void Form6::uebernimmZaehlung() {
 }
 
 void Form6::drucke() {
+    if (!eingabenGueltig(*this, meldungen_)) return;
     setWindowTitle(QStringLiteral("    Ausdruck erfolgt...."));
     uebernimmZaehlung();
     clsPrintDialog dialog(programm_.drucker(), meldungen_, this);
@@ -360,6 +361,7 @@ void Form6::reject() {
 }
 
 void Form6::speicherePdf() {
+    if (!eingabenGueltig(*this, meldungen_)) return;
     uebernimmZaehlung();
     const auto ergebnis = rippenscheibe::speicherePdf(programm_, meldungen_, this, ausdruck());
     if (ergebnis) merkeSeite(*ergebnis);

@@ -228,10 +228,7 @@ void Form99::fuelleListe(int auswahl) {
 
 void Form99::leere() {
     name_->clear();
-    for (Werteingabe* wert : werte_) {
-        wert->setzeWert(0.0);
-        wert->clear();
-    }
+    for (Werteingabe* wert : werte_) wert->setzeLeer();
     lochleibung_->setExclusive(false);
     for (QAbstractButton* option : lochleibung_->buttons()) option->setChecked(false);
     lochleibung_->setExclusive(true);
@@ -282,6 +279,7 @@ void Form99::bearbeite() {
 }
 
 void Form99::uebernehmen() {
+    if (!eingabenGueltig(*this, meldungen_)) return;
     if (name_->text().trimmed().isEmpty()) {
         meldungen_.kritisch(this, QStringLiteral(" Fehler"),
                             QStringLiteral("Bitte eine Bezeichnung eingeben!"));

@@ -59,21 +59,54 @@ TEST_F(Werteingabefenster, ShowsAWrittenValueInItsFormatAndKeepsItWhole) {
     EXPECT_EQ(gemeldet, std::vector<double>{1.0 / 3});
 }
 
-TEST_F(Werteingabefenster, KeepsTheLastGoodValueWhileTheTextIsRefused) {
-    tippe(*feld, QStringLiteral("100,5"));  // on the way: 1, 10, 100 are good, 100, is 100, 100,5 is too much
-    EXPECT_TRUE(feld->abgelehnt());
-    EXPECT_EQ(feld->text(), QStringLiteral("100,5"));
-    EXPECT_EQ(feld->wert(), 100.0);
-    EXPECT_EQ(gemeldet, (std::vector<double>{1, 10, 100}));
+TEST_F(Werteingabefenster, ARefusedTextStaysAndTheValueGoesBackToTheOneBeforeTheEditing) {
+    // On the way 1, 10 and 100 count at once; 100,5 is too much, and 5 was there before.
+    tippe(*feld, QStringLiteral("100,5"));
+    EXPECT_EQ(gemeldet, (std::vector<double>{1, 10, 100, 5}));
     auto* bereich = fenster.findChild<QLabel*>(QStringLiteral("Textbox1(0)_Bereich"));
     ASSERT_NE(bereich, nullptr);
-    EXPECT_TRUE(bereich->isVisible());
-    EXPECT_EQ(bereich->text(), QStringLiteral("zulässig: 0,2 bis 100 m"));
-
-    verlasse();
-    EXPECT_FALSE(feld->abgelehnt());
-    EXPECT_EQ(feld->text(), QStringLiteral("100,000"));
+    for (const bool verlassen : {false, true}) {
+        SCOPED_TRACE(verlassen);
+        if (verlassen) verlasse();
+        EXPECT_TRUE(feld->abgelehnt());
+        EXPECT_EQ(feld->text(), QStringLiteral("100,5"));
+        EXPECT_EQ(feld->wert(), 5.0);
+        EXPECT_TRUE(bereich->isVisible());
+        EXPECT_EQ(bereich->text(), QStringLiteral("zulässig: 0,2 bis 100 m"));
+    }
+    // A mended text that was left is where the next editing begins.
+    tippe(*feld, QStringLiteral("7"));
     EXPECT_FALSE(bereich->isVisible());
+    verlasse();
+    tippe(*feld, QString());
+    EXPECT_TRUE(feld->abgelehnt());
+    EXPECT_EQ(feld->wert(), 7.0);
+}
+
+TEST_F(Werteingabefenster, ADimmedOrHiddenFieldDropsItsRefusedText) {
+    const std::function<void(bool)> wege[] = {[this](bool an) { feld->setzeAktiv(an); },
+                                              [this](bool an) { feld->setVisible(an); }};
+    for (const auto& schalte : wege) {
+        tippe(*feld, QStringLiteral("0"));
+        ASSERT_EQ(abgelehntesFeld(fenster), feld);
+        schalte(false);
+        EXPECT_EQ(abgelehntesFeld(fenster), nullptr);
+        EXPECT_EQ(feld->text(), QStringLiteral("5,000"));
+        schalte(true);
+    }
+}
+
+TEST_F(Werteingabefenster, AnEmptyFieldMayBeLeftEmptyUntilItIsFilled) {
+    feld->setzeLeer();
+    verlasse();
+    EXPECT_EQ(feld->text(), QString());
+    tippe(*feld, QStringLiteral("3"));
+    tippe(*feld, QString());
+    EXPECT_FALSE(feld->abgelehnt());
+    EXPECT_EQ(feld->wert(), 0.0);
+    feld->setzeWert(2);
+    tippe(*feld, QString());
+    EXPECT_TRUE(feld->abgelehnt());
 }
 
 TEST_F(Werteingabefenster, TakesBothLimitsAndRefusesTheNextValueBeyond) {

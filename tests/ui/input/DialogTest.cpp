@@ -89,6 +89,31 @@ TEST_F(Dialog, CancelWritesNothingButATypedKeyStillCounts) {
     EXPECT_FALSE(programm.Gesichert());
 }
 
+TEST_F(Dialog, ARefusedTextRefusesTheAcceptButNoOtherWayOut) {
+    const std::string vorher = positionstext(w);
+    const std::function<void(QWidget&)> auswege[] = {
+        [](QWidget& form) { klicke(form, "Command1"); },
+        [](QWidget& form) { QTest::keyClick(&form, Qt::Key_Escape); }, [](QWidget& form) { form.close(); }};
+    for (const auto& ausweg : auswege) {
+        Form5 form(programm, meldungen, nullptr);
+        form.show();
+        QApplication::setActiveWindow(&form);
+        tippe(form, "Textbox1(0)", "300");
+        wert(form, "Textbox1(1)").setFocus();
+        meldungen.gezeigt.clear();
+        klicke(form, "ComEnde");
+        EXPECT_TRUE(form.isVisible());
+        ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+        erwarte(meldungen.gezeigt[0], Symbol::kritisch, " Fehler",
+                "Die Eingabe \"300\" bei \"Abstand av\" ist unzulässig.\n\nzulässig: 20 bis 200 mm");
+        EXPECT_TRUE(wert(form, "Textbox1(0)").hasFocus());
+        ausweg(form);
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+        EXPECT_EQ(positionstext(w), vorher);
+    }
+}
+
 TEST_F(Dialog, AnAcceptedChangeByTheMouseAloneCountsAsUnsaved) {
     Form12 form(programm, meldungen, nullptr);
     form.show();

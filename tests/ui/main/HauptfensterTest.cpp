@@ -162,21 +162,33 @@ TEST_F(Hauptfenster, EditsReachTheRecordAtOnceUnlessBlocked) {
     EXPECT_EQ(programm.w.Rippenabstand, 500);
 }
 
-TEST_F(Hauptfenster, ARefusedTextGivesWayToANewPositionAndToARun) {
+TEST_F(Hauptfenster, NothingStartsOrIsSavedWhileARefusedTextStands) {
     Werteingabe& laenge = wert(fenster, "Textbox1(0)");
-    const auto lehneAb = [&] {
-        tippe(laenge, QStringLiteral("0"));
-        ASSERT_TRUE(laenge.abgelehnt());
-    };
-    lehneAb();
+    programm.Dateiname = utf8(gespeicherte("a.rsw", 5));
+    programm.DialogDateiname = datei("a.rsw");
+    tippe(laenge, QStringLiteral("250"));
+    EXPECT_EQ(programm.w.Wandlaenge, 5);
+    const QByteArray vorher = inhalt(datei("a.rsw"));
+    for (const char* weg : {"mnuFView", "mnuFPrint", "mnuFSave", "mnuFSaveAs", "mnuFNew", "mnuFClose"}) {
+        SCOPED_TRACE(weg);
+        meldungen.gezeigt.clear();
+        meldungen.antworten.clear();
+        const bool fragt = weg == std::string("mnuFNew") || weg == std::string("mnuFClose");
+        if (fragt) meldungen.antworten = {Antwort::ja};
+        EXPECT_FALSE(mitFenster([&] { loese(weg); }, [](QWidget&) {}));
+        ASSERT_FALSE(meldungen.gezeigt.empty());
+        erwarte(meldungen.gezeigt.back(), Symbol::kritisch, " Fehler",
+                "Die Eingabe \"250\" bei \"Wandlänge l\" ist unzulässig.\n\nzulässig: 0,2 bis 100 m");
+        EXPECT_EQ(QApplication::focusWidget(), &laenge);
+        EXPECT_EQ(laenge.text(), QStringLiteral("250"));
+        EXPECT_EQ(inhalt(datei("a.rsw")), vorher);
+        EXPECT_EQ(programm.Aktion, Dateiaktion::keine);
+        EXPECT_TRUE(fenster.isVisible());
+    }
+    // A new position, which is never refused without a save, takes the text away.
     meldungen.antworten = {Antwort::nein};
     mitFenster([this] { loese("mnuFNew"); }, [](QWidget&) {});
-    EXPECT_FALSE(laenge.abgelehnt());
     EXPECT_EQ(laenge.text(), QStringLiteral("5,000"));
-
-    lehneAb();
-    EXPECT_TRUE(mitFenster([this] { loese("mnuFView"); },
-                           [&](QWidget&) { EXPECT_EQ(laenge.text(), QStringLiteral("5,000")); }));
     EXPECT_FALSE(laenge.abgelehnt());
 }
 
