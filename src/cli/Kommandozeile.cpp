@@ -7,6 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "basis/Version.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -120,7 +122,7 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     Auftrag auftrag;
     CLI::App app("Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)", "rippenscheibe-cli");
     app.set_help_flag("-h,--help", "diese Hilfe");
-    app.set_version_flag("--version", "rippenscheibe-cli " RIPPENSCHEIBE_VERSION, "Version");
+    app.set_version_flag("--version", "rippenscheibe-cli " + std::string(programmversion()), "Version");
     app.footer("Hilfe zu einem Befehl: rippenscheibe-cli BEFEHL --help\n\n" + std::string(rueckgabewerte));
     app.get_formatter()->label("Usage", "Aufruf");
     app.get_formatter()->label("OPTIONS", "Optionen");

@@ -29,6 +29,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "basis/Version.h"
 #include "files/EigeneMaterialienDatei.h"
 #include "plausibility/Plausibilitaetslauf.h"
 #include "run/Berechnungslauf.h"
@@ -325,7 +326,7 @@ void Form1::baueMenue() {
         meldungen_.hinweis(this, QStringLiteral("Über Rippenscheibe"),
                            QStringLiteral("Rippenscheibe, Version %1\n\nBemessung von Wandtafeln in "
                                           "Holzrahmenbauweise nach DIN 1052 (2008).")
-                               .arg(QStringLiteral(RIPPENSCHEIBE_VERSION)));
+                               .arg(qtext(programmversion())));
     });
 }
 

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "basis/Version.h"
 #include "files/Programmordner.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
@@ -64,7 +65,7 @@ int laufeOhneFenster(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("rippenscheibe"));
-    QApplication::setApplicationVersion(QStringLiteral(RIPPENSCHEIBE_VERSION));
+    QApplication::setApplicationVersion(qtext(programmversion()));
     QApplication::setDesktopFileName(QStringLiteral("rippenscheibe"));
     QStringList angaben;
     for (int i = 0; i < argc; ++i) angaben << QString::fromLocal8Bit(argv[i]);
