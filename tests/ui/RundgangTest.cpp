@@ -1,7 +1,6 @@
 #include "support/Gerechnet.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Symbol.h"
-#include "ui/input/Form5_Verbindungsmittel.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
 namespace rippenscheibe {
@@ -21,6 +20,7 @@ bool nimmtEingabe(const QWidget& w) {
 // Parts that Qt builds inside its own controls.
 bool eigenesTeil(const QWidget& w) {
     if (w.objectName().startsWith(QStringLiteral("qt_"))) return true;
+    if (qobject_cast<const QHeaderView*>(&w) != nullptr) return true;
     for (const QWidget* eltern = w.parentWidget(); eltern != nullptr; eltern = eltern->parentWidget())
         if (qobject_cast<const QComboBox*>(eltern) != nullptr ||
             qobject_cast<const QLineEdit*>(eltern) != nullptr ||
@@ -70,36 +70,141 @@ void pruefeFenster(QWidget& fenster) {
     pruefeTabfolge(fenster);
 }
 
-class Rundgang : public Programmprobe {};
+// What Enter has to do in a control: press it, or leave it.
+enum class Wirkung { gedrueckt, weiter, keine };
 
-TEST_F(Rundgang, EveryWindowNamesItsControlsAndReachesThemByTheTabKey) {
-    Form1 hauptfenster(programm, meldungen);
-    hauptfenster.show();
-    pruefeFenster(hauptfenster);
-    for (int art = 0; art <= static_cast<int>(Fensterart::ergebnisse); ++art) {
-        SCOPED_TRACE(art);
-        EXPECT_TRUE(
-            mitFenster([&] { oeffne(static_cast<Fensterart>(art), programm, meldungen, &hauptfenster); },
-                       [](QWidget& fenster) {
-                           pruefeFenster(fenster);
-                           EXPECT_TRUE(fenster.windowFlags() & Qt::WindowStaysOnTopHint)
-                               << fenster.objectName().toStdString();
-                       }));
-    }
-    Form5 verbindungsmittel(programm, meldungen, nullptr);
-    EXPECT_TRUE(mitFenster([&] { klicke(verbindungsmittel, "ComInfo2"); }, pruefeFenster));
+Wirkung erwartet(const QWidget& feld) {
+    if (feld.objectName().startsWith(QStringLiteral("ComErg"))) return Wirkung::weiter;
+    const auto* knopf = qobject_cast<const QAbstractButton*>(&feld);
+    const bool wahl = knopf != nullptr && (qobject_cast<const QCheckBox*>(knopf) != nullptr ||
+                                           qobject_cast<const QRadioButton*>(knopf) != nullptr);
+    if (knopf != nullptr && !wahl) return Wirkung::gedrueckt;
+    const bool wert = qobject_cast<const QLineEdit*>(&feld) != nullptr ||
+                      qobject_cast<const QComboBox*>(&feld) != nullptr || wahl;
+    return wert && feld.objectName() != QStringLiteral("Suchwort") ? Wirkung::weiter : Wirkung::keine;
 }
 
-TEST_F(Rundgang, NoIconIsEmpty) {
-    const QStringList dateien = QDir(QStringLiteral(":/icons")).entryList({QStringLiteral("*.svg")});
-    EXPECT_GE(dateien.size(), 17);
-    for (const QString& datei : dateien) {
-        const QImage bild = symbol(QFileInfo(datei).baseName()).pixmap(24, 24).toImage();
-        bool gezeichnet = false;
-        for (int i = 0; i < bild.width() * bild.height() && !gezeichnet; ++i)
-            gezeichnet = qAlpha(bild.pixel(i % bild.width(), i / bild.width())) > 100;
-        EXPECT_TRUE(gezeichnet) << datei.toStdString();
+// Counts the Enter keys that reach a control itself: what it would do with them depends on the theme.
+class Horcher : public QObject {
+  public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        const bool enter = event->type() == QEvent::KeyPress &&
+                           static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Return;
+        if (enter) ++gehoert;
+        return false;
     }
+    int gehoert = 0;
+};
+
+void pruefeEnter(QWidget& fenster) {
+    QApplication::setActiveWindow(&fenster);
+    for (QWidget* feld : fenster.findChildren<QWidget*>()) {
+        if (!nimmtEingabe(*feld) || eigenesTeil(*feld) || feld->window() != &fenster) continue;
+        if (!feld->isVisibleTo(&fenster) || !feld->isEnabled() || feld->focusPolicy() == Qt::NoFocus)
+            continue;
+        const Wirkung wirkung = erwartet(*feld);
+        if (wirkung == Wirkung::keine) continue;
+        SCOPED_TRACE(fenster.objectName().toStdString() + " " + feld->objectName().toStdString());
+        int gedrueckt = 0;
+        if (auto* knopf = qobject_cast<QAbstractButton*>(feld)) {
+            QObject::disconnect(knopf, &QAbstractButton::clicked, nullptr, nullptr);
+            QObject::connect(knopf, &QAbstractButton::clicked, [&gedrueckt] { ++gedrueckt; });
+        }
+        Horcher horcher;
+        feld->installEventFilter(&horcher);
+        feld->setFocus();
+        QTest::keyClick(feld, Qt::Key_Return);
+        // In the calculator Enter is "=" everywhere but on "Zurück".
+        const bool rechner = fenster.objectName() == QStringLiteral("Form3");
+        const bool istGleich = rechner && feld->objectName() != QStringLiteral("Command1");
+        EXPECT_EQ(gedrueckt, wirkung == Wirkung::gedrueckt && !istGleich ? 1 : 0);
+        EXPECT_EQ(feld->hasFocus(), wirkung == Wirkung::gedrueckt || rechner);
+        EXPECT_EQ(horcher.gehoert, 0);
+        EXPECT_TRUE(fenster.isVisible());
+        if (auto* knopf = qobject_cast<QAbstractButton*>(feld))
+            QObject::disconnect(knopf, &QAbstractButton::clicked, nullptr, nullptr);
+    }
+}
+
+void drehe(QWidget& feld) {
+    QWheelEvent rad(QPointF(5, 5), feld.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&feld, &rad);
+}
+
+void pruefeRad(QWidget& fenster) {
+    for (auto* liste : fenster.findChildren<QComboBox*>()) {
+        if (!liste->isVisibleTo(&fenster) || !liste->isEnabled()) continue;
+        liste->clearFocus();
+        const int vorher = liste->currentIndex();
+        drehe(*liste);
+        EXPECT_EQ(liste->currentIndex(), vorher) << liste->objectName().toStdString();
+        EXPECT_FALSE(liste->hasFocus());
+    }
+}
+
+// Each button and field has a letter for the Alt key, in its own text or in its label. The start buttons have
+// none: no key starts a run.
+void pruefeKuerzel(QWidget& fenster) {
+    QSet<const QWidget*> beschriftet;
+    for (const QLabel* schild : fenster.findChildren<QLabel*>())
+        if (schild->buddy() != nullptr && schild->text().contains(QLatin1Char('&')))
+            beschriftet.insert(schild->buddy());
+    const QStringList ohne{QStringLiteral("Form3"), QStringLiteral("Form16")};
+    if (ohne.contains(fenster.objectName())) return;
+    for (const QWidget* feld : fenster.findChildren<QWidget*>()) {
+        const auto* knopf = qobject_cast<const QAbstractButton*>(feld);
+        const bool wert = qobject_cast<const Werteingabe*>(feld) != nullptr;
+        if ((knopf == nullptr && !wert) || eigenesTeil(*feld)) continue;
+        if (knopf != nullptr && (knopf->text().isEmpty() || qobject_cast<QToolBar*>(knopf->parentWidget())))
+            continue;
+        const bool hat = beschriftet.contains(feld) ||
+                         (knopf != nullptr && !QKeySequence::mnemonic(knopf->text()).isEmpty());
+        EXPECT_EQ(hat, !feld->objectName().startsWith(QStringLiteral("ComErg")))
+            << fenster.objectName().toStdString() << " " << feld->objectName().toStdString();
+    }
+}
+
+class Rundgang : public Programmprobe {
+  protected:
+    // Every window once, those too that only others open.
+    void jedesFenster(const std::function<void(QWidget&)>& pruefung) {
+        Form1 hauptfenster(programm, meldungen);
+        hauptfenster.show();
+        const std::pair<Fensterart, const char*> weitere[] = {{Fensterart::verbindungsmittel, "ComInfo2"},
+                                                              {Fensterart::belastung, "Command2"},
+                                                              {Fensterart::projektdaten, "Command1"},
+                                                              {Fensterart::bemerkungen, "Command3"},
+                                                              {Fensterart::bemerkungen, "Command4"}};
+        for (const auto& [art, knopf] : weitere)
+            mitFenster([&, art = art] { oeffne(art, programm, meldungen, &hauptfenster); },
+                       [&, knopf = knopf](QWidget& fenster) {
+                           EXPECT_TRUE(mitFenster([&] { klicke(fenster, knopf); }, pruefung)) << knopf;
+                       });
+        for (int art = 0; art <= static_cast<int>(Fensterart::ergebnisse); ++art)
+            EXPECT_TRUE(mitFenster(
+                [&] { oeffne(static_cast<Fensterart>(art), programm, meldungen, &hauptfenster); }, pruefung))
+                << art;
+        pruefung(hauptfenster);
+    }
+};
+
+TEST_F(Rundgang, EnterPressesAButtonAndMovesOnFromEverythingElse) { jedesFenster(pruefeEnter); }
+
+TEST_F(Rundgang, EveryControlHasALetterAndTheWheelTurnsNoneWithoutTheFocus) {
+    jedesFenster([](QWidget& fenster) {
+        pruefeKuerzel(fenster);
+        pruefeRad(fenster);
+    });
+}
+
+TEST_F(Rundgang, EveryWindowNamesItsControlsAndReachesThemByTheTabKey) {
+    jedesFenster([](QWidget& fenster) {
+        pruefeFenster(fenster);
+        const bool darueber = fenster.windowFlags() & Qt::WindowStaysOnTopHint;
+        EXPECT_EQ(darueber, qobject_cast<QMainWindow*>(&fenster) == nullptr)
+            << fenster.objectName().toStdString();
+    });
 }
 
 TEST_F(Rundgang, DialogsBeginInTheirFirstFieldAndEndWithTheirButtons) {

@@ -48,10 +48,10 @@ Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* 
 
 void Eingabedialog::beginne() {
     // Built last, so that the tab key comes to them behind the fields.
-    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
+    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen &und zurück"));
     ende->setDefault(true);
     connect(ende, &QPushButton::clicked, this, &Eingabedialog::uebernehmen);
-    QPushButton* abbruch = schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch"));
+    QPushButton* abbruch = schaltflaeche(QStringLiteral("Command1"), QStringLiteral("&Abbruch"));
     connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
 
     lade(programm_.w);

@@ -1,14 +1,20 @@
 #include "ui/basics/Fenster.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QFocusFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <utility>
 
+#include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
 
 namespace rippenscheibe {
@@ -40,38 +46,96 @@ void sendeTab(QWidget* feld) {
     QApplication::sendEvent(feld, &druck);
 }
 
+// A ring about the control, in the accent colour.
+class Fokusrahmen : public QFocusFrame {
+  public:
+    using QFocusFrame::QFocusFrame;
+
+  protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), palette().highlight()); }
+};
+
+// Text fields and lists show the focus themselves.
+bool brauchtRahmen(const QWidget& feld) {
+    return qobject_cast<const QLineEdit*>(&feld) == nullptr &&
+           qobject_cast<const QAbstractSpinBox*>(&feld) == nullptr &&
+           qobject_cast<const QComboBox*>(&feld) == nullptr && !feld.isWindow();
+}
+
+bool aendertSichAmRad(const QWidget& feld) {
+    return qobject_cast<const QComboBox*>(&feld) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(&feld) != nullptr ||
+           qobject_cast<const QSlider*>(&feld) != nullptr;
+}
+
+constexpr const char* enterregel = "enterregel";
+
 }  // namespace
 
-Tastenregel::Tastenregel(QWidget* fenster, QStringList enterWeiter)
-    : QObject(fenster), fenster_(fenster), enterWeiter_(std::move(enterWeiter)) {
+void setzeEnter(QWidget& feld, Enter enter) { feld.setProperty(enterregel, static_cast<int>(enter)); }
+
+Tastenregel::Tastenregel(QWidget* fenster) : QObject(fenster), fenster_(fenster) {
     qApp->installEventFilter(this);
 }
 
 bool Tastenregel::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() != QEvent::KeyPress) return false;
     auto* feld = qobject_cast<QWidget*>(object);
-    if (feld == nullptr || feld->window() != fenster_ || feld != fenster_->focusWidget()) return false;
-    const auto& taste = static_cast<const QKeyEvent&>(*event);
-    if (istZeichen(taste) && taste.key() != Qt::Key_Tab && taste.key() != Qt::Key_Backtab) Q_EMIT getippt();
-
-    const QString name = feld->objectName();
-    const bool beginnt = std::any_of(enterWeiter_.cbegin(), enterWeiter_.cend(),
-                                     [&](const QString& anfang) { return name.startsWith(anfang); });
-    if (istEnter(taste) && beginnt) {
-        sendeTab(feld);
-        return true;
+    if (feld == nullptr || feld->window() != fenster_) return false;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            return feld == fenster_->focusWidget() && taste(*feld, static_cast<const QKeyEvent&>(*event));
+        case QEvent::Polish:
+            // The wheel would bring the focus along.
+            if (aendertSichAmRad(*feld) && feld->focusPolicy() == Qt::WheelFocus)
+                feld->setFocusPolicy(Qt::StrongFocus);
+            return false;
+        case QEvent::Wheel:
+            if (!aendertSichAmRad(*feld) || feld->hasFocus()) return false;
+            event->ignore();  // what scrolls around the control gets it
+            return true;
+        case QEvent::FocusIn: {
+            const bool maus = static_cast<const QFocusEvent&>(*event).reason() == Qt::MouseFocusReason;
+            if (rahmen_ == nullptr && !maus) rahmen_ = new Fokusrahmen(fenster_);
+            if (rahmen_ != nullptr) rahmen_->setWidget(!maus && brauchtRahmen(*feld) ? feld : nullptr);
+            return false;
+        }
+        default:
+            return false;
     }
-    if (name.startsWith(QStringLiteral("Text3")) &&
+}
+
+bool Tastenregel::taste(QWidget& feld, const QKeyEvent& taste) {
+    if (istZeichen(taste) && taste.key() != Qt::Key_Tab && taste.key() != Qt::Key_Backtab) Q_EMIT getippt();
+    if (istEnter(taste)) return (enter && enter(feld)) || drueckeEnter(feld, taste.isAutoRepeat());
+    if (feld.objectName().startsWith(QStringLiteral("Text3")) &&
         (taste.key() == Qt::Key_Up || taste.key() == Qt::Key_Down)) {
-        QWidget* ziel = nachbar(feld, fenster_, taste.key() == Qt::Key_Down);
+        QWidget* ziel = nachbar(&feld, fenster_, taste.key() == Qt::Key_Down);
         if (ziel != nullptr) ziel->setFocus(Qt::TabFocusReason);
         return true;
     }
     return false;
 }
 
+bool Tastenregel::drueckeEnter(QWidget& feld, bool wiederholt) {
+    const auto regel = static_cast<Enter>(feld.property(enterregel).toInt());
+    if (regel == Enter::eigen || feld.objectName().startsWith(QStringLiteral("qt_"))) return false;
+    auto* knopf = qobject_cast<QAbstractButton*>(&feld);
+    const bool wahl =
+        qobject_cast<QCheckBox*>(&feld) != nullptr || qobject_cast<QRadioButton*>(&feld) != nullptr;
+    if (knopf != nullptr && !wahl && regel != Enter::weiter) {
+        if (!wiederholt) knopf->click();
+        return true;
+    }
+    const bool wert = qobject_cast<QLineEdit*>(&feld) != nullptr ||
+                      qobject_cast<QComboBox*>(&feld) != nullptr ||
+                      qobject_cast<QAbstractSpinBox*>(&feld) != nullptr;
+    if (knopf == nullptr && !wert) return false;
+    sendeTab(&feld);
+    return true;
+}
+
 Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, const QString& name,
-                 const QString& titel, Tippen tippen, const QStringList& enterWeiter)
+                 const QString& titel, Tippen tippen)
     : QDialog(parent), programm_(programm), meldungen_(meldungen) {
     setObjectName(name);
     setWindowTitle(titel);
@@ -91,7 +155,8 @@ Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, cons
     fusszeile_->addStretch(1);
     aussen->addLayout(fusszeile_);
 
-    auto* regel = new Tastenregel(this, enterWeiter);
+    auto* regel = new Tastenregel(this);
+    regel->enter = [this](QWidget& feld) { return enter(feld); };
     if (tippen == Tippen::aendertPosition)
         connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
 }
@@ -99,14 +164,14 @@ Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, cons
 QPushButton* Fenster::schaltflaeche(const QString& name, const QString& text) {
     auto* knopf = new QPushButton(text, this);
     knopf->setObjectName(name);
-    knopf->setAccessibleName(text.trimmed());
+    knopf->setAccessibleName(QString(text).remove(QLatin1Char('&')).trimmed());
     knopf->setAutoDefault(false);
     fusszeile_->addWidget(knopf);
     return knopf;
 }
 
 QPushButton* Fenster::zurueck(const QString& name) {
-    QPushButton* knopf = schaltflaeche(name, QStringLiteral("Zurück"));
+    QPushButton* knopf = schaltflaeche(name, QStringLiteral("&Zurück"));
     knopf->setToolTip(QStringLiteral("Zurück zum Hauptfenster"));
     knopf->setDefault(true);
     connect(knopf, &QPushButton::clicked, this, &QDialog::accept);
@@ -115,9 +180,18 @@ QPushButton* Fenster::zurueck(const QString& name) {
 
 // The first field has the focus when the window shows.
 void Fenster::showEvent(QShowEvent* event) {
+    vergibKuerzel(*this);
     QDialog::showEvent(event);
     if (focusWidget() == nullptr || fusszeile_->indexOf(focusWidget()) >= 0)
         if (QWidget* erstes = nachbar(this, this, true)) erstes->setFocus(Qt::TabFocusReason);
+}
+
+// No button is pressed that has not the focus: the emphasised one only looks so.
+void Fenster::keyPressEvent(QKeyEvent* event) {
+    if (istEnter(*event))
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 }  // namespace rippenscheibe

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QDialog>
-#include <QStringList>
+#include <QPointer>
+#include <functional>
 
+class QFocusFrame;
 class QHBoxLayout;
+class QKeyEvent;
 class QPushButton;
 class QVBoxLayout;
 
@@ -12,16 +15,29 @@ namespace rippenscheibe {
 class Meldungen;
 class Programm;
 
-// What a key does in a window besides its usual work.
+// What Enter does in a control where it is not the usual: to press a button, to move on from a value, a
+// list, a check box or an option.
+enum class Enter {
+    ueblich,
+    weiter,  // a button that Enter does not press: it moves on
+    eigen,   // the control works with Enter itself
+};
+void setzeEnter(QWidget& feld, Enter enter);
+
+// What keys, focus and wheel do in a window besides their usual work, the same under every desktop theme.
 //
-// A typed character, Enter included, calls `getippt`. Enter in a control whose name begins with one of
-// `enterWeiter` moves on to the next field. Up and down in a control whose name begins with "Text3" move to
-// the previous and next field, but not beyond the first and the last.
+// A typed character, Enter included, calls `getippt`. Enter presses the button that has the focus, and moves
+// on from a value, a list, a check box or an option. Up and down in a control whose name begins with "Text3"
+// move to the previous and next field, but not beyond the first and the last. The wheel changes a list or a
+// value only when it has the focus. A frame shows where the focus is that the keyboard moved.
 class Tastenregel : public QObject {
     Q_OBJECT
 
   public:
-    Tastenregel(QWidget* fenster, QStringList enterWeiter);
+    explicit Tastenregel(QWidget* fenster);
+
+    // Asked before Enter does anything; true when it is done.
+    std::function<bool(QWidget& feld)> enter;
 
     bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -29,8 +45,11 @@ class Tastenregel : public QObject {
     void getippt();
 
   private:
+    bool taste(QWidget& feld, const QKeyEvent& taste);
+    bool drueckeEnter(QWidget& feld, bool wiederholt);
+
     QWidget* fenster_;
-    QStringList enterWeiter_;
+    QPointer<QFocusFrame> rahmen_;
 };
 
 // Whether a character typed in a window marks the position as changed.
@@ -44,9 +63,7 @@ class Fenster : public QDialog {
   public:
     // `name` is the object name, "Form4"; `titel` the caption as it stands.
     Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, const QString& name,
-            const QString& titel, Tippen tippen = Tippen::aendertPosition,
-            const QStringList& enterWeiter = {QStringLiteral("Text"), QStringLiteral("Comb"),
-                                              QStringLiteral("Mate")});
+            const QString& titel, Tippen tippen = Tippen::aendertPosition);
 
     static constexpr int raster = 8;  // px, the grid of all layouts
 
@@ -64,7 +81,11 @@ class Fenster : public QDialog {
     // The row at the bottom, to put something at its left.
     QHBoxLayout* fusszeile() const { return fusszeile_; }
 
+    // Enter in any control, before its usual work; true when it is done.
+    virtual bool enter(QWidget&) { return false; }
+
     void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     QVBoxLayout* inhalt_;

@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "ui/basics/Kuerzel.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 
@@ -93,8 +94,8 @@ Form3::Form3(Programm& programm, Meldungen& meldungen, QWidget* parent)
         connect(knopf, &QPushButton::clicked, this, [this, i] { operation(static_cast<Rechner::Taste>(i)); });
     }
 
-    // Enter is "=" here, so that no button may be the default one.
     zurueck(QStringLiteral("Command1"))->setDefault(false);
+    ohneKuerzel(*this);  // each key of the calculator is typed as it stands
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
     zeige();
@@ -120,6 +121,13 @@ void Form3::operation(Rechner::Taste taste) {
         meldungen_.zeige(this, {Symbol::achtung, QStringLiteral("Achtung"),
                                 QStringLiteral("Division durch Null! "), Knoepfe::ok});
     zeige();
+}
+
+// Enter is "=", whatever button was pressed by the mouse before; only "Zurück" is pressed by it.
+bool Form3::enter(QWidget& feld) {
+    if (feld.objectName() == QStringLiteral("Command1")) return false;
+    operation(Rechner::Taste::gleich);
+    return true;
 }
 
 // The same keys as on the number pad; the entry is forgotten by Entf or the backspace key, all by C.

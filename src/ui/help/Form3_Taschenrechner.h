@@ -17,6 +17,7 @@ class Form3 : public Fenster {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool enter(QWidget& feld) override;
 
   private:
     QPushButton* taste(QGridLayout* grid, const QString& name, const QString& text, int zeile, int spalte);

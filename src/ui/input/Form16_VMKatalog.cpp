@@ -10,6 +10,7 @@
 
 #include "basis/Zahlenformat.h"
 #include "model/VMKatalog.h"
+#include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Werteingabe.h"
 
@@ -81,6 +82,7 @@ Form16::Form16(Programm& programm, Meldungen& meldungen, QWidget* dialog, Seite 
     rolle->setWidget(flaeche);
     aussen->addWidget(rolle);
     inhalt()->addWidget(rahmen, 1);
+    ohneKuerzel(*rahmen);  // 71 buttons of one caption
     QPushButton* ende = zurueck(QStringLiteral("ComEnde"));
     disconnect(ende, nullptr, this, nullptr);
     connect(ende, &QPushButton::clicked, this, &QDialog::reject);

@@ -34,6 +34,7 @@
 #include "plausibility/Plausibilitaetslauf.h"
 #include "run/Berechnungslauf.h"
 #include "ui/basics/Fenster.h"
+#include "ui/basics/Kuerzel.h"
 #include "ui/basics/Materialtabelle.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Symbol.h"
@@ -87,7 +88,7 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     baueStatuszeile();
     setzeFarben();
 
-    auto* regel = new Tastenregel(this, {QStringLiteral("Text"), QStringLiteral("Mate")});
+    auto* regel = new Tastenregel(this);
     connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
     connect(&programm_, &Programm::geaendert, this, &Form1::zeige);
     connect(&programm_, &Programm::ersetzt, this, [this] {
@@ -100,6 +101,7 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     ablauf_.listeGeleert = [this] { zeigeHinweise(); };
     ablauf_.benutzt = [this](const QString& datei) { merkeDatei(datei); };
 
+    vergibKuerzel(*this);
     resize(1180, 760);
     const QSettings merker(einstellungsdateiname(), QSettings::IniFormat);
     restoreGeometry(merker.value(schluesselGeometrie).toByteArray());
@@ -140,6 +142,8 @@ QWidget* Form1::baueLinkeSpalte() {
         schrift.setBold(true);
         knopf->setFont(schrift);
         knopf->setMinimumHeight(5 * raster);
+        setzeEnter(*knopf, Enter::weiter);  // no key starts a run
+        ohneKuerzel(*knopf);
         connect(knopf, &QPushButton::clicked, this, [this, ausgabe] { rechneUndZeige(ausgabe); });
         aussen->addWidget(knopf);
         return knopf;
@@ -280,11 +284,9 @@ void Form1::baueMenue() {
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     datei->addSeparator();
     befehl(datei, QStringLiteral("mnuFPrint"), QStringLiteral("Berechnung starten und Werte aus&drucken"),
-           [this] { rechneUndZeige(Fensterart::druck); })
-        ->setShortcut(QKeySequence::Print);
+           [this] { rechneUndZeige(Fensterart::druck); });
     befehl(datei, QStringLiteral("mnuFView"), QStringLiteral("Berechnung starten und Ergebnisse &einsehen"),
-           [this] { rechneUndZeige(Fensterart::ergebnisse); })
-        ->setShortcut(QKeySequence(Qt::Key_F5));
+           [this] { rechneUndZeige(Fensterart::ergebnisse); });
     datei->addSeparator();
     befehl(datei, QStringLiteral("mnuFClose"), QStringLiteral("Programm &beenden"), [this] {
         beende();

@@ -72,6 +72,7 @@ QWidget* Form23::baueSuchzeile() {
     suchwort_->setObjectName(QStringLiteral("Suchwort"));
     suchwort_->setAccessibleName(QStringLiteral("Suchen nach"));
     suchwort_->setClearButtonEnabled(true);
+    setzeEnter(*suchwort_, Enter::eigen);  // to the next place
     auto* schild = new QLabel(QStringLiteral("Suchen :"), suchzeile_);
     schild->setBuddy(suchwort_);
     trefferzahl_ = new QLabel(suchzeile_);

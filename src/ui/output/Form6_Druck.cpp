@@ -41,7 +41,7 @@ bool hatBemerkungen(const Wand& w) {
 
 Form6::Form6(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form6"), QStringLiteral("   Drucken "),
-              Tippen::aendertNichts, {QStringLiteral("Text")}),
+              Tippen::aendertNichts),
       logo_(liesLogo(programm.ordner)) {
     auto* spalten = new QHBoxLayout;
     spalten->setSpacing(2 * raster);

@@ -44,7 +44,7 @@ void Zeilengrenze::pruefe() {
 
 Form222::Form222(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form222"),
-              QStringLiteral("  Bemerkungen zur Position"), Tippen::aendertPosition, {}) {
+              QStringLiteral("  Bemerkungen zur Position"), Tippen::aendertPosition) {
     vor_ = textfeld(
         QStringLiteral("Text2"),
         QStringLiteral("Vorbemerkungen (stehen am Beginn des Ausdrucks) - es sind max. 3 Zeilen zulässig"),

@@ -43,7 +43,7 @@ QLabel* schild(const char* text, QWidget* feld) {
 Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldungen, QWidget* parent,
                                          Vorlagenart art)
     : Fenster(programm, meldungen, parent, QString::fromUtf8(fassung(art).name),
-              QString::fromUtf8(fassung(art).titel), Tippen::aendertNichts, {QStringLiteral("Text2")}),
+              QString::fromUtf8(fassung(art).titel), Tippen::aendertNichts),
       datei_(programm.datei(fassung(art).datei)),
       vorlagen_(liesTextvorlagen(datei_)),
       liste_(new QListWidget(this)),

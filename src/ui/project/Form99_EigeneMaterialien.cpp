@@ -79,8 +79,7 @@ constexpr std::array<const char*, 5> lochleibungen{
 
 Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form99"),
-              QStringLiteral("   Materialien für Beplankungen anlegen / verwalten"), Tippen::aendertNichts,
-              {QStringLiteral("Text"), QStringLiteral("Comb"), QStringLiteral("Option")}),
+              QStringLiteral("   Materialien für Beplankungen anlegen / verwalten"), Tippen::aendertNichts),
       tabelle_(programm.w.eigeneMaterialien),
       gelesen_(tabelle_),
       liste_(new QComboBox(this)),
@@ -138,6 +137,8 @@ Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
     connect(uebernehmen_, &QPushButton::clicked, this, &Form99::uebernehmen);
     connect(ende, &QPushButton::clicked, this, &Form99::zurueckUndSichern);
     connect(lochleibung_, &QButtonGroup::idToggled, this, &Form99::richteLochleibung);
+    // From the name to its values.
+    QWidget::setTabOrder(bearbeiten, name_);
     fuelleListe(0);
 }
 

@@ -127,7 +127,7 @@ TEST_F(Dialog, ServiceClassesOfSideTwoAreCountedDown) {
     Form4 form(programm, meldungen, nullptr);
     form.show();
     EXPECT_TRUE(finde<QRadioButton>(form, "Option3(3)").isChecked());
-    EXPECT_EQ(finde<QRadioButton>(form, "Option3(3)").text(), QStringLiteral("NKL 1"));
+    EXPECT_EQ(gelesen(finde<QRadioButton>(form, "Option3(3)").text()), QStringLiteral("NKL 1"));
     klicke(form, "Option3(2)");
     klicke(form, "Option2(3)");
     tippe(form, "Textbox1(3)", "0,625");

@@ -36,6 +36,9 @@ inline void tippe(QWidget& fenster, const char* name, const char* text) {
     tippe(wert(fenster, name), QString::fromUtf8(text));
 }
 
+// A caption as it is read, without the mark of its letter for the Alt key.
+inline QString gelesen(QString text) { return text.remove(QLatin1Char('&')); }
+
 inline void klicke(QWidget& fenster, const char* name) { finde<QAbstractButton>(fenster, name).click(); }
 
 inline void waehle(QWidget& fenster, const char* name, int index) {
