@@ -13,23 +13,23 @@ namespace {
 
 constexpr double ueberstand = 30.0;  // mm, counted on each side that runs on
 
-// A rib in section, centred on `mitte`, with its width below and its height at the left. Above `oben`
-// stands something else.
-void querschnitt(Zeichner& z, QPointF mitte, QSizeF masse, double f, double oben) {
+// A rib in section, centred on `mitte`, with its width below and its height at the left.
+void querschnitt(Zeichner& z, QPointF mitte, QSizeF masse, double f) {
     const QSizeF s = masse * f;
     const QRectF r(mitte.x() - s.width() / 2.0, mitte.y() - s.height() / 2.0, s.width(), s.height());
     z.hirnholz(r);
     const double t = z.t();
-    const QString hoehe = z.zahl("0.000", masse.height() / 1000.0);
-    // A figure longer than the height goes above where that is free, else below.
-    const bool nachOben = r.top() - z.textbreite(hoehe) - 0.8 * t > oben;
-    z.massSenkrecht(r.left() - 0.9 * t, r.left(),
-                    {{nachOben ? r.bottom() : r.top(), nachOben ? r.top() : r.bottom()}, {hoehe}});
-    const QString breite = z.zahl("0.000", masse.width() / 1000.0);
-    if (z.textbreite(breite) + 0.4 * t < s.width())
-        return z.massWaagerecht(r.bottom() + 1.9 * t, r.bottom(), {{r.left(), r.right()}, {breite}});
-    z.massWaagerecht(r.bottom() + 1.1 * t, r.bottom(), {{r.left(), r.right()}, {}});
-    z.text({mitte.x(), r.bottom() + 1.6 * t}, breite, Qt::AlignHCenter | Qt::AlignTop);
+    // A figure longer than its side stands beside the line, so that it belongs to nothing else.
+    const QString hoehe = rippenmass(z, masse.height());
+    if (z.textbreite(hoehe) + 0.5 * t <= s.height())
+        z.massSenkrecht(r.left() - 0.9 * t, r.left(), {{r.bottom(), r.top()}, {hoehe}});
+    else
+        z.kleinmassSenkrecht(r.left() - 0.9 * t, r.left(), r.bottom(), r.top(), hoehe);
+    const QString breite = rippenmass(z, masse.width());
+    if (z.textbreite(breite) + 0.5 * t <= s.width())
+        z.massWaagerecht(r.bottom() + 1.9 * t, r.bottom(), {{r.left(), r.right()}, {breite}});
+    else
+        z.kleinmassWaagerecht(r.bottom() + 1.1 * t, r.bottom(), r.left(), r.right(), breite);
 }
 
 enum class Fussrippe { buendig, durchgehend };
@@ -62,45 +62,54 @@ void fusspunkt(Zeichner& z, const QRectF& r, Wandende ende, Fussrippe fussrippe)
     }
 }
 
-}  // namespace
+// One of the sections side by side, with its title above and its dimensions at the left and below.
+struct Querschnitt {
+    QSizeF masse;  // mm
+    QString name;
+};
 
-namespace {
+// Room at the left of a section for its height.
+double platzLinks(const Zeichner& z, const Querschnitt& q, double f) {
+    const double zahl = z.textbreite(rippenmass(z, q.masse.height()));
+    const double t = z.t();
+    return zahl + 0.5 * t <= q.masse.height() * f ? 2.5 * t : zahl + 1.6 * t;
+}
+
+double spaltenbreite(const Zeichner& z, const Querschnitt& q, double f, const Textart& titel) {
+    const double breite = std::max(platzLinks(z, q, f) + q.masse.width() * f, z.textbreite(q.name, titel));
+    return breite + 1.2 * z.t();
+}
 
 void querschnitte(Zeichner& z, const QRectF& r, const Wandgeometrie& g) {
     const double t = z.t();
-    const double luft = 3.4 * t;  // beside each section, for its dimension
     const double hoehe = r.height() - 5.6 * t;
-    struct Spalte {
-        QSizeF masse;
-        QString name;
-    };
-    const std::array<Spalte, 3> spalten{{{{g.bRandrippe, g.hRippe}, QStringLiteral("Randrippe")},
-                                         {{g.bInnenrippe, g.hRippe}, QStringLiteral("Innenrippe")},
-                                         {{g.hRippe, g.bKopfFussrippe}, QStringLiteral("Kopf-/Fußrippe")}}};
+    const std::array<Querschnitt, 3> spalten{
+        {{{g.bRandrippe, g.hRippe}, QStringLiteral("Randrippe")},
+         {{g.bInnenrippe, g.hRippe}, QStringLiteral("Innenrippe")},
+         {{g.hRippe, g.bKopfFussrippe}, QStringLiteral("Kopf-/Fußrippe")}}};
     Textart titel{0.95, true, {}};
     double titelbreite = 0.0;
-    for (const Spalte& s : spalten) titelbreite += z.textbreite(s.name, titel) + t;
-    titel.faktor *= std::min(1.0, 0.85 * r.width() / titelbreite);
-    double f = std::min(std::max(1.0, r.width() - 3.0 * luft) / (g.bRandrippe + g.bInnenrippe + g.hRippe),
+    for (const Querschnitt& q : spalten) titelbreite += z.textbreite(q.name, titel);
+    titel.faktor *= std::min(1.0, (0.99 * r.width() - 3.6 * t) / titelbreite);
+    double f = std::min(r.width() / (g.bRandrippe + g.bInnenrippe + g.hRippe),
                         std::max(1.0, hoehe) / std::max(g.hRippe, g.bKopfFussrippe));
-    // A column is as wide as its section with the dimension, or as its title.
-    const auto spaltenbreite = [&](const Spalte& s) {
-        return std::max(s.masse.width() * f + luft, z.textbreite(s.name, titel) + t);
-    };
     const auto gesamt = [&] {
-        return std::accumulate(spalten.begin(), spalten.end(), 0.0,
-                               [&](double summe, const Spalte& s) { return summe + spaltenbreite(s); });
+        return std::accumulate(spalten.begin(), spalten.end(), 0.0, [&](double summe, const Querschnitt& q) {
+            return summe + spaltenbreite(z, q, f, titel);
+        });
     };
-    for (int i = 0; i < 20 && gesamt() > r.width(); ++i) f *= 0.92;
+    for (int i = 0; i < 40 && gesamt() > r.width(); ++i) f *= 0.95;
     const double rest = std::max(0.0, r.width() - gesamt()) / 3.0;
     double x = r.left();
-    for (const Spalte& s : spalten) {
-        const double spalte = spaltenbreite(s) + rest;
-        const double versatz = spalte - s.masse.width() * f > luft ? 0.4 * luft : luft;
-        const double titelrechts = x + spalte - 0.5 * z.textbreite(s.name, titel) - 0.1 * t;
-        const double achse = std::min(x + (spalte + versatz) / 2.0, titelrechts);
-        z.text({achse, r.top() + 1.2 * t}, s.name, Qt::AlignHCenter, titel);
-        querschnitt(z, {achse, r.top() + 2.0 * t + hoehe / 2.0}, s.masse, f, r.top() + 1.4 * t);
+    for (const Querschnitt& q : spalten) {
+        const double spalte = spaltenbreite(z, q, f, titel) + rest;
+        const double links = platzLinks(z, q, f);
+        const double luft = spalte - links - q.masse.width() * f;
+        const double achse = x + links + luft / 2.0 + q.masse.width() * f / 2.0;
+        const double halb = z.textbreite(q.name, titel) / 2.0;
+        z.text({std::clamp(achse, x + halb, x + std::max(halb, spalte - halb)), r.top() + 1.2 * t}, q.name,
+               Qt::AlignHCenter, titel);
+        querschnitt(z, {achse, r.top() + 2.0 * t + hoehe / 2.0}, q.masse, f);
         x += spalte;
     }
 }
@@ -174,19 +183,17 @@ void zeichneBeplankung(Zeichner& z, const Wand& w) {
     const bool hochformat = istHochformat(r);
     const QRectF schnitt =
         hochformat ? QRectF(0, 0, r.width(), 0.55 * r.height()) : QRectF(0, 0, 0.5 * r.width(), r.height());
-    const auto name = [&](Seite n) {
-        return QStringLiteral("Beplankung %1: %2, %3 mm")
-            .arg(nummer(n))
-            .arg(plattenname(w, n), z.zahl("0.0", Plattendicke(w, n).value()));
-    };
-    const QRectF bild = schnitt.adjusted(t, 2.6 * t, -t, -2.4 * t);
+    const QRectF bild = schnitt.adjusted(t, 3.4 * t, -t, -3.0 * t);
     const QRectF gezeichnet = zeichneSchnitt(z, bild, w, Schnittbeschriftung::masse);
+    // Names that are too long for one line wrap, away from the section.
     const double breite = schnitt.right() - gezeichnet.left() - 0.8 * t;
-    z.textPassend({gezeichnet.left(), gezeichnet.top() - 1.2 * t},
-                  g.einseitig ? QStringLiteral("Seite 2: nicht beplankt") : name(Seite::zwei), Qt::AlignLeft,
-                  breite);
-    z.textPassend({gezeichnet.left(), gezeichnet.bottom() + 4.3 * t}, name(Seite::eins), Qt::AlignLeft,
-                  breite);
+    const QStringList oben = z.umbrochen(
+        g.einseitig ? QStringLiteral("Seite 2: nicht beplankt") : plattenzeile(w, Seite::zwei, z), breite);
+    const double zeile = z.zeilenhoehe();
+    z.zeilen({gezeichnet.left(), gezeichnet.top() - 0.7 * t - zeile * static_cast<double>(oben.size())},
+             oben);
+    z.zeilen({gezeichnet.left(), gezeichnet.bottom() + 3.1 * t},
+             z.umbrochen(plattenzeile(w, Seite::eins, z), breite));
 
     QRectF rechts = hochformat ? QRectF(0, 0.55 * r.height(), r.width(), 0.45 * r.height())
                                : QRectF(0.5 * r.width(), 0, 0.5 * r.width(), r.height());
@@ -239,9 +246,10 @@ void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n) {
     const double h = std::min(mitteHoehe, std::max(3.4 * hoch * f, 6.0 * t));
     const QRectF platte(x, y - h / 2.0, f * v.t, h);
 
-    z.holz({platteRechts, y - h / 2.0, ende - platteRechts, h});
-    z.painter().fillRect(QRectF(ende - 0.4, y - h / 2.0 - 0.4, 1.0, h + 0.8), z.stil().grund);
-    z.bruchlinie({ende - 0.4, y + h / 2.0 + 0.4 * t}, {ende - 0.4, y - h / 2.0 - 0.4 * t}, z.stil().tinte);
+    z.fuelle(QRectF(platteRechts, y - h / 2.0, ende - platteRechts, h), z.stil().holz);
+    for (const double kante : {y - h / 2.0, y + h / 2.0})
+        z.linie({platteRechts, kante}, {ende, kante}, Strich::ansicht, z.stil().holzlinie);
+    z.bruchlinie({ende, y + h / 2.0 + 0.4 * t}, {ende, y - h / 2.0 - 0.4 * t}, z.stil().tinte);
     z.rechteck(platte, z.stil().platte[n], Strich::schnitt, z.stil().plattenkante[n]);
     z.schraffur(platte, std::max(1.0, 0.5 * t), z.stil().plattenkante[n]);
 
@@ -275,7 +283,7 @@ void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n) {
     }
     z.text({r.width() / 2.0, r.height() - 0.6 * t},
            QStringLiteral("av = %1 mm%2")
-               .arg(z.zahl("0", w.av[n].value()),
+               .arg(laengentext(w.av[n].value(), z.stil().dezimalzeichen),
                     w.Zweireihig[n] ? QStringLiteral(", zweireihig versetzt") : QString()),
            Qt::AlignHCenter);
 }
@@ -315,9 +323,7 @@ void ueberstandsbild(Zeichner& z, const QRectF& r, const Wandgeometrie& g, Fussr
     const double bis = rechts + ue;
     QColor druck = z.stil().last;
     druck.setAlphaF(0.22F);
-    z.painter().setPen(Qt::NoPen);
-    z.painter().setBrush(druck);
-    z.painter().drawPolygon(QPolygonF{{links, ok}, {rechts, ok}, {bis, fuss}, {von, fuss}});
+    z.fuelle(QPolygonF{{links, ok}, {rechts, ok}, {bis, fuss}, {von, fuss}}, druck);
     z.pfeil({(links + rechts) / 2.0, oben + 0.5 * t}, {(links + rechts) / 2.0, ok - 0.2 * t}, z.stil().last,
             0.6);
     z.text({rechts + 0.5 * t, (oben + ok) / 2.0}, QStringLiteral("Fc,d"), Qt::AlignLeft,

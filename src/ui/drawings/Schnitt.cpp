@@ -72,18 +72,33 @@ struct Schnittmasse {
     double innenLinks() const { return ursprung.x() + rand + feld; }
 };
 
-Schnittmasse schnittmasse(const QRectF& r, const Wandgeometrie& g) {
-    Schnittmasse m;
+struct Schnittgroesse {
+    double dicke;
+    double feld;  // a bay as drawn
+    double laenge;
+};
+
+Schnittgroesse schnittgroesse(const Wandgeometrie& g) {
     const double dicke = g.hRippe + g.t[Seite::eins] + (g.einseitig ? 0.0 : g.t[Seite::zwei]);
     const double feld = std::max(0.9 * dicke, 1.2 * std::max(g.bRandrippe, g.bInnenrippe));
-    const double laenge = g.bRandrippe + g.bInnenrippe + 1.65 * feld;
-    m.f = std::min(r.height() / dicke, r.width() / laenge);
-    m.t1 = g.t[Seite::eins] * m.f;
-    m.t2 = g.einseitig ? 0.0 : g.t[Seite::zwei] * m.f;
-    m.kern = g.hRippe * m.f;
-    m.rand = g.bRandrippe * m.f;
-    m.innen = g.bInnenrippe * m.f;
-    m.feld = feld * m.f;
+    return {dicke, feld, g.bRandrippe + g.bInnenrippe + 1.65 * feld};
+}
+
+Schnittmasse schnittmasse(const Wandgeometrie& g, double f) {
+    Schnittmasse m;
+    m.f = f;
+    m.t1 = g.t[Seite::eins] * f;
+    m.t2 = g.einseitig ? 0.0 : g.t[Seite::zwei] * f;
+    m.kern = g.hRippe * f;
+    m.rand = g.bRandrippe * f;
+    m.innen = g.bInnenrippe * f;
+    m.feld = schnittgroesse(g).feld * f;
+    return m;
+}
+
+Schnittmasse schnittmasse(const QRectF& r, const Wandgeometrie& g) {
+    const Schnittgroesse groesse = schnittgroesse(g);
+    Schnittmasse m = schnittmasse(g, std::min(r.height() / groesse.dicke, r.width() / groesse.laenge));
     m.ursprung = QPointF(r.left(), r.center().y() - m.dicke() / 2.0);
     return m;
 }
@@ -110,22 +125,39 @@ void zeichneSchnittVM(Zeichner& z, const Wand& w, Seite n, const Schnittmasse& m
     for (const double seite : {-0.25, 0.25}) zeichneVM(z, {mitte + seite * m.innen, y}, hinein, art, vm);
 }
 
-void zeichnePlatte(Zeichner& z, Seite n, const QRectF& platte, double stoss) {
+// A piece of a sheathing between two ends that are no edges of it, or with its edge at the left.
+void zeichnePlattenstueck(Zeichner& z, Seite n, const QRectF& stueck, bool kanteLinks) {
     const QColor linie = z.stil().plattenkante[n];
-    z.rechteck(platte, z.stil().platte[n], Strich::schnitt, linie);
-    z.schraffur(platte, std::max(0.9, 0.35 * z.t()), linie);
+    z.fuelle(stueck, z.stil().platte[n]);
+    z.schraffur(stueck, std::max(0.9, 0.35 * z.t()), linie);
+    z.linie(stueck.topLeft(), stueck.topRight(), Strich::schnitt, linie);
+    z.linie(stueck.bottomLeft(), stueck.bottomRight(), Strich::schnitt, linie);
+    if (kanteLinks) z.linie(stueck.topLeft(), stueck.bottomLeft(), Strich::schnitt, linie);
+}
+
+// The bay is longer than drawn: two break lines with a gap between them.
+struct Unterbrechung {
+    double mitte;
+    double luft;
+    double links() const { return mitte - luft / 2.0; }
+    double rechts() const { return mitte + luft / 2.0; }
+};
+
+void zeichnePlatte(Zeichner& z, Seite n, const QRectF& platte, const Unterbrechung& bruch, double stoss) {
+    QRectF links = platte;
+    links.setRight(bruch.links());
+    QRectF rechts = platte;
+    rechts.setLeft(bruch.rechts());
+    zeichnePlattenstueck(z, n, links, true);
+    zeichnePlattenstueck(z, n, rechts, false);
     if (stoss > 0.0)
         z.linie({stoss, platte.top()}, {stoss, platte.bottom()}, Strich::schnitt, z.stil().tinteAufHolz);
 }
 
-// Two break lines with the ground between them: the bay is longer than drawn.
-void zeichneUnterbrechung(Zeichner& z, double x, const QRectF& r) {
-    const double luft = 0.45 * z.t();
-    z.painter().fillRect(QRectF(x - luft / 2.0, r.top() - 0.2 * z.t(), luft, r.height() + 0.4 * z.t()),
-                         z.stil().grund);
-    for (const double seite : {-0.5, 0.5})
-        z.bruchlinie({x + seite * luft, r.bottom() + 0.6 * z.t()}, {x + seite * luft, r.top() - 0.6 * z.t()},
-                     z.stil().tinte);
+void zeichneBruchlinien(Zeichner& z, const Unterbrechung& bruch, const QRectF& r) {
+    const double ueber = 0.6 * z.t();
+    for (const double x : {bruch.links(), bruch.rechts(), r.right()})
+        z.bruchlinie({x, r.bottom() + ueber}, {x, r.top() - ueber}, z.stil().tinte);
 }
 
 // Wind across the wall on sheathing 1: towards it, or away from it as suction.
@@ -143,50 +175,93 @@ void zeichneWind(Zeichner& z, const Wand& w, const Schnittmasse& m) {
     }
 }
 
+// One sheathing with its fasteners.
+void zeichneSeite(Zeichner& z, const Wand& w, const Wandgeometrie& g, Seite n, const Schnittmasse& m,
+                  const Unterbrechung& bruch) {
+    const bool vorn = n == Seite::eins;
+    const double y = m.ursprung.y();
+    const QRectF platte(m.ursprung.x(), vorn ? y + m.t2 + m.kern : y, m.laenge(), vorn ? m.t1 : m.t2);
+    const bool stoss = !g.plattenstoesse[n].empty();
+    {
+        const Ebenenwechsel ebene(z, vorn ? Ebene::beplankung1 : Ebene::beplankung2);
+        zeichnePlatte(z, n, platte, bruch, stoss ? m.innenLinks() + m.innen / 2.0 : 0.0);
+        z.bauteil(platte, Fensterart::beplankung, plattenzeile(w, n, z));
+    }
+    const Ebenenwechsel ebene(z, Ebene::verbindungsmittel);
+    zeichneSchnittVM(z, w, n, m, stoss);
+}
+
+void zeichneHirnholz(Zeichner& z, const Wandgeometrie& g, const Schnittmasse& m) {
+    const Ebenenwechsel ebene(z, Ebene::rippen);
+    const auto rippe = [&](double x, double drawn, double breite, const char* name) {
+        const QRectF r(x, m.ursprung.y() + m.t2, drawn, m.kern);
+        z.hirnholz(r);
+        z.bauteil(
+            r, Fensterart::rippen,
+            QStringLiteral("%1 %2 x %3 cm")
+                .arg(QLatin1String(name), z.zahl("0.0", breite / 10.0), z.zahl("0.0", g.hRippe / 10.0)));
+    };
+    rippe(m.ursprung.x(), m.rand, g.bRandrippe, "Randrippe");
+    rippe(m.innenLinks(), m.innen, g.bInnenrippe, "Innenrippe");
+}
+
+// Whether the depth of the ribs can be written along its dimension line; else it stands beside it.
+bool tiefePasst(const Zeichner& z, const Wandgeometrie& g, double f) {
+    return z.textbreite(rippenmass(z, g.hRippe)) + 0.5 * z.t() <= g.hRippe * f;
+}
+
+void zeichneSchnittmasse(Zeichner& z, const Wandgeometrie& g, const Schnittmasse& m) {
+    const double t = z.t();
+    const double x = m.ursprung.x();
+    const double kern = m.ursprung.y() + m.t2;
+    const QString tiefe = rippenmass(z, g.hRippe);
+    if (tiefePasst(z, g, m.f))
+        z.massSenkrecht(x - 1.2 * t, x, {{kern + m.kern, kern}, {tiefe}});
+    else
+        z.kleinmassSenkrecht(x - 1.2 * t, x, kern + m.kern, kern, tiefe);
+    const double unten = m.ursprung.y() + m.dicke();
+    z.kleinmassWaagerecht(unten + 1.4 * t, unten, x, x + m.rand, rippenmass(z, g.bRandrippe));
+    z.kleinmassWaagerecht(unten + 1.4 * t, unten, m.innenLinks(), m.innenLinks() + m.innen,
+                          rippenmass(z, g.bInnenrippe));
+}
+
+QRectF zeichneSchnittMit(Zeichner& z, const Wand& w, const Wandgeometrie& g, const Schnittmasse& m) {
+    const QRectF gesamt(m.ursprung, QSizeF(m.laenge(), m.dicke()));
+    const Unterbrechung bruch{m.ursprung.x() + m.rand + 0.5 * m.feld, 0.45 * z.t()};
+    zeichneHirnholz(z, g, m);
+    for (const Seite n : beideSeiten)
+        if (n == Seite::eins || !g.einseitig) zeichneSeite(z, w, g, n, m, bruch);
+    zeichneBruchlinien(z, bruch, gesamt);
+    return gesamt;
+}
+
 }  // namespace
 
 QRectF zeichneSchnitt(Zeichner& z, const QRectF& r, const Wand& w, Schnittbeschriftung beschriftung) {
     const Geometriepruefung pruefung = pruefeGeometrie(w);
     if (!pruefung.geometrie || r.width() < 5.0 || r.height() < 3.0) return {};
     const Wandgeometrie& g = *pruefung.geometrie;
-    QRectF innen = r;
+    const double t = z.t();
     const bool masse = beschriftung == Schnittbeschriftung::masse;
-    if (masse) innen.adjust(2.2 * z.t(), 0.0, 0.0, -2.7 * z.t());
-    const Schnittmasse m = schnittmasse(innen, g);
-    const double x = m.ursprung.x();
-    const double y = m.ursprung.y();
-
-    z.hirnholz({x, y + m.t2, m.rand, m.kern});
-    z.hirnholz({m.innenLinks(), y + m.t2, m.innen, m.kern});
-    const double mitte = m.innenLinks() + m.innen / 2.0;
-    for (const Seite n : beideSeiten) {
-        if (n == Seite::zwei && g.einseitig) continue;
-        const bool vorn = n == Seite::eins;
-        const QRectF platte(x, vorn ? y + m.t2 + m.kern : y, m.laenge(), vorn ? m.t1 : m.t2);
-        const bool stoss = !g.plattenstoesse[n].empty();
-        zeichnePlatte(z, n, platte, stoss ? mitte : 0.0);
-        zeichneSchnittVM(z, w, n, m, stoss);
+    QRectF innen = r;
+    if (masse) innen.adjust(2.2 * t, 0.6 * t, 0.0, -2.9 * t);
+    Schnittmasse m = schnittmasse(innen, g);
+    if (masse && !tiefePasst(z, g, m.f)) {
+        innen.setLeft(r.left() + z.textbreite(rippenmass(z, g.hRippe)) + 1.8 * t);
+        m = schnittmasse(innen, g);
     }
-    const QRectF gesamt(x, y, m.laenge(), m.dicke());
-    zeichneUnterbrechung(z, x + m.rand + 0.5 * m.feld, gesamt);
-    // The section ends in the next bay.
-    const double ende = x + m.laenge();
-    z.painter().fillRect(QRectF(ende - 0.3, y - 0.3, 0.8, m.dicke() + 0.6), z.stil().grund);
-    z.bruchlinie({ende - 0.3, gesamt.bottom() + 0.6 * z.t()}, {ende - 0.3, y - 0.6 * z.t()}, z.stil().tinte);
+    const QRectF gesamt = zeichneSchnittMit(z, w, g, m);
     zeichneWind(z, w, m);
-    if (!masse) return gesamt;
-    z.massSenkrecht(x - 1.2 * z.t(), x,
-                    {{y + m.t2 + m.kern, y + m.t2}, {z.zahl("0.000", g.hRippe / 1000.0)}});
-    // Ribs are narrow here: their figures stand below the line.
-    const double linie = gesamt.bottom() + 1.4 * z.t();
-    const auto breite = [&](double links, double drawn, double wert) {
-        z.massWaagerecht(linie, gesamt.bottom(), {{links, links + drawn}, {}});
-        z.text({links + drawn / 2.0, linie + 0.45 * z.t()}, z.zahl("0.000", wert / 1000.0),
-               Qt::AlignHCenter | Qt::AlignTop);
-    };
-    breite(x, m.rand, g.bRandrippe);
-    breite(m.innenLinks(), m.innen, g.bInnenrippe);
+    if (masse) zeichneSchnittmasse(z, g, m);
     return gesamt;
+}
+
+void zeichneBauschnitt(Zeichner& z, const Wand& w, double massstab) {
+    const Geometriepruefung pruefung = pruefeGeometrie(w);
+    if (!pruefung.geometrie) return;
+    Schnittmasse m = schnittmasse(*pruefung.geometrie, massstab);
+    zeichneSchnittMit(z, w, *pruefung.geometrie, m);
+    zeichneSchnittmasse(z, *pruefung.geometrie, m);
 }
 
 }  // namespace rippenscheibe

@@ -15,6 +15,12 @@ Ankergruppe ankergruppe(int ankertyp);
 inline bool istHochformat(const QRectF& r) { return r.height() > 0.75 * r.width(); }
 
 void zeichneAnsicht(Zeichner& z, const Wand& w);
+// The wall alone, for a list of walls.
+void zeichneMiniatur(Zeichner& z, const Wand& w);
+// Elevation and section for the drawing office in a given scale (0.02 for 1:50): no loads, no fills, both
+// sheathings whole. The left lower corner of the wall and the left upper one of the section are at (0, 0).
+void zeichneBauansicht(Zeichner& z, const Wand& w, double massstab);
+void zeichneBauschnitt(Zeichner& z, const Wand& w, double massstab);
 void zeichneRippen(Zeichner& z, const Wand& w);
 void zeichneBeplankung(Zeichner& z, const Wand& w);
 void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n);

@@ -47,6 +47,13 @@ QString masssatz(const Wandgeometrie& g) {
 
 }  // namespace
 
+std::vector<double> Wandgeometrie::rippenachsen() const {
+    std::vector<double> achsen{bRandrippe / 2.0};
+    achsen.insert(achsen.end(), innenrippen.begin(), innenrippen.end());
+    achsen.push_back(l - bRandrippe / 2.0);
+    return achsen;
+}
+
 double gezeichneterWert(Zahl wert, double kleinster, double groesster, double ersatz) {
     return wert.failed() ? ersatz : std::clamp(wert.value(), kleinster, groesster);
 }
@@ -106,6 +113,26 @@ QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z) {
     const char zeichen = z.stil().dezimalzeichen;
     return name + QLatin1Char(' ') + durchmessertext(w.d[n].value(), zeichen) + QLatin1Char('x') +
            laengentext(w.ln[n].value(), zeichen);
+}
+
+QString verbindungsmittelzeile(const Wand& w, Seite n, const Zeichner& z) {
+    return QStringLiteral("%1, av\u00a0=\u00a0%2\u00a0mm%3")
+        .arg(verbindungsmittelname(w, n, z), laengentext(w.av[n].value(), z.stil().dezimalzeichen),
+             w.Zweireihig[n] ? QStringLiteral(", 2-reihig") : QString());
+}
+
+QString plattenzeile(const Wand& w, Seite n, const Zeichner& z) {
+    return QStringLiteral("Beplankung\u00a0%1: %2, %3\u00a0mm")
+        .arg(nummer(n))
+        .arg(plattenname(w, n), z.zahl("0.0", Plattendicke(w, n).value()));
+}
+
+QString rippenmass(const Zeichner& z, double mm) { return z.zahl("0.0", mm / 10.0) + QStringLiteral(" cm"); }
+
+QString metertext(double mm, const Zeichner& z) {
+    QString text = z.zahl("0.0000", mm / 1000.0);
+    if (text.endsWith(QLatin1Char('0'))) text.chop(1);
+    return text;
 }
 
 QString ankerkurzname(const Wand& w) {

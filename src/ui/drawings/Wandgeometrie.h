@@ -28,6 +28,8 @@ struct Wandgeometrie {
     Paar<std::vector<double>> plattenstoesse;
 
     std::size_t anzahlRippen() const { return innenrippen.size() + 2; }
+    // The axes of all ribs, from left to right.
+    std::vector<double> rippenachsen() const;
 };
 
 // Either the geometry or a German sentence that says why there is none.
@@ -51,6 +53,14 @@ QString durchmessertext(double mm, char dezimalzeichen);
 QString laengentext(double mm, char dezimalzeichen);
 // Kind, diameter and length as entered, whatever row of a list they came from: "Nägel 2,7x50".
 QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z);
+// "Nägel 2,7x50, av = 60 mm, 2-reihig"
+QString verbindungsmittelzeile(const Wand& w, Seite n, const Zeichner& z);
+// "Beplankung 1: OSB/3, 15,0 mm"
+QString plattenzeile(const Wand& w, Seite n, const Zeichner& z);
+// The size of a section, in cm as it is entered: "16,0 cm".
+QString rippenmass(const Zeichner& z, double mm);
+// A length in metres with three places, or four where three would round it: "0,625", "0,3125".
+QString metertext(double mm, const Zeichner& z);
 // The last word of the anchor's name ("HTT5"), or the name of the free anchor.
 QString ankerkurzname(const Wand& w);
 

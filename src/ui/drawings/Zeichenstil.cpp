@@ -17,6 +17,7 @@ Zeichenstil Zeichenstil::hell() {
     s.mm = 96.0 / 25.4;
     s.schrifthoehe = 3.2;
     s.mindestbreite = 0.8;
+    s.raster = true;
     s.grundFuellen = true;
     s.grund = QColor(0xFFFFFF);
     s.tinte = QColor(0x22282C);
@@ -50,8 +51,10 @@ Zeichenstil Zeichenstil::dunkel() {
 Zeichenstil Zeichenstil::papier(double mm) {
     Zeichenstil s = hell();
     s.mm = mm;
-    s.schrifthoehe = 2.4;
+    s.schrifthoehe = 2.5;
+    s.kleinsteSchrift = 7.0 * 25.4 / 72.0;
     s.mindestbreite = 0.0;
+    s.raster = false;
     s.familie = QStringLiteral("Arial");
     s.grundFuellen = false;
     s.tinte = QColor(Qt::black);

@@ -13,7 +13,10 @@ namespace rippenscheibe {
 struct Zeichenstil {
     double mm = 1.0;             // painter units for one millimetre of the drawing
     double schrifthoehe = 2.4;   // font size of dimensions and labels, mm
+    double kleinsteSchrift = 0;  // no text is smaller, mm
     double mindestbreite = 0.0;  // thinnest line, painter units
+    bool raster = false;         // upright and level lines fill whole pixels
+    double lupe = 1.0;           // the painter enlarges the drawing so often: lines stay thin, fasteners part
     QString familie;             // font family, empty: the font of the program
     char dezimalzeichen = ',';
     bool grundFuellen = false;  // paint the ground first

@@ -8,14 +8,14 @@ namespace rippenscheibe {
 
 namespace {
 
-// A style whose text is not larger, beside the drawing, than on paper; a little more for wider fonts.
+// A style whose text is not larger, beside the drawing, than on paper.
 Zeichenstil passend(Zeichnung was, const QRectF& flaeche, Zeichenstil stil) {
     const bool gestapelt =
         (was == Zeichnung::rippen || was == Zeichnung::beplankung) && istHochformat(flaeche);
     const QSizeF vorbild = (gestapelt ? QSizeF(64.0, 64.0) : groesse(was)) * stil.mm;
     const double anteil = std::min(flaeche.width() / vorbild.width(), flaeche.height() / vorbild.height());
     if (anteil > 0.0)
-        stil.schrifthoehe = std::min(stil.schrifthoehe, 1.05 * Zeichenstil::papier().schrifthoehe * anteil);
+        stil.schrifthoehe = std::min(stil.schrifthoehe, Zeichenstil::papier().schrifthoehe * anteil);
     return stil;
 }
 
@@ -48,15 +48,17 @@ QSizeF groesse(Zeichnung was) {
             return {90.0, 70.0};
         case Zeichnung::rollbild:
             return {80.0, 250.0};
+        case Zeichnung::miniatur:
+            return {32.0, 18.0};
         case Zeichnung::startbild:
             return {120.0, 70.0};
     }
     return {100.0, 70.0};
 }
 
-void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w,
-             const Zeichenstil& stil) {
-    Zeichner z(painter, flaeche, passend(was, flaeche, stil));
+void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w, const Zeichenstil& stil,
+             Zeichenhoerer* hoerer) {
+    Zeichner z(painter, flaeche, passend(was, flaeche, stil), hoerer);
     if (z.zuKlein()) return;
     switch (was) {
         case Zeichnung::ansicht:
@@ -85,6 +87,8 @@ void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand
             return zeichneUeberstand(z, w);
         case Zeichnung::rollbild:
             return zeichneRollbild(z, w);
+        case Zeichnung::miniatur:
+            return zeichneMiniatur(z, w);
         case Zeichnung::startbild:
             return zeichneStartbild(z, w);
     }

@@ -6,6 +6,7 @@
 
 #include "model/Wand.h"
 #include "report/Zeile.h"
+#include "ui/drawings/Zeichenhoerer.h"
 #include "ui/drawings/Zeichenstil.h"
 
 // All drawings of the program. Each draws into `flaeche` (painter units) from the inputs of the record, in
@@ -29,13 +30,15 @@ enum class Zeichnung {
     gruppen,
     ueberstand,  // overhang of the bottom rib and effective contact area
     rollbild,    // a tall picture of the whole wall, layer by layer
+    miniatur,    // the wall alone, for a list of walls
     startbild,
 };
 
 // Width by height of a drawing in the report, mm; for drawings that only the screen shows a fitting size.
 QSizeF groesse(Zeichnung was);
 
-void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w, const Zeichenstil& stil);
+void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand& w, const Zeichenstil& stil,
+             Zeichenhoerer* hoerer = nullptr);
 
 // A picture of the report. The logo is the user's own file and not drawn here.
 void zeichneBild(QPainter& painter, const QRectF& flaeche, Bild bild, const Wand& w, const Zeichenstil& stil);

@@ -39,6 +39,8 @@ QString name(Zeichnung was) {
             return QStringLiteral("Überstand der Fußrippe");
         case Zeichnung::rollbild:
             return QStringLiteral("Aufbau einer Wandtafel");
+        case Zeichnung::miniatur:
+            return QStringLiteral("Wandtafel");
         case Zeichnung::startbild:
             return QStringLiteral("Wandtafel");
     }

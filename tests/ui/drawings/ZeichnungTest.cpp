@@ -8,10 +8,14 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <functional>
 #include <limits>
 #include <vector>
 
+#include "files/EigeneMaterialienDatei.h"
+#include "files/Positionsdatei.h"
+#include "run/Zuweisen.h"
 #include "ui/drawings/Ausgabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 
@@ -31,6 +35,7 @@ struct Mitschrift {
     struct Text {
         QString text;
         QRectF kasten;
+        double punkt;  // size in points where the unit is a millimetre
     };
     struct Flaeche {
         QRectF r;
@@ -86,7 +91,8 @@ class Mitschreiber : public QPaintEngine {
     void drawTextItem(const QPointF& p, const QTextItem& text) override {
         const QRectF kasten(p.x(), p.y() - 0.7 * text.font().pixelSize(), text.width(),
                             0.7 * text.font().pixelSize());
-        mitschrift_.texte.push_back({text.text(), painter()->combinedTransform().mapRect(kasten)});
+        mitschrift_.texte.push_back({text.text(), painter()->combinedTransform().mapRect(kasten),
+                                     text.font().pixelSize() * massstab() * 72.0 / 25.4});
     }
 
   private:
@@ -211,11 +217,23 @@ TEST(Zeichnung, AOneSidedWallShowsNothingOfSideTwo) {
     const QColor platte2 = Zeichenstil::papier().platte[Seite::zwei];
     for (const Zeichnung was : {Zeichnung::ansicht, Zeichnung::beplankung}) {
         const Mitschrift beide = aufPapier(was, wand());
-        EXPECT_NE(beide.beginntMit(QStringLiteral("Beplankung 2")), nullptr);
+        EXPECT_NE(beide.beginntMit(QStringLiteral("Beplankung\u00a02")), nullptr);
         EXPECT_FALSE(beide.mitFarbe(platte2).empty());
         const Mitschrift eine = aufPapier(was, wand([](Wand& x) { x.Einseitig = true; }));
-        EXPECT_EQ(eine.beginntMit(QStringLiteral("Beplankung 2")), nullptr);
+        EXPECT_EQ(eine.beginntMit(QStringLiteral("Beplankung\u00a02")), nullptr);
         EXPECT_TRUE(eine.mitFarbe(platte2).empty());
+    }
+}
+
+TEST(Zeichnung, TheElevationIsTheLargestPartAndNamesTheFastenerEntered) {
+    for (const QSizeF& s : {QSizeF(800, 480), QSizeF(1200, 700), QSizeF(378, 344)}) {
+        // A nail of other measures than its row of the list says.
+        const Wand w = wand([](Wand& x) { x.d[Seite::eins] = 5.5, x.ln[Seite::eins] = 30; });
+        const Mitschrift m = schreibeMit(Zeichnung::ansicht, w, s, Zeichenstil::hell());
+        const auto* legende = m.beginntMit(QStringLiteral("Beplankung\u00a01"));
+        ASSERT_NE(legende, nullptr);
+        EXPECT_GE(legende->kasten.top(), 0.6 * s.height());
+        EXPECT_NE(m.beginntMit(QStringLiteral("Nägel 5,5x30")), nullptr);
     }
 }
 
@@ -270,6 +288,24 @@ TEST(Zeichnung, LabelsStayInsideTheDrawingAndDoNotMeet) {
             for (const double punkte : {3.5, 5.0}) {  // the smallest and the usual size of the widget
                 const QSizeF s = groesse(was) * punkte;
                 pruefeLabels(schreibeMit(was, w, s, Zeichenstil::hell()), s, name + ", screen");
+            }
+        }
+    }
+}
+
+TEST(Zeichnung, OfNoExampleAWordOrAFigureIsCutOnPaper) {
+    for (const auto& datei : std::filesystem::directory_iterator(RIPPENSCHEIBE_BEISPIELE)) {
+        if (datei.path().extension() != ".rsw") continue;
+        Wand w = wand();
+        w.eigeneMaterialien = liesEigeneMaterialien(datei.path().parent_path() / "Plattenwerte.dat");
+        ASSERT_FALSE(liesPosition(datei.path(), w).fehler);
+        zuweisen(w, grundmasse(w));
+        for (const Zeichnung was : {Zeichnung::ansicht, Zeichnung::beplankung, Zeichnung::anker}) {
+            const Mitschrift m = aufPapier(was, w);
+            pruefeLabels(m, groesse(was), datei.path().stem());
+            for (const auto& t : m.texte) {
+                EXPECT_FALSE(t.text.contains(QStringLiteral("…"))) << datei.path() << t.text.toStdString();
+                EXPECT_GE(t.punkt, 7.0) << datei.path() << t.text.toStdString();
             }
         }
     }
