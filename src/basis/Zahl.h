@@ -121,6 +121,11 @@ using Feld = Gespeichert<double>;
 using Feld32 = Gespeichert<float>;
 using Ganzzahl = Gespeichert<std::int16_t>;
 
+// The type that holds a field of this type in the record. The build of `trace` puts one that remembers in
+// place of a truth value.
+template <class T>
+using Feldtyp = T;
+
 // One double a rib: index 1 is the left edge rib, the last the right one, 0 is never written. A read
 // outside 0..200 has failed, a write there is ignored.
 class Rippenfeld {

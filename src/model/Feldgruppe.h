@@ -37,9 +37,9 @@ struct Gruppen : G... {
 
 }  // namespace rippenscheibe
 
-#define RS_FELD_DECLARE(Typ, Name, Vorgabe, Einheit, Bedeutung) Typ Name{Vorgabe};
+#define RS_FELD_DECLARE(Typ, Name, Vorgabe, Einheit, Bedeutung) Feldtyp<Typ> Name{Vorgabe};
 #define RS_PAAR_DECLARE(Typ, Name, Name1, Name2, Vorgabe, Einheit, Bedeutung) \
-    Paar<Typ> Name{{Typ(Vorgabe), Typ(Vorgabe)}};
+    Paar<Feldtyp<Typ>> Name{{Feldtyp<Typ>(Vorgabe), Feldtyp<Typ>(Vorgabe)}};
 
 #define RS_FELD_DESCRIBE(Typ, Name, Vorgabe, Einheit, Bedeutung) \
     besucher(Feldangabe{#Name, Einheit, Bedeutung}, gruppe.Name);

@@ -17,16 +17,24 @@ bool Teil::haengeAn(std::string& zeile, char dezimalzeichen) const {
     return true;
 }
 
-std::optional<std::string> Berichtsbau::text(Teile teile) const {
-    std::string ergebnis;
+bool Berichtsbau::haengeAn(Textzeile& zeile, Teile teile) const {
+    if (!zeile.text) zeile.text.emplace();
     for (const Teil& teil : teile) {
-        if (!teil.haengeAn(ergebnis, optionen.dezimalzeichen)) return std::nullopt;
+        const std::size_t von = zeile.text->size();
+        if (!teil.haengeAn(*zeile.text, optionen.dezimalzeichen)) {
+            zeile.text.reset();
+            zeile.zahlen.clear();
+            return false;
+        }
+        if (teil.wert()) zeile.zahlen.push_back({von, zeile.text->size(), *teil.wert()});
     }
-    return ergebnis;
+    return true;
 }
 
 void Berichtsbau::zeile(double abstand, Teile teile, Stil stil) {
-    neu(Textzeile{.stil = stil, .abstand = abstand, .text = text(teile)});
+    Textzeile zeile{.stil = stil, .abstand = abstand};
+    haengeAn(zeile, teile);
+    neu(std::move(zeile));
 }
 
 void Berichtsbau::ueberschrift(Stil stil, std::string_view text, double abstand,
@@ -50,23 +58,17 @@ void Berichtsbau::h3(std::string_view text, double abstand, std::optional<double
 void Berichtsbau::ausnutzung(double abstand, std::string_view name, Zahl eta, Teile davor,
                              std::string_view maske, const Endungen& enden) {
     const bool erfuellt = eta <= 1.0;
-    std::optional<std::string> ganz = text(davor);
-    const std::optional<std::string> ende =
-        text({{eta, maske}, erfuellt ? enden.erfuellt : enden.ueberschritten});
-    if (ganz && ende) *ganz += *ende;
-    if (!ende) ganz.reset();
-    neu(Textzeile{.stil = Stil::text,
-                  .abstand = abstand,
-                  .text = std::move(ganz),
-                  .ausnutzung = Ausnutzung{std::string(name), eta.value(), erfuellt}});
+    Textzeile zeile{.abstand = abstand, .ausnutzung = Ausnutzung{std::string(name), eta.value(), erfuellt}};
+    if (haengeAn(zeile, davor))
+        haengeAn(zeile, {{eta, maske}, erfuellt ? enden.erfuellt : enden.ueberschritten});
+    neu(std::move(zeile));
 }
 
 void Berichtsbau::urteil(double abstand, std::string_view name, Zahl eta, bool erfuellt, Teile teile) {
     const double anzeige = eta.failed() ? std::numeric_limits<double>::infinity() : eta.value();
-    neu(Textzeile{.stil = Stil::text,
-                  .abstand = abstand,
-                  .text = text(teile),
-                  .ausnutzung = Ausnutzung{std::string(name), anzeige, erfuellt}});
+    Textzeile zeile{.abstand = abstand, .ausnutzung = Ausnutzung{std::string(name), anzeige, erfuellt}};
+    haengeAn(zeile, teile);
+    neu(std::move(zeile));
 }
 
 int listenlaenge(const Wand& w) {

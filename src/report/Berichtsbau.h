@@ -23,6 +23,8 @@ class Teil {
 
     // Appends the piece; false when it has failed.
     bool haengeAn(std::string& zeile, char dezimalzeichen) const;
+    // The value; nothing for words.
+    std::optional<Zahl> wert() const { return istWert_ ? std::optional(wert_) : std::nullopt; }
 
   private:
     std::optional<std::string_view> text_;  // the words, or the mask of the value
@@ -71,7 +73,8 @@ class Berichtsbau {
     Bericht fertig() && { return std::move(bericht_); }
 
   private:
-    std::optional<std::string> text(Teile teile) const;
+    // Appends the pieces to the line's text and notes its numbers; false, and no text, when one has failed.
+    bool haengeAn(Textzeile& zeile, Teile teile) const;
     void ueberschrift(Stil stil, std::string_view text, double abstand, std::optional<double> grenze);
 
     Bericht bericht_;

@@ -80,6 +80,13 @@ struct Ausnutzung {
     bool erfuellt = true;
 };
 
+// A printed number: bytes `von` to `bis` (behind the last) of the text, and the value it shows.
+struct Zahlstelle {
+    std::size_t von;
+    std::size_t bis;
+    Zahl wert;
+};
+
 // A line of text at the left margin. The gap comes first, then the page-break test (if there is one),
 // then the text. Without a text (a value of it has failed) only the cursor moves.
 struct Textzeile {
@@ -88,6 +95,7 @@ struct Textzeile {
     std::optional<double> grenze{};
     std::optional<std::string> text{};
     std::optional<Ausnutzung> ausnutzung{};
+    std::vector<Zahlstelle> zahlen{};  // the numbers of the text, from left to right
 };
 
 // A picture at x and at the cursor plus `versatz`.

@@ -8,7 +8,6 @@
 #include "fasteners/Verteiler.h"
 #include "materials/Materialkennwerte.h"
 #include "materials/kmod.h"
-#include "plausibility/Plausibilitaetslauf.h"
 
 namespace rippenscheibe {
 
@@ -48,13 +47,6 @@ void berechnungslauf(Wand& w) {
     wandsteifigkeit(w);
     if (w.NachweisVerankerung) nachweisVerankerung(w);
     zusammenfassung(w);
-}
-
-Laufergebnis starte(Wand& w, Hinweisbehandlung hinweise) {
-    plausibilitaetslauf(w);
-    if (!w.Hinweise.empty() && hinweise == Hinweisbehandlung::beachten) return Laufergebnis::hinweise;
-    berechnungslauf(w);
-    return Laufergebnis::gerechnet;
 }
 
 }  // namespace rippenscheibe

@@ -1,0 +1,55 @@
+#include "trace/Herleitung.h"
+
+#include "trace/spur/Lauf.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+using herleitung::Wandinhalt;
+
+class Leser {
+  public:
+    explicit Leser(Wandinhalt& inhalt) : inhalt_(inhalt) {}
+
+    template <class T>
+    void operator()(const Feldangabe&, const Gespeichert<T>& feld) {
+        inhalt_.zahlen.push_back(static_cast<double>(feld.value()));
+    }
+    void operator()(const Feldangabe&, const bool& feld) { inhalt_.zahlen.push_back(feld ? 1 : 0); }
+    void operator()(const Feldangabe&, const Rippenfeld& feld) {
+        for (std::size_t i = 0; i < Rippenfeld::laenge; ++i) inhalt_.zahlen.push_back(feld(i).value());
+    }
+    void operator()(const Feldangabe&, const std::string& feld) { inhalt_.texte.push_back(feld); }
+    template <class Texte>
+    void operator()(const Feldangabe&, const Texte&) {}
+
+  private:
+    Wandinhalt& inhalt_;
+};
+
+Wandinhalt inhalt(const Wand& w, const Grundmasse& felder) {
+    Wandinhalt i;
+    Leser leser(i);
+    jedeEingabe(w, leser);
+    jedesErgebnis(w, leser);
+    for (const EigeneMaterialien::Zeile& zeile : w.eigeneMaterialien.zeilen) {
+        Wandinhalt::Material& material = i.materialien.emplace_back();
+        material.name = zeile.name;
+        for (const auto& zelle : zeile.zellen) material.zellen.push_back(zelle.wert);
+    }
+    i.Wandlaenge = felder.Wandlaenge;
+    i.Wandhoehe = felder.Wandhoehe;
+    i.Rippenabstand = felder.Rippenabstand;
+    return i;
+}
+
+}  // namespace
+
+herleitung::Graph leiteHer(const Wand& vorDemLauf, const Grundmasse& felder) {
+    herleitung::Graph graph;
+    herleitung::laufeMitSpur(inhalt(vorDemLauf, felder), graph);
+    return graph;
+}
+
+}  // namespace rippenscheibe
