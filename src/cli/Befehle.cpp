@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "cli/Feldwerte.h"
+#include "cli/Herleitung.h"
 #include "files/Anweisungen.h"
 #include "files/Dateischreiber.h"
 #include "files/EigeneMaterialienDatei.h"
@@ -16,6 +17,7 @@
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"
 #include "run/Zuweisen.h"
+#include "trace/Herleitung.h"
 
 namespace rippenscheibe {
 
@@ -71,7 +73,36 @@ class Arbeit {
         return schreibeZieldatei();
     }
 
+    Rueckgabe herleite() {
+        if (const std::string fremd = unbekanntesFeld(auftrag_.herleitung.felder); !fremd.empty()) {
+            ausgaben_.meldungen("Unbekanntes Feld: " + fremd + "\nAlle Felder: rippenscheibe-cli felder\n");
+            return Rueckgabe::aufruf;
+        }
+        if (!ladeMaterialien()) return Rueckgabe::dateifehler;
+        const auto wand = frischeWand();
+        return hoehere(leiteDateiHer(auftrag_.dateien.front(), *wand), schreibeZieldatei());
+    }
+
   private:
+    // The derivation of the last run; the runs before it only leave their results.
+    Rueckgabe leiteDateiHer(const fs::path& datei, Wand& w) {
+        const std::optional<Grundmasse> felder = lade(datei, w);
+        if (!felder) return Rueckgabe::dateifehler;
+        for (int lauf = 1; lauf < auftrag_.laeufe; ++lauf) {
+            zuweisen(w, *felder);
+            starte(w);
+        }
+        const Wand vorher = w;
+        zuweisen(w, *felder);
+        const bool gerechnet = starte(w) == Laufergebnis::gerechnet;
+        meldeErgebnis(datei, w, gerechnet);
+        if (!gerechnet) return Rueckgabe::hinweise;
+        const herleitung::Graph graph = leiteHer(vorher, *felder);
+        gibAus(auftrag_.ausgabe == Ausgabeart::json ? herleitungJson(graph, auftrag_.herleitung)
+                                                    : herleitungText(graph, auftrag_.herleitung));
+        return w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
+    }
+
     Rueckgabe rechneDatei(const fs::path& datei, Wand& w) {
         const std::optional<Grundmasse> felder = lade(datei, w);
         if (!felder) return Rueckgabe::dateifehler;
@@ -205,6 +236,8 @@ Rueckgabe fuehreAus(const Auftrag& auftrag, const fs::path& programmordner, cons
             return arbeit.uebertrage();
         case Befehl::felder:
             return arbeit.felder();
+        case Befehl::herleite:
+            return arbeit.herleite();
     }
     return Rueckgabe::aufruf;
 }

@@ -175,6 +175,24 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     CLI::App& felder = befehl("felder", "gibt das Verzeichnis aller Felder aus", Befehl::felder);
     fuegeWahlHinzu(felder, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
 
+    CLI::App& herleite = befehl("herleite", "zeigt, woher jede Zahl eines Laufs kommt", Befehl::herleite);
+    fuegeDateienHinzu(herleite, auftrag.dateien, false);
+    herleite
+        .add_option_function<std::vector<std::string>>(
+            "--felder",
+            [&auftrag](const std::vector<std::string>& namen) { auftrag.herleitung.felder = namen; },
+            "nur diese Felder, mit ihrem letzten Schritt (sonst alle Schritte)")
+        ->delimiter(',')
+        ->expected(1)
+        ->option_text("NAME,...");
+    herleite.add_flag_callback(
+        "--tief", [&] { auftrag.herleitung.tief = true; }, "mit allen Schritten, auf denen sie beruhen");
+    fuegeDateiHinzu(herleite, "--material", auftrag.material,
+                    "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
+    fuegeLaeufeHinzu(herleite, auftrag.laeufe);
+    fuegeWahlHinzu(herleite, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
+    fuegeDateiHinzu(herleite, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+
     try {
         app.parse(std::vector<std::string>(angaben.rbegin(), angaben.rend()));
     } catch (const CLI::CallForHelp&) {

@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "cli/Herleitung.h"
 #include "report/Bericht.h"
 #include "run/Berechnungslauf.h"
 
@@ -15,7 +16,7 @@ namespace rippenscheibe {
 // What the program tells its caller; with several files the highest.
 enum class Rueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
 
-enum class Befehl { rechne, pruefe, neu, uebertrage, felder };
+enum class Befehl { rechne, pruefe, neu, uebertrage, felder, herleite };
 enum class Ausgabeart { text, rtf, json };
 enum class Zustand { jeDatei, gemeinsam };  // a fresh position for each file, or one for all
 
@@ -30,6 +31,7 @@ struct Auftrag {
     Zustand zustand = Zustand::jeDatei;
     Hinweisbehandlung hinweise = Hinweisbehandlung::beachten;
     char dezimalzeichen = ',';
+    Herleitungswahl herleitung;
     std::optional<std::filesystem::path> nach;  // write there instead of standard output
 };
 
