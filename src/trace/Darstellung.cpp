@@ -281,9 +281,14 @@ std::vector<Ort> Darstellung::grundlagen(const std::vector<Ort>& schritte) const
     for (std::size_t i = noetig.size(); i-- > 0;) {
         if (!noetig[i]) continue;
         const Schritt& s = graph_.schritte[i];
-        jederOperand(graph_, s.ausdruck, [&](Ort ort) {
+        const auto merkeOperand = [&](Ort ort) {
             if (const Stand* x = standAus(ort)) merke(x->schritt);
-        });
+        };
+        jederOperand(graph_, s.ausdruck, merkeOperand);
+        for (const Bedingung& b : s.bedingungen) {
+            jederOperand(graph_, b.links, merkeOperand);
+            jederOperand(graph_, b.rechts, merkeOperand);
+        }
         if (s.behalten) merke(graph_.staende[static_cast<std::size_t>(s.vorher)].schritt);
     }
     std::vector<Ort> ergebnis;
