@@ -16,10 +16,16 @@ set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 # into fused operations, no fast-math, the same digits on every machine.
 add_compile_options(-ffp-contract=off)
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
-                    -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+                    -Woverloaded-virtual -Wimplicit-fallthrough)
+# On in `./test`, and so for whoever works on the program; whoever only builds a release, with a compiler that
+# did not exist yet, is not stopped by a new warning.
+option(RIPPENSCHEIBE_WERROR "Warnings are errors" OFF)
+if(RIPPENSCHEIBE_WERROR)
+    add_compile_options(-Werror)
+endif()
 
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # Optimising, gcc 12 reports faults inside std::string where there are none.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Optimising, gcc (12 and 14 seen) reports faults inside std::string where there are none.
     add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-maybe-uninitialized
                         -Wno-array-bounds)
 endif()

@@ -97,7 +97,8 @@ class Horcher : public QObject {
 };
 
 void pruefeEnter(QWidget& fenster) {
-    QApplication::setActiveWindow(&fenster);
+    fenster.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&fenster));
     for (QWidget* feld : fenster.findChildren<QWidget*>()) {
         if (!nimmtEingabe(*feld) || eigenesTeil(*feld) || feld->window() != &fenster) continue;
         if (!feld->isVisibleTo(&fenster) || !feld->isEnabled() || feld->focusPolicy() == Qt::NoFocus)

@@ -97,7 +97,8 @@ TEST_F(Dialog, ARefusedTextRefusesTheAcceptButNoOtherWayOut) {
     for (const auto& ausweg : auswege) {
         Form5 form(programm, meldungen, nullptr);
         form.show();
-        QApplication::setActiveWindow(&form);
+        form.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
         tippe(form, "Textbox1(0)", "300");
         wert(form, "Textbox1(1)").setFocus();
         meldungen.gezeigt.clear();

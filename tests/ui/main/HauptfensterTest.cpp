@@ -9,7 +9,8 @@ class Hauptfenster : public Programmprobe {
   protected:
     Hauptfenster() {
         fenster.show();
-        QApplication::setActiveWindow(&fenster);
+        fenster.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&fenster));
     }
     void loese(const char* aktion) { finde<QAction>(aktion).trigger(); }
     template <class T>
