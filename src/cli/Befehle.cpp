@@ -5,12 +5,15 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "cli/Feldwerte.h"
 #include "cli/Herleitung.h"
 #include "files/Anweisungen.h"
 #include "files/Dateischreiber.h"
 #include "files/EigeneMaterialienDatei.h"
+#include "files/Kopie.h"
+#include "files/Pfad.h"
 #include "files/Positionsdatei.h"
 #include "files/Zeichensatz.h"
 #include "plausibility/Plausibilitaetslauf.h"
@@ -34,6 +37,7 @@ class Arbeit {
         : auftrag_(auftrag), programmordner_(programmordner), ausgaben_(ausgaben) {}
 
     Rueckgabe rechne() {
+        if (schriebeUeberEingabe()) return Rueckgabe::aufruf;
         if (!ladeMaterialien()) return Rueckgabe::dateifehler;
         Rueckgabe rueckgabe = Rueckgabe::erfuellt;
         auto wand = frischeWand();
@@ -42,7 +46,8 @@ class Arbeit {
             rueckgabe = hoehere(rueckgabe, rechneDatei(datei, *wand));
         }
         if (auftrag_.ausgabe == Ausgabeart::rtf && !berichte_.empty()) gibAus(alsRtf(berichte_));
-        return hoehere(rueckgabe, schreibeZieldatei());
+        // Where no file could be read, there is nothing that could take the place of an older report.
+        return gelesen_ ? hoehere(rueckgabe, schreibeZieldatei()) : rueckgabe;
     }
 
     Rueckgabe pruefe() {
@@ -56,14 +61,16 @@ class Arbeit {
     }
 
     Rueckgabe neu() {
+        if (!nimmtPositionAuf()) return Rueckgabe::dateifehler;
         const auto wand = frischeWand();
         gibAus(kodiert(positionstext(*wand)));
         return schreibeZieldatei();
     }
 
     Rueckgabe uebertrage() {
+        if (schriebeUeberEingabe()) return Rueckgabe::aufruf;
         const auto wand = frischeWand();
-        if (!lade(auftrag_.dateien.front(), *wand)) return Rueckgabe::dateifehler;
+        if (!nimmtPositionAuf() || !lade(auftrag_.dateien.front(), *wand)) return Rueckgabe::dateifehler;
         gibAus(kodiert(positionstext(*wand)));
         return schreibeZieldatei();
     }
@@ -122,15 +129,15 @@ class Arbeit {
         if (!lade(datei, w)) return Rueckgabe::dateifehler;
         plausibilitaetslauf(w);
         std::string text;
-        for (const std::string& hinweis : w.Hinweise) text += datei.string() + ": " + hinweis + "\n";
-        gibAus(w.Hinweise.empty() ? datei.string() + ": keine Hinweise\n" : text);
+        for (const std::string& hinweis : w.Hinweise) text += pfadtext(datei) + ": " + hinweis + "\n";
+        gibAus(w.Hinweise.empty() ? pfadtext(datei) + ": keine Hinweise\n" : text);
         return w.Hinweise.empty() ? Rueckgabe::erfuellt : Rueckgabe::hinweise;
     }
 
     // Opens a position as the window program does; the three fields of its main window come back. Nothing
     // when the file cannot be opened: it is reported and the record is untouched.
-    std::optional<Grundmasse> lade(const fs::path& datei, Wand& w) const {
-        if (!istPositionsdatei(datei.string())) {
+    std::optional<Grundmasse> lade(const fs::path& datei, Wand& w) {
+        if (!istPositionsdatei(pfadtext(datei))) {
             melde(datei, std::string(falscheEndung));
             return std::nullopt;
         }
@@ -139,9 +146,14 @@ class Arbeit {
             ausgaben_.meldungen(inhalt.fehler->text + "\n");
             return std::nullopt;
         }
-        for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), w)) {
-            melde(datei, beschreibung(feld));
+        meldeUnterbrochene(datei);
+        const std::string text = dekodiert(inhalt.bytes);
+        if (positionsbefund(text).ganzeAnweisungen == 0) {
+            melde(datei, std::string(keinePosition));
+            return std::nullopt;
         }
+        gelesen_ = true;
+        for (const Uebersprungen& feld : liesPositionstext(text, w)) melde(datei, beschreibung(feld));
         const Grundmasse felder = grundmasse(w);
         zuweisen(w, felder);
         return felder;
@@ -159,7 +171,7 @@ class Arbeit {
 
     void gibErgebnisAus(const fs::path& datei, const Wand& w, bool gerechnet) {
         if (auftrag_.ausgabe == Ausgabeart::json) {
-            gibAus(jsonZeile(datei.string(), w, gerechnet));
+            gibAus(jsonZeile(pfadtext(datei), w, gerechnet));
             return;
         }
         if (!gerechnet) return;
@@ -174,7 +186,7 @@ class Arbeit {
     }
 
     void melde(const fs::path& datei, const std::string& text) const {
-        ausgaben_.meldungen(datei.string() + ": " + text + "\n");
+        ausgaben_.meldungen(pfadtext(datei) + ": " + text + "\n");
     }
 
     void gibAus(std::string_view text) {
@@ -193,10 +205,51 @@ class Arbeit {
         return Rueckgabe::dateifehler;
     }
 
-    // Own materials that the command names have to be there; those of the program's folder need not.
+    // What is read must not be written in the same call.
+    bool schriebeUeberEingabe() const {
+        if (!auftrag_.nach) return false;
+        std::vector<fs::path> eingaben = auftrag_.dateien;
+        if (auftrag_.material) eingaben.push_back(*auftrag_.material);
+        const bool getroffen = std::any_of(eingaben.begin(), eingaben.end(), [&](const fs::path& datei) {
+            return sindDieselbeDatei(datei, *auftrag_.nach);
+        });
+        if (getroffen) melde(*auftrag_.nach, "Eine gelesene Datei kann nicht das Ziel von -o sein.");
+        return getroffen;
+    }
+
+    // A position is written to a position file only; devices and pipes take anything.
+    bool nimmtPositionAuf() const {
+        if (!auftrag_.nach) return true;
+        const plattform::Ziel ziel = plattform::schreibziel(*auftrag_.nach);
+        if (ziel.art == plattform::Zielart::geraet || ziel.art == plattform::Zielart::griff) return true;
+        if (!istPositionsdatei(pfadtext(*auftrag_.nach))) {
+            melde(*auftrag_.nach, std::string(falscheEndung));
+            return false;
+        }
+        const Dateiinhalt vorhanden = liesDatei(*auftrag_.nach);
+        if (vorhanden.lage == Dateilage::unlesbar) {
+            ausgaben_.meldungen(vorhanden.fehler->text + "\n");
+            return false;
+        }
+        if (vorhanden.bytes.empty() || positionsbefund(dekodiert(vorhanden.bytes)).masse) return true;
+        melde(*auftrag_.nach, "Die Datei ist keine Position und wird nicht überschrieben.");
+        return false;
+    }
+
+    // A file whose overwriting was cut off: what it held before lies in the program's folder.
+    void meldeUnterbrochene(const fs::path& datei) const {
+        for (const Kopieplatz& platz : Kopieplatz::verwaiste(programmordner_, Kopieart::ueberschreiben)) {
+            if (!sindDieselbeDatei(pfadAus(platz.lies().wert.name), datei)) continue;
+            melde(datei, "Das Schreiben der Datei wurde unterbrochen, ihr Stand davor liegt in \"" +
+                             pfadtext(platz.datei()) + "\".");
+        }
+    }
+
+    // Own materials that the command names have to be there; those of the program's folder need not, but
+    // where they are they have to be readable.
     bool ladeMaterialien() {
         const Dateiinhalt inhalt = liesDatei(auftrag_.material.value_or(programmordner_ / materialdatei));
-        if (inhalt.fehler && auftrag_.material) {
+        if (inhalt.lage == Dateilage::unlesbar || (inhalt.fehler && auftrag_.material)) {
             ausgaben_.meldungen(inhalt.fehler->text + "\n");
             return false;
         }
@@ -204,7 +257,6 @@ class Arbeit {
         return true;
     }
 
-    // The record as at program start.
     // The state after program start: the defaults with their derived values.
     std::unique_ptr<Wand> frischeWand() const {
         auto wand = std::make_unique<Wand>();
@@ -218,6 +270,7 @@ class Arbeit {
     const Ausgaben& ausgaben_;
     EigeneMaterialien materialien_;
     std::string zieldatei_;
+    bool gelesen_ = false;  // a position could be read
     Fliesstext berichte_;
 };
 

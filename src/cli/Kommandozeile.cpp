@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "basis/Version.h"
+#include "files/Pfad.h"
 
 namespace rippenscheibe {
 
@@ -85,14 +86,16 @@ CLI::Option* fuegeDateiHinzu(CLI::App& befehl, const std::string& option,
                              std::optional<std::filesystem::path>& ziel, const std::string& erklaerung) {
     return befehl
         .add_option_function<std::string>(
-            option, [&ziel](const std::string& wert) { ziel = wert; }, erklaerung)
+            option, [&ziel](const std::string& wert) { ziel = pfadAus(wert); }, erklaerung)
         ->option_text("DATEI");
 }
 
 void fuegeDateienHinzu(CLI::App& befehl, std::vector<std::filesystem::path>& dateien, bool mehrere) {
     CLI::Option* const option = befehl.add_option_function<std::vector<std::string>>(
         "DATEI",
-        [&dateien](const std::vector<std::string>& werte) { dateien.assign(werte.begin(), werte.end()); },
+        [&dateien](const std::vector<std::string>& werte) {
+            for (const std::string& wert : werte) dateien.push_back(pfadAus(wert));
+        },
         mehrere ? "Positionsdateien (.rsw)" : "Positionsdatei (.rsw)");
     option->required()->option_text(mehrere ? "..." : " ");
     if (!mehrere) option->expected(1);

@@ -6,13 +6,13 @@
 
 #include "cli/Befehle.h"
 #include "cli/Kommandozeile.h"
+#include "files/Plattform.h"
 #include "files/Programmordner.h"
+#include "files/Prozess.h"
 
 namespace {
 
 using namespace rippenscheibe;
-
-void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
 
 Rueckgabe laufe(const std::vector<std::string>& angaben) {
     const auto gelesen = liesKommandozeile(angaben);
@@ -28,7 +28,8 @@ Rueckgabe laufe(const std::vector<std::string>& angaben) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    Rueckgabe rueckgabe = laufe(std::vector<std::string>(argv + 1, argv + argc));
+    bereiteProzessVor();
+    Rueckgabe rueckgabe = laufe(plattform::angaben(argc, argv));
     // A report that did not arrive whole must not look like one.
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
         schreibe(stderr, "Die Ausgabe kann nicht geschrieben werden.\n");

@@ -101,13 +101,18 @@ class Anweisungsleser {
 
     template <class... T>
     void lies(Ziel<T>... ziele) {
+        const std::size_t fehlten = uebersprungen_.size();
         beginne();
         (liesFeld(ziele), ...);
         beende();
+        if (uebersprungen_.size() == fehlten) ++ganze_;
     }
 
     // Whether all statements are read.
     bool amEnde() const { return stelle_ >= text_.size(); }
+
+    // How many statements gave all their fields.
+    std::size_t ganze() const { return ganze_; }
 
     // The fields that kept their values so far, in the order of the statements.
     const std::vector<Uebersprungen>& uebersprungen() const { return uebersprungen_; }
@@ -139,6 +144,7 @@ class Anweisungsleser {
     std::string_view text_;
     std::size_t stelle_ = 0;
     std::size_t zeile_ = 1;
+    std::size_t ganze_ = 0;
     Zustand zustand_ = Zustand::felder;
     std::vector<Uebersprungen> uebersprungen_;
 };

@@ -1,17 +1,13 @@
 #include "files/Dateischreiber.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <array>
 #include <cerrno>
-#include <cstddef>
-#include <cstdlib>
-#include <string>
+#include <random>
 #include <system_error>
+#include <thread>
 #include <utility>
+
+#include "files/Kopie.h"
+#include "files/Pfad.h"
 
 namespace rippenscheibe {
 
@@ -27,7 +23,9 @@ std::string ursache(int fehlernummer) {
         case EROFS:
             return "der Datenträger ist schreibgeschützt";
         case ENOSPC:
+#ifdef EDQUOT
         case EDQUOT:
+#endif
             return "kein freier Speicherplatz";
         case EFBIG:
             return "die Datei wird zu groß";
@@ -51,155 +49,112 @@ std::string ursache(int fehlernummer) {
 Dateifehler nichtGeschrieben(const fs::path& datei, int fehlernummer) {
     const std::string grund =
         fehlernummer == ENOENT ? "der Ordner ist nicht vorhanden" : ursache(fehlernummer);
-    return {"Die Datei \"" + datei.string() + "\" kann nicht geschrieben werden: " + grund + "."};
+    return {"Die Datei \"" + pfadtext(datei) + "\" kann nicht geschrieben werden: " + grund + "."};
 }
 
-Dateifehler nichtGelesen(const fs::path& datei, int fehlernummer) {
-    return {"Die Datei \"" + datei.string() + "\" kann nicht gelesen werden: " + ursache(fehlernummer) + "."};
+Dateifehler nichtGelesen(const fs::path& datei, int fehlernummer, std::size_t hoechstens) {
+    const std::string grund = fehlernummer == EFBIG
+                                  ? "sie ist größer als " + std::to_string(hoechstens >> 20U) + " MB"
+                                  : ursache(fehlernummer);
+    return {"Die Datei \"" + pfadtext(datei) + "\" kann nicht gelesen werden: " + grund + "."};
 }
 
-// An open file, closed at the end of its scope.
-class Griff {
-  public:
-    explicit Griff(int nummer) : nummer_(nummer) {}
-    ~Griff() { schliesse(); }
-    Griff(const Griff&) = delete;
-    Griff& operator=(const Griff&) = delete;
+// Temporary files: hidden, and known again by their name.
+constexpr std::string_view beianfang = ".rippenscheibe-";
+constexpr std::size_t beiende = 6;
 
-    int nummer() const { return nummer_; }
-    bool offen() const { return nummer_ >= 0; }
-    // 0, or the number of the fault: a full network disk may tell only now.
-    int schliesse() {
-        if (nummer_ < 0) return 0;
-        const int ergebnis = ::close(std::exchange(nummer_, -1));
-        return ergebnis == 0 ? 0 : errno;
+std::string beiname() {
+    constexpr std::string_view zeichen = "abcdefghijklmnopqrstuvwxyz0123456789";
+    std::random_device zufall;
+    std::string name(beianfang);
+    for (std::size_t i = 0; i < beiende; ++i) name += zeichen[zufall() % zeichen.size()];
+    return name;
+}
+
+void raeumeAuf(const fs::path& ordner) {
+    constexpr auto hoechstalter = std::chrono::hours(24);
+    const auto jetzt = fs::file_time_type::clock::now();
+    std::error_code fehler;
+    for (fs::directory_iterator i(ordner, fehler), ende; !fehler && i != ende; i.increment(fehler)) {
+        const std::string name = pfadtext(i->path().filename());
+        if (!name.starts_with(beianfang) || name.size() != beianfang.size() + beiende) continue;
+        std::error_code egal;
+        const auto zeit = fs::last_write_time(i->path(), egal);
+        if (!egal && jetzt - zeit > hoechstalter) fs::remove(i->path(), egal);
     }
+}
 
-  private:
-    int nummer_;
-};
+plattform::Ersetzung ersetze(const fs::path& ziel, std::string_view bytes) {
+    raeumeAuf(ziel.has_parent_path() ? ziel.parent_path() : fs::path("."));
+    plattform::Ersetzung ersetzung = plattform::ersetze(ziel, beiname(), bytes);
+    while (ersetzung.fehler == EEXIST) ersetzung = plattform::ersetze(ziel, beiname(), bytes);
+    return ersetzung;
+}
 
-// The temporary file beside the target, removed unless it took the target's place.
-struct Beidatei {
-    fs::path pfad;
-    bool umbenannt = false;
-
-    explicit Beidatei(fs::path p) : pfad(std::move(p)) {}
-    ~Beidatei() {
-        if (!umbenannt) ::unlink(pfad.c_str());
+// Overwrites a file where it stands. The copy outlives a crash, and a fault after which the old content could
+// not be put back either.
+std::optional<Dateifehler> ueberschreibeMitKopie(const fs::path& datei, const fs::path& ziel,
+                                                 std::string_view bytes, const fs::path& kopienordner) {
+    Dateiinhalt alt = liesDatei(ziel, std::string::npos);
+    if (alt.fehler) return alt.fehler;
+    std::error_code fehler;
+    fs::create_directories(kopienordner, fehler);  // if it cannot be made, the copy cannot be written
+    const fs::path ganz = fs::absolute(ziel, fehler);
+    std::optional<Kopieplatz> platz = Kopieplatz::freier(kopienordner, Kopieart::ueberschreiben);
+    if (!platz)
+        return Dateifehler{"Die Datei \"" + pfadtext(datei) +
+                           "\" kann nicht geschrieben werden: der Ordner \"" + pfadtext(kopienordner) +
+                           "\" nimmt keine Sicherheitskopie auf."};
+    if (auto kopiefehler = platz->schreibe({pfadtext(ganz), alt.bytes})) return kopiefehler;
+    const int schreibfehler = plattform::ueberschreibe(ziel, bytes);
+    if (schreibfehler == 0 || plattform::ueberschreibe(ziel, alt.bytes) == 0) {
+        platz->loesche();
+        if (schreibfehler == 0) return std::nullopt;
+        return nichtGeschrieben(datei, schreibfehler);
     }
-    Beidatei(const Beidatei&) = delete;
-    Beidatei& operator=(const Beidatei&) = delete;
-};
-
-int schreibeAlles(int griff, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t geschrieben = ::write(griff, bytes.data(), bytes.size());
-        if (geschrieben < 0) {
-            if (errno == EINTR) continue;
-            return errno;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(geschrieben));
-    }
-    return 0;
-}
-
-int schreibeDirekt(const fs::path& ziel, std::string_view bytes) {
-    Griff griff(::open(ziel.c_str(), O_WRONLY | O_CLOEXEC));
-    if (!griff.offen()) return errno;
-    if (const int fehler = schreibeAlles(griff.nummer(), bytes)) return fehler;
-    return griff.schliesse();
-}
-
-// The file behind a chain of symbolic links, whether it exists or not.
-fs::path hinterVerknuepfungen(fs::path datei, int& fehler) {
-    constexpr int laengsteKette = 40;
-    std::error_code ec;
-    for (int i = 0; i < laengsteKette; ++i) {
-        if (!fs::is_symlink(fs::symlink_status(datei, ec))) return datei;
-        const fs::path ziel = fs::read_symlink(datei, ec);
-        datei = ziel.is_absolute() ? ziel : datei.parent_path() / ziel;
-    }
-    fehler = ELOOP;
-    return datei;
-}
-
-mode_t rechteNeuerDateien() {
-    // The mask can only be read by setting it.
-    const mode_t maske = ::umask(0);
-    ::umask(maske);
-    return 0666U & ~maske;
-}
-
-int ersetze(const fs::path& ziel, const struct stat* alt, std::string_view bytes) {
-    const fs::path ordner = ziel.has_parent_path() ? ziel.parent_path() : fs::path(".");
-    std::string muster = (ordner / ".rippenscheibe-XXXXXX").string();
-    Griff griff(::mkostemp(muster.data(), O_CLOEXEC));
-    if (!griff.offen()) return errno;
-    Beidatei beidatei(muster);
-
-    // An owner that cannot be kept is no reason not to save; the permissions follow, as a change of owner
-    // may take some away.
-    if (alt != nullptr && (alt->st_uid != ::geteuid() || alt->st_gid != ::getegid())) {
-        [[maybe_unused]] const int behalten = ::fchown(griff.nummer(), alt->st_uid, alt->st_gid);
-    }
-    const mode_t rechte = alt != nullptr ? (alt->st_mode & 07777U) : rechteNeuerDateien();
-    if (::fchmod(griff.nummer(), rechte) != 0) return errno;
-
-    if (const int fehler = schreibeAlles(griff.nummer(), bytes)) return fehler;
-    if (::fsync(griff.nummer()) != 0) return errno;
-    if (const int fehler = griff.schliesse()) return fehler;
-    if (::rename(beidatei.pfad.c_str(), ziel.c_str()) != 0) return errno;
-    beidatei.umbenannt = true;
-
-    // The new file is in place. Some file systems cannot sync a folder, which is then no failed save.
-    const Griff ordnergriff(::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (ordnergriff.offen() && ::fsync(ordnergriff.nummer()) != 0 && errno == EIO) return EIO;
-    return 0;
-}
-
-int schreibe(const fs::path& datei, std::string_view bytes) {
-    int fehler = 0;
-    const fs::path ziel = hinterVerknuepfungen(datei, fehler);
-    if (fehler != 0) return fehler;
-    if (ziel.filename().empty()) return ziel.empty() ? ENOENT : EISDIR;
-
-    struct stat alt {};
-    if (::stat(ziel.c_str(), &alt) != 0) return errno == ENOENT ? ersetze(ziel, nullptr, bytes) : errno;
-    if (S_ISDIR(alt.st_mode)) return EISDIR;
-    if (!S_ISREG(alt.st_mode)) return schreibeDirekt(ziel, bytes);
-    if (::faccessat(AT_FDCWD, ziel.c_str(), W_OK, AT_EACCESS) != 0) return errno;
-    return ersetze(ziel, &alt, bytes);
+    Dateifehler meldung = nichtGeschrieben(datei, schreibfehler);
+    meldung.text += " Ihr Stand davor liegt in \"" + pfadtext(platz->datei()) + "\".";
+    return meldung;
 }
 
 }  // namespace
 
-std::optional<Dateifehler> schreibeDauerhaft(const fs::path& datei, std::string_view bytes) {
-    if (const int fehler = schreibe(datei, bytes)) return nichtGeschrieben(datei, fehler);
+std::optional<Dateifehler> schreibeDauerhaft(const fs::path& datei, std::string_view bytes,
+                                             const fs::path& kopienordner) {
+    using plattform::Zielart;
+    const plattform::Ziel ziel = plattform::schreibziel(datei);
+    if (ziel.fehler != 0) return nichtGeschrieben(datei, ziel.fehler);
+    int fehler = 0;
+    if (ziel.art == Zielart::geraet || ziel.art == Zielart::griff) {
+        fehler = plattform::schreibeDirekt(ziel, bytes);
+    } else if (ziel.art == Zielart::mehrfach) {
+        return ueberschreibeMitKopie(datei, ziel.pfad, bytes, kopienordner);
+    } else {
+        const plattform::Ersetzung ersetzung = ersetze(ziel.pfad, bytes);
+        if (ersetzung.verweigert) return ueberschreibeMitKopie(datei, ziel.pfad, bytes, kopienordner);
+        fehler = ersetzung.fehler;
+    }
+    if (fehler != 0) return nichtGeschrieben(datei, fehler);
     return std::nullopt;
 }
 
-Dateiinhalt liesDatei(const fs::path& datei) {
-    const Griff griff(::open(datei.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!griff.offen()) return {{}, nichtGelesen(datei, errno)};
+Dateiinhalt liesDatei(const fs::path& datei, std::size_t hoechstens) {
     Dateiinhalt inhalt;
-    std::array<char, 16384> block{};
+    const int fehler = plattform::lies(datei, hoechstens, inhalt.bytes);
+    if (fehler == 0) return inhalt;
+    const Dateilage lage = fehler == ENOENT ? Dateilage::fehlt : Dateilage::unlesbar;
+    return {lage, {}, nichtGelesen(datei, fehler, hoechstens)};
+}
+
+Dateisperre::Dateisperre(const fs::path& ordner, std::chrono::milliseconds geduld) {
+    constexpr auto pause = std::chrono::milliseconds(10);
+    const auto ende = std::chrono::steady_clock::now() + geduld;
     while (true) {
-        const ssize_t gelesen = ::read(griff.nummer(), block.data(), block.size());
-        if (gelesen == 0) return inhalt;
-        if (gelesen < 0 && errno != EINTR) return {{}, nichtGelesen(datei, errno)};
-        if (gelesen > 0) inhalt.bytes.append(block.data(), static_cast<std::size_t>(gelesen));
+        plattform::Sperrversuch versuch = plattform::sperreOrdner(ordner);
+        sperre_ = std::move(versuch.sperre);
+        if (sperre_ || !versuch.belegt || std::chrono::steady_clock::now() >= ende) return;
+        std::this_thread::sleep_for(pause);
     }
-}
-
-Dateisperre::Dateisperre(const fs::path& ordner)
-    : ordner_(::open(ordner.empty() ? "." : ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    while (ordner_ >= 0 && ::flock(ordner_, LOCK_EX) != 0 && errno == EINTR) {
-    }
-}
-
-Dateisperre::~Dateisperre() {
-    if (ordner_ >= 0) ::close(ordner_);
 }
 
 }  // namespace rippenscheibe

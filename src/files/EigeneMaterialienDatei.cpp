@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "files/Anweisungen.h"
-#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 
@@ -62,13 +61,13 @@ std::string eigeneMaterialienText(const EigeneMaterialien& tabelle) {
     return schreiber.text();
 }
 
-EigeneMaterialien liesEigeneMaterialien(const std::filesystem::path& datei) {
-    return eigeneMaterialienAus(dekodiert(liesDatei(datei).bytes));
+Gelesen<EigeneMaterialien> liesEigeneMaterialien(const std::filesystem::path& datei) {
+    return liesTextdatei(datei, eigeneMaterialienAus);
 }
 
 std::optional<Dateifehler> schreibeEigeneMaterialien(const std::filesystem::path& datei,
                                                      const EigeneMaterialien& tabelle) {
-    return schreibeDauerhaft(datei, kodiert(eigeneMaterialienText(tabelle)));
+    return schreibeTextdatei(datei, eigeneMaterialienText(tabelle));
 }
 
 }  // namespace rippenscheibe

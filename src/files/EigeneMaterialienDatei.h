@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "files/Dateischreiber.h"
+#include "files/Textdatei.h"
 #include "model/EigeneMaterialien.h"
 
 namespace rippenscheibe {
@@ -18,7 +18,7 @@ EigeneMaterialien eigeneMaterialienAus(std::string_view text);
 // A table without rows is written with the count 1 and one empty row.
 std::string eigeneMaterialienText(const EigeneMaterialien& tabelle);
 
-EigeneMaterialien liesEigeneMaterialien(const std::filesystem::path& datei);
+Gelesen<EigeneMaterialien> liesEigeneMaterialien(const std::filesystem::path& datei);
 [[nodiscard]] std::optional<Dateifehler> schreibeEigeneMaterialien(const std::filesystem::path& datei,
                                                                    const EigeneMaterialien& tabelle);
 

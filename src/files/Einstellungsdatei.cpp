@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "files/Zeichensatz.h"
-
 namespace rippenscheibe {
 
 namespace {
@@ -38,12 +36,12 @@ std::string einstellungstext(const Einstellungen& e) {
     return schreiber.text();
 }
 
-void liesEinstellungen(const std::filesystem::path& datei, Einstellungen& e) {
-    liesEinstellungstext(dekodiert(liesDatei(datei).bytes), e);
+Gelesen<std::vector<Uebersprungen>> liesEinstellungen(const std::filesystem::path& datei, Einstellungen& e) {
+    return liesTextdatei(datei, [&](std::string_view text) { return liesEinstellungstext(text, e); });
 }
 
 std::optional<Dateifehler> schreibeEinstellungen(const std::filesystem::path& datei, const Einstellungen& e) {
-    return schreibeDauerhaft(datei, kodiert(einstellungstext(e)));
+    return schreibeTextdatei(datei, einstellungstext(e));
 }
 
 }  // namespace rippenscheibe

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "files/Anweisungen.h"
-#include "files/Dateischreiber.h"
+#include "files/Textdatei.h"
 #include "model/Einstellungen.h"
 
 namespace rippenscheibe {
@@ -20,8 +20,9 @@ inline constexpr std::string_view logodatei = "Logo.jpg";
 std::vector<Uebersprungen> liesEinstellungstext(std::string_view text, Einstellungen& e);
 std::string einstellungstext(const Einstellungen& e);
 
-// The same from and to a file. A missing file leaves the settings as they are (those two aside).
-void liesEinstellungen(const std::filesystem::path& datei, Einstellungen& e);
+// The same from and to a file. A missing file leaves the settings as they are (those two aside), an
+// unreadable one all of them. The value is the fields that kept theirs.
+Gelesen<std::vector<Uebersprungen>> liesEinstellungen(const std::filesystem::path& datei, Einstellungen& e);
 [[nodiscard]] std::optional<Dateifehler> schreibeEinstellungen(const std::filesystem::path& datei,
                                                                const Einstellungen& e);
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "files/EigeneMaterialienDatei.h"
-#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 
@@ -32,10 +31,11 @@ std::optional<Dateifehler> sichereEigeneMaterialien(const std::filesystem::path&
                                                     EigeneMaterialien& tabelle,
                                                     const EigeneMaterialien& gelesen) {
     const Dateisperre sperre(datei.parent_path());
-    const Dateiinhalt inhalt = liesDatei(datei);
-    const EigeneMaterialien aufDerPlatte = eigeneMaterialienAus(dekodiert(inhalt.bytes));
+    const Gelesen<EigeneMaterialien> vorhanden = liesEigeneMaterialien(datei);
+    if (auto stoerung = vorhanden.stoerung()) return stoerung;
+    const EigeneMaterialien& aufDerPlatte = vorhanden.wert;
     // Nothing changed here: what another program edited or deleted meanwhile is the newer state.
-    if (!inhalt.fehler && gleich(tabelle, gelesen)) {
+    if (vorhanden.lage == Dateilage::vorhanden && gleich(tabelle, gelesen)) {
         tabelle = aufDerPlatte;
         return std::nullopt;
     }

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <utility>
-
-#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 
@@ -70,8 +69,9 @@ std::string mitEndung(std::string dateiname) {
     return dateiname;
 }
 
-std::vector<Uebersprungen> liesPositionstext(std::string_view text, Wand& w) {
-    Anweisungsleser leser(text);
+namespace {
+
+void lies(Anweisungsleser& leser, Wand& w) {
     w.Vorbemerkungen.fill({});
     const auto liesZusatzbemerkungen = [&] {
         // A count that did not parse is the old one, and that many lines are read.
@@ -87,7 +87,24 @@ std::vector<Uebersprungen> liesPositionstext(std::string_view text, Wand& w) {
     jedeAnweisung(
         w, [&](auto... felder) { leser.lies(felder...); }, liesZusatzbemerkungen);
     ergaenzeFehlende(w);
+}
+
+}  // namespace
+
+std::vector<Uebersprungen> liesPositionstext(std::string_view text, Wand& w) {
+    Anweisungsleser leser(text);
+    lies(leser, w);
     return std::move(leser).uebersprungeneFelder();
+}
+
+Positionsbefund positionsbefund(std::string_view text) {
+    const auto w = std::make_unique<Wand>();
+    Anweisungsleser leser(text);
+    lies(leser, *w);
+    const auto& fehlend = leser.uebersprungen();
+    const bool masse = std::none_of(fehlend.begin(), fehlend.end(),
+                                    [](const Uebersprungen& feld) { return feld.feld == "Wandlaenge"; });
+    return {leser.ganze(), masse};
 }
 
 std::string positionstext(const Wand& w) {
@@ -103,13 +120,12 @@ std::string positionstext(const Wand& w) {
     return schreiber.text();
 }
 
-Positionslesung liesPosition(const std::filesystem::path& datei, Wand& w) {
-    Dateiinhalt inhalt = liesDatei(datei);
-    return {std::move(inhalt.fehler), liesPositionstext(dekodiert(inhalt.bytes), w)};
+Gelesen<std::vector<Uebersprungen>> liesPosition(const std::filesystem::path& datei, Wand& w) {
+    return liesTextdatei(datei, [&](std::string_view text) { return liesPositionstext(text, w); });
 }
 
 std::optional<Dateifehler> schreibePosition(const std::filesystem::path& datei, const Wand& w) {
-    return schreibeDauerhaft(datei, kodiert(positionstext(w)));
+    return schreibeTextdatei(datei, positionstext(w));
 }
 
 }  // namespace rippenscheibe

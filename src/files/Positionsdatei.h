@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "files/Anweisungen.h"
-#include "files/Dateischreiber.h"
+#include "files/Textdatei.h"
 #include "model/Wand.h"
 
 // The position file: one position in a fixed sequence of text statements, all inputs and nothing computed.
@@ -17,8 +17,10 @@ namespace rippenscheibe {
 
 // Message when a file of another kind is to be opened, and the title of its box.
 inline constexpr std::string_view falscheEndung = "Datei passt nicht zum Programm!";
+// Message when nothing in a file could be read as a position.
+inline constexpr std::string_view keinePosition = "Die Datei enthält keine Position.";
 
-// Whether a file name ends in the three characters "rsw"; capitals do not count.
+// Whether a file name ends in the three small characters "rsw"; "RSW" is another ending.
 bool istPositionsdatei(std::string_view dateiname);
 // The name to save under: without that ending ".rsw" is appended.
 std::string mitEndung(std::string dateiname);
@@ -32,13 +34,16 @@ std::vector<Uebersprungen> liesPositionstext(std::string_view text, Wand& w);
 // The statements of a position, UTF-8.
 std::string positionstext(const Wand& w);
 
-struct Positionslesung {
-    std::optional<Dateifehler> fehler;  // the file is missing or unreadable: the record holds no remarks now
-    std::vector<Uebersprungen> uebersprungen;
+// How far a text (UTF-8) is a position.
+struct Positionsbefund {
+    std::size_t ganzeAnweisungen = 0;  // statements of which every field could be read
+    bool masse = false;                // the measures of the wall among them: no other kind of file has them
 };
+Positionsbefund positionsbefund(std::string_view text);
 
-// The same from and to a file. A missing file reads like an empty one. Saving needs `zuweisen` before.
-Positionslesung liesPosition(const std::filesystem::path& datei, Wand& w);
+// The same from and to a file; the value is the fields that kept theirs. A missing file reads like an empty
+// one: the record holds no remarks then. An unreadable one leaves it alone. Saving needs `zuweisen` before.
+Gelesen<std::vector<Uebersprungen>> liesPosition(const std::filesystem::path& datei, Wand& w);
 [[nodiscard]] std::optional<Dateifehler> schreibePosition(const std::filesystem::path& datei, const Wand& w);
 
 }  // namespace rippenscheibe

@@ -1,12 +1,12 @@
 #include "files/Projektliste.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 
 #include "files/Anweisungen.h"
-#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 
@@ -42,13 +42,13 @@ std::string projektlistentext(const Projektliste& liste) {
     return schreiber.text();
 }
 
-Projektliste liesProjektliste(const std::filesystem::path& datei) {
-    return projektlisteAus(dekodiert(liesDatei(datei).bytes));
+Gelesen<Projektliste> liesProjektliste(const std::filesystem::path& datei) {
+    return liesTextdatei(datei, projektlisteAus);
 }
 
 std::optional<Dateifehler> schreibeProjektliste(const std::filesystem::path& datei,
                                                 const Projektliste& liste) {
-    return schreibeDauerhaft(datei, kodiert(projektlistentext(liste)));
+    return schreibeTextdatei(datei, projektlistentext(liste));
 }
 
 Projektliste zusammengefuehrt(Projektliste eigene, const Projektliste& gelesen,
@@ -65,15 +65,20 @@ Projektliste zusammengefuehrt(Projektliste eigene, const Projektliste& gelesen,
 std::optional<Dateifehler> sichereProjektliste(const std::filesystem::path& datei, const Projektliste& eigene,
                                                const Projektliste& gelesen) {
     const Dateisperre sperre(datei.parent_path());
-    return schreibeProjektliste(datei, zusammengefuehrt(eigene, gelesen, liesProjektliste(datei)));
+    const Gelesen<Projektliste> aufDerPlatte = liesProjektliste(datei);
+    if (auto stoerung = aufDerPlatte.stoerung()) return stoerung;
+    return schreibeProjektliste(datei, zusammengefuehrt(eigene, gelesen, aufDerPlatte.wert));
 }
 
 std::string holeUebergabe(const std::filesystem::path& datei) {
-    const Dateisperre sperre(datei.parent_path());
-    const std::string text = dekodiert(liesDatei(datei).bytes);
-    std::string position;
-    Anweisungsleser leser(text);
-    leser.lies(ziel("Posdat", position));
+    constexpr std::chrono::milliseconds geduld{300};  // the program is starting, and its user waits
+    const Dateisperre sperre(datei.parent_path(), geduld);
+    const std::string position = liesTextdatei(datei, [](std::string_view text) {
+                                     std::string name;
+                                     Anweisungsleser leser(text);
+                                     leser.lies(ziel("Posdat", name));
+                                     return name;
+                                 }).wert;
     if (!position.empty()) static_cast<void>(schreibeUebergabe(datei, ""));
     return position;
 }
@@ -82,7 +87,7 @@ std::optional<Dateifehler> schreibeUebergabe(const std::filesystem::path& datei,
                                              const std::string& position) {
     Anweisungsschreiber schreiber;
     schreiber.schreibe(position);
-    return schreibeDauerhaft(datei, kodiert(schreiber.text()));
+    return schreibeTextdatei(datei, schreiber.text());
 }
 
 int liesLetzteSeite(const std::filesystem::path& datei) {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "files/Dateischreiber.h"
+#include "files/Textdatei.h"
 
 namespace rippenscheibe {
 
@@ -33,7 +33,7 @@ Projektliste projektlisteAus(std::string_view text);
 // An empty list is written with the count 0, and one empty name and path still follow it.
 std::string projektlistentext(const Projektliste& liste);
 
-Projektliste liesProjektliste(const std::filesystem::path& datei);
+Gelesen<Projektliste> liesProjektliste(const std::filesystem::path& datei);
 [[nodiscard]] std::optional<Dateifehler> schreibeProjektliste(const std::filesystem::path& datei,
                                                               const Projektliste& liste);
 
@@ -42,7 +42,8 @@ Projektliste liesProjektliste(const std::filesystem::path& datei);
 // read it, `aufDerPlatte` the one that is in the file now.
 Projektliste zusammengefuehrt(Projektliste eigene, const Projektliste& gelesen,
                               const Projektliste& aufDerPlatte);
-// Merges and writes while no other program of this kind does the same.
+// Merges and writes while no other program of this kind does the same. A file that cannot be read is left
+// alone.
 [[nodiscard]] std::optional<Dateifehler> sichereProjektliste(const std::filesystem::path& datei,
                                                              const Projektliste& eigene,
                                                              const Projektliste& gelesen);

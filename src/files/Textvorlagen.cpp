@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "files/Anweisungen.h"
-#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 
@@ -42,13 +41,13 @@ std::string textvorlagentext(const Textvorlagen& vorlagen) {
     return schreiber.text();
 }
 
-Textvorlagen liesTextvorlagen(const std::filesystem::path& datei) {
-    return textvorlagenAus(dekodiert(liesDatei(datei).bytes));
+Gelesen<Textvorlagen> liesTextvorlagen(const std::filesystem::path& datei) {
+    return liesTextdatei(datei, textvorlagenAus);
 }
 
 std::optional<Dateifehler> schreibeTextvorlagen(const std::filesystem::path& datei,
                                                 const Textvorlagen& vorlagen) {
-    return schreibeDauerhaft(datei, kodiert(textvorlagentext(vorlagen)));
+    return schreibeTextdatei(datei, textvorlagentext(vorlagen));
 }
 
 // Nothing escapes a quote in the file: one within a text would end it there, and the reader would take the
@@ -63,7 +62,9 @@ std::optional<Dateifehler> sichereTextvorlage(const std::filesystem::path& datei
                                               Textvorlagen& vorlagen) {
     const Textvorlage vorlage = speicherbar(eingabe);
     const Dateisperre sperre(datei.parent_path());
-    Textvorlagen neu = liesTextvorlagen(datei);
+    Gelesen<Textvorlagen> vorhanden = liesTextvorlagen(datei);
+    if (auto stoerung = vorhanden.stoerung()) return stoerung;
+    Textvorlagen neu = std::move(vorhanden.wert);
     const auto gleicherName = [&](const Textvorlage& v) { return v.name == vorlage.name; };
     const auto alte = std::find_if(neu.begin(), neu.end(), gleicherName);
     if (alte != neu.end()) {

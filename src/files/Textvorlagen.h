@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "files/Dateischreiber.h"
+#include "files/Textdatei.h"
 
 // The named templates for the remarks of a position. Lines end with CR LF.
 
@@ -27,7 +27,7 @@ using Textvorlagen = std::vector<Textvorlage>;
 Textvorlagen textvorlagenAus(std::string_view text);
 std::string textvorlagentext(const Textvorlagen& vorlagen);
 
-Textvorlagen liesTextvorlagen(const std::filesystem::path& datei);
+Gelesen<Textvorlagen> liesTextvorlagen(const std::filesystem::path& datei);
 [[nodiscard]] std::optional<Dateifehler> schreibeTextvorlagen(const std::filesystem::path& datei,
                                                               const Textvorlagen& vorlagen);
 
@@ -36,7 +36,7 @@ Textvorlage speicherbar(Textvorlage vorlage);
 
 // Stores one template as `speicherbar` makes it: a known name gets the new text, another one is added. The
 // file is read again before, so that templates of another running program stay, and rewritten whole.
-// `vorlagen` is what it holds then.
+// `vorlagen` is what it holds then. A file that cannot be read is left alone.
 [[nodiscard]] std::optional<Dateifehler> sichereTextvorlage(const std::filesystem::path& datei,
                                                             const Textvorlage& eingabe,
                                                             Textvorlagen& vorlagen);

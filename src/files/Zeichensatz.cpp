@@ -2,8 +2,9 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
+
+#include "basis/Utf8.h"
 
 namespace rippenscheibe {
 
@@ -33,58 +34,13 @@ std::optional<char> byte1252(char32_t z) {
     return std::nullopt;
 }
 
-void anfuegen(std::string& text, char32_t z) {
-    const auto folge = [&](unsigned bits) { text += static_cast<char>(0x80U | ((z >> bits) & 0x3FU)); };
-    if (z < 0x80) {
-        text += static_cast<char>(z);
-    } else if (z < 0x800) {
-        text += static_cast<char>(0xC0U | (z >> 6U));
-        folge(0);
-    } else if (z < 0x10000) {
-        text += static_cast<char>(0xE0U | (z >> 12U));
-        folge(6);
-        folge(0);
-    } else {
-        text += static_cast<char>(0xF0U | (z >> 18U));
-        folge(12);
-        folge(6);
-        folge(0);
-    }
-}
-
-struct Gelesen {
-    char32_t zeichen;
-    std::size_t laenge;
-};
-
-// The character at the front of the text; a byte that begins no well-formed UTF-8 sequence (overlong,
-// surrogate and cut-off ones included) is read alone as Windows-1252.
-Gelesen erstesZeichen(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char kopf = byte(0);
-    const std::size_t laenge = kopf < 0x80             ? 1
-                               : (kopf & 0xE0) == 0xC0 ? 2
-                               : (kopf & 0xF0) == 0xE0 ? 3
-                               : (kopf & 0xF8) == 0xF0 ? 4
-                                                       : 0;
-    const Gelesen einzeln{zeichen(kopf), 1};
-    if (laenge < 2 || laenge > text.size()) return einzeln;
-    char32_t z = kopf & (0xFFU >> (laenge + 1));
-    for (std::size_t i = 1; i < laenge; ++i) {
-        if ((byte(i) & 0xC0) != 0x80) return einzeln;
-        z = (z << 6U) | (byte(i) & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> kleinstes{0, 0, 0x80, 0x800, 0x10000};
-    if (z < kleinstes[laenge] || z > 0x10FFFF || (z >= 0xD800 && z <= 0xDFFF)) return einzeln;
-    return {z, laenge};
-}
-
+// A byte that is no UTF-8 is read as Windows-1252.
 template <class Abnehmer>
 void jedesZeichen(std::string_view text, Abnehmer&& abnehmer) {
     while (!text.empty()) {
-        const Gelesen gelesen = erstesZeichen(text);
-        abnehmer(gelesen.zeichen);
-        text.remove_prefix(gelesen.laenge);
+        const std::optional<Zeichen> eines = erstesZeichen(text);
+        abnehmer(eines ? eines->zeichen : zeichen(static_cast<unsigned char>(text.front())));
+        text.remove_prefix(eines ? eines->laenge : 1);
     }
 }
 
@@ -94,9 +50,9 @@ std::string dekodiert(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 16);
     if (bytes.starts_with(bytefolgemarke)) {
-        jedesZeichen(bytes.substr(bytefolgemarke.size()), [&](char32_t z) { anfuegen(text, z); });
+        jedesZeichen(bytes.substr(bytefolgemarke.size()), [&](char32_t z) { anfuegenUtf8(text, z); });
     } else {
-        for (const char c : bytes) anfuegen(text, zeichen(static_cast<unsigned char>(c)));
+        for (const char c : bytes) anfuegenUtf8(text, zeichen(static_cast<unsigned char>(c)));
     }
     return text;
 }
@@ -114,7 +70,7 @@ std::string kodiert(std::string_view text) {
     if (!ausserhalb && !bytes.starts_with(bytefolgemarke)) return bytes;
 
     bytes = bytefolgemarke;
-    jedesZeichen(text, [&](char32_t z) { anfuegen(bytes, z); });
+    jedesZeichen(text, [&](char32_t z) { anfuegenUtf8(bytes, z); });
     return bytes;
 }
 

@@ -4,38 +4,21 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string_view>
+
+#include "basis/Utf8.h"
 
 namespace rippenscheibe {
 
 namespace {
 
-// The number of bytes of the UTF-8 character that begins with this byte; 0 when none does.
-constexpr std::size_t zeichenlaenge(unsigned char erstes) {
-    if (erstes < 0x80) return 1;
-    if (erstes >= 0xC2 && erstes < 0xE0) return 2;
-    if (erstes >= 0xE0 && erstes < 0xF0) return 3;
-    if (erstes >= 0xF0 && erstes < 0xF5) return 4;
-    return 0;
-}
-
 // The next character of a UTF-8 text, which it is cut by. A byte that is part of none is U+FFFD.
 char32_t naechstesZeichen(std::string_view& text) {
     constexpr char32_t ersatz = 0xFFFD;
-    constexpr std::array<char32_t, 5> kleinste{0, 0, 0x80, 0x800, 0x10000};
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-
-    const std::size_t laenge = zeichenlaenge(byte(0));
-    char32_t zeichen = laenge == 1 ? byte(0) : byte(0) & (0x7FU >> laenge);
-    bool gueltig = laenge > 0 && laenge <= text.size();
-    for (std::size_t i = 1; gueltig && i < laenge; ++i) {
-        gueltig = (byte(i) & 0xC0U) == 0x80U;
-        zeichen = (zeichen << 6U) | (byte(i) & 0x3FU);
-    }
-    const bool surrogat = zeichen >= 0xD800 && zeichen < 0xE000;
-    gueltig = gueltig && !surrogat && zeichen >= kleinste[laenge] && zeichen <= 0x10FFFF;
-    text.remove_prefix(gueltig ? laenge : 1);
-    return gueltig ? zeichen : ersatz;
+    const std::optional<Zeichen> zeichen = erstesZeichen(text);
+    text.remove_prefix(zeichen ? zeichen->laenge : 1);
+    return zeichen ? zeichen->zeichen : ersatz;
 }
 
 // A byte of Windows-1252 in hexadecimal.

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <clocale>
 #include <filesystem>
@@ -12,6 +11,7 @@
 #include "files/Dateischreiber.h"
 #include "files/Positionsdatei.h"
 #include "files/Zeichensatz.h"
+#include "support/Ordnerprobe.h"
 
 namespace rippenscheibe {
 namespace {
@@ -46,23 +46,7 @@ nlohmann::ordered_json json(const std::vector<std::string>& angaben) {
     return nlohmann::ordered_json::parse(ausgabe.substr(ausgabe.find_last_of('\n', ausgabe.size() - 2) + 1));
 }
 
-class Befehle : public testing::Test {
-  protected:
-    void SetUp() override {
-        std::string muster = (fs::temp_directory_path() / "rippenscheibe-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(muster.data()), nullptr);
-        ordner = muster;
-    }
-    void TearDown() override { fs::remove_all(ordner); }
-
-    std::string datei(const std::string& name) const { return (ordner / name).string(); }
-    std::string schreibe(const std::string& name, const std::string& bytes) const {
-        EXPECT_FALSE(schreibeDauerhaft(ordner / name, bytes));
-        return datei(name);
-    }
-
-    fs::path ordner;
-};
+using Befehle = tests::Ordnerprobe;
 
 TEST_F(Befehle, AWrongCallIsToldInGermanWithCode64) {
     struct Fall {
@@ -183,6 +167,44 @@ TEST_F(Befehle, SkippedFieldsAreReportedWithLineFieldAndWhatWasKept) {
     EXPECT_EQ(e.rueckgabe, 0);
     EXPECT_TRUE(
         e.meldungen.starts_with(name + ": Zeile 7, Wandlaenge: nicht lesbar (drei), beibehalten: 5\n"));
+}
+
+TEST_F(Befehle, AnOutputIsNotWrittenWhereSomethingWouldBeLost) {
+    const std::string wand = schreibe("wand.rsw", liesDatei(beispiel("einseitig")).bytes);
+    const std::string bericht =
+        schreibe("alt.rsw", "Ein Bericht\r\nmit zehn Zeilen\r\n\r\n\r\n\r\na\r\nb\r\n1\r\nc");
+    fs::create_hard_link(wand, datei("zweiter.rsw"));
+    struct Fall {
+        std::string name;
+        std::vector<std::string> angaben;
+        int rueckgabe;
+        std::string text;
+    };
+    const Fall faelle[] = {
+        {"nothing could be read", {"rechne", datei("fehlt.rsw"), "-o", bericht}, 3, "nicht vorhanden"},
+        {"an input", {"rechne", wand, "-o", wand}, 64, "gelesene Datei"},
+        {"an input by another name", {"uebertrage", wand, "-o", datei("zweiter.rsw")}, 64, "gelesene Datei"},
+        {"the materials", {"rechne", "--material", bericht, wand, "-o", bericht}, 64, "gelesene Datei"},
+        {"a file of another kind", {"neu", "-o", bericht}, 3, "ist keine Position"},
+        {"another ending", {"uebertrage", wand, "-o", datei("neu.txt")}, 3, "passt nicht zum Programm"},
+        {"an empty input", {"rechne", schreibe("leer.rsw", ""), "-o", bericht}, 3, "enthält keine Position"},
+        {"no statement whole", {"pruefe", schreibe("wirr.rsw", "wirr")}, 3, "enthält keine Position"},
+        {"too large",
+         {"rechne", schreibe("gross.rsw", std::string((16U << 20U) + 1, ','))},
+         3,
+         "größer als 16 MB"},
+    };
+    const std::string vorher = inhalt(bericht);
+    for (const Fall& f : faelle) {
+        const Ergebnis e = tool(f.angaben);
+        EXPECT_EQ(e.rueckgabe, f.rueckgabe) << f.name;
+        EXPECT_NE(e.meldungen.find(f.text), std::string::npos) << f.name << ": " << e.meldungen;
+        EXPECT_EQ(inhalt(bericht), vorher) << f.name;
+        EXPECT_EQ(inhalt(wand), inhalt(beispiel("einseitig"))) << f.name;
+    }
+    EXPECT_FALSE(fs::exists(datei("neu.txt")));
+    EXPECT_EQ(tool({"rechne", datei("fehlt.rsw"), wand, "-o", bericht}).rueckgabe, 3);
+    EXPECT_NE(inhalt(bericht), vorher);  // one of the two could be read
 }
 
 TEST_F(Befehle, RunsInOneStateAreThoseOfAFileOpenedAgain) {

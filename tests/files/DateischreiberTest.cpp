@@ -1,37 +1,34 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
-#include <csignal>
+#include <array>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "files/Dateischreiber.h"
+#include "basis/Utf8.h"
+#include "files/Kopie.h"
+#include "files/Pfad.h"
+#include "files/Prozess.h"
+#include "support/Ordnerprobe.h"
 
 namespace rippenscheibe {
 namespace {
 
 namespace fs = std::filesystem;
 
-class Dateischreiber : public testing::Test {
+class Dateischreiber : public tests::Ordnerprobe {
   protected:
-    void SetUp() override {
-        std::string muster = (fs::temp_directory_path() / "rippenscheibe-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(muster.data()), nullptr);
-        ordner = muster;
-        datei = ordner / "wand.rsw";
-    }
-    void TearDown() override { fs::remove_all(ordner); }
+    std::size_t dateienImOrdner() const { return dateienIn(ordner); }
 
-    std::size_t dateienImOrdner() const {
-        std::size_t n = 0;
-        for ([[maybe_unused]] const auto& eintrag : fs::directory_iterator(ordner)) ++n;
-        return n;
-    }
-
-    fs::path ordner, datei;
+    fs::path datei = ordner / "wand.rsw";
 };
 
 TEST_F(Dateischreiber, ReplacesAFileAndKeepsItsPermissions) {
@@ -59,11 +56,10 @@ TEST_F(Dateischreiber, AFullDiskIsReportedAndLeavesTheOldFileWhole) {
     rlimit vorher{};
     ::getrlimit(RLIMIT_FSIZE, &vorher);
     const rlimit eng{4096, vorher.rlim_max};
-    const auto signalVorher = std::signal(SIGXFSZ, SIG_IGN);
+    bereiteProzessVor();
     ::setrlimit(RLIMIT_FSIZE, &eng);
     const auto fehler = schreibeDauerhaft(datei, std::string(100000, 'b'));
     ::setrlimit(RLIMIT_FSIZE, &vorher);
-    std::signal(SIGXFSZ, signalVorher);
 
     ASSERT_TRUE(fehler);
     EXPECT_NE(fehler->text.find("wird zu groß"), std::string::npos);
@@ -76,28 +72,137 @@ TEST_F(Dateischreiber, AFullDiskIsReportedAndLeavesTheOldFileWhole) {
 }
 
 // The administrator may write everywhere: somebody else tries.
-std::optional<Dateifehler> schreibeAlsBenutzer(const fs::path& datei) {
+constexpr uid_t jemand = 65534;
+template <class Ruf>
+auto alsBenutzer(Ruf&& ruf) {
     const bool verwalter = ::geteuid() == 0;
-    if (verwalter && ::seteuid(65534) != 0) std::abort();
-    auto fehler = schreibeDauerhaft(datei, "neu");
-    if (verwalter && ::seteuid(0) != 0) std::abort();
-    return fehler;
+    if (verwalter && (::setegid(jemand) != 0 || ::seteuid(jemand) != 0)) std::abort();
+    auto ergebnis = ruf();
+    if (verwalter && (::seteuid(0) != 0 || ::setegid(0) != 0)) std::abort();
+    return ergebnis;
 }
 
-TEST_F(Dateischreiber, AReadOnlyFolderOrFileIsReportedAndLosesNothing) {
-    ASSERT_FALSE(schreibeDauerhaft(datei, "alt"));
-    fs::permissions(datei, fs::perms(0666));
-    fs::permissions(ordner, fs::perms(0555));
-    const auto ordnerfehler = schreibeAlsBenutzer(datei);
-    fs::permissions(ordner, fs::perms(0777));
-    fs::permissions(datei, fs::perms(0444));
-    const auto dateifehler = schreibeAlsBenutzer(datei);
+TEST_F(Dateischreiber, AReadOnlyFileIsReportedAndAWritableOneInAReadOnlyFolderIsOverwritten) {
+    const fs::path kopien = ordner / "kopien", fach = ordner / "fach";
+    fs::create_directory(kopien);
+    fs::create_directory(fach);
+    fs::permissions(kopien, fs::perms(0777));
+    datei = fach / "wand.rsw";
+    ASSERT_FALSE(schreibeDauerhaft(datei, "alt und länger"));
+    const auto versuche = [&](int dateirechte, int ordnerrechte, const fs::path& wohin) {
+        fs::permissions(datei, fs::perms(dateirechte));
+        fs::permissions(fach, fs::perms(ordnerrechte));
+        auto fehler = alsBenutzer([&] { return schreibeDauerhaft(datei, "neu", wohin); });
+        fs::permissions(fach, fs::perms(0777));
+        return fehler;
+    };
+    for (const auto& fehler : {versuche(0444, 0777, kopien), versuche(0444, 0555, kopien)}) {
+        ASSERT_TRUE(fehler);
+        EXPECT_NE(fehler->text.find("keine Berechtigung"), std::string::npos);
+    }
+    ASSERT_TRUE(versuche(0666, 0555, "/proc"));  // no place for the copy, no overwriting
+    EXPECT_EQ(inhalt(datei), "alt und länger");
+    EXPECT_FALSE(versuche(0666, 0555, kopien));
+    EXPECT_EQ(inhalt(datei), "neu");
+    EXPECT_EQ(dateienIn(fach), 1U);
+    EXPECT_EQ(dateienIn(kopien), 0U);
+}
 
-    ASSERT_TRUE(ordnerfehler);
-    ASSERT_TRUE(dateifehler);
-    EXPECT_NE(ordnerfehler->text.find("keine Berechtigung"), std::string::npos);
-    EXPECT_EQ(liesDatei(datei).bytes, "alt");
-    EXPECT_EQ(dateienImOrdner(), 1U);
+TEST_F(Dateischreiber, AFileWithSeveralNamesStaysOneFile) {
+    schreibe("wand.rsw", "alt");
+    fs::create_hard_link(datei, ordner / "zweiter.rsw");
+    EXPECT_FALSE(schreibeDauerhaft(datei, "neu", ordner / "kopien"));
+    EXPECT_EQ(inhalt(ordner / "zweiter.rsw"), "neu");
+    EXPECT_EQ(dateienIn(ordner / "kopien"), 0U);
+}
+
+TEST_F(Dateischreiber, WhatAFaultLeftHalfOverwrittenLiesInTheCopy) {
+    schreibe("wand.rsw", "alt");
+    const Kopie kopie{pfadtext(datei) + "%\r\n", std::string("a\r\nb\0", 5)};
+    {
+        const auto platz = Kopieplatz::freier(ordner, Kopieart::ueberschreiben);
+        ASSERT_TRUE(platz && !platz->schreibe(kopie));
+        EXPECT_TRUE(Kopieplatz::verwaiste(ordner, Kopieart::ueberschreiben).empty());  // its owner lives
+    }
+    const auto verwaist = Kopieplatz::verwaiste(ordner, Kopieart::ueberschreiben);
+    ASSERT_EQ(verwaist.size(), 1U);
+    EXPECT_EQ(verwaist[0].lies().wert, kopie);
+    const std::string text = kopietext(kopie);
+    for (std::size_t n = 0; n < text.size(); ++n) EXPECT_FALSE(kopieAus(text.substr(0, n))) << n;
+}
+
+TEST_F(Dateischreiber, WhoMayReadTheFileStaysTheSame) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only the administrator can give a file away";
+    schreibe("wand.rsw", "alt");
+    constexpr gid_t gruppe = 12345;
+    ASSERT_EQ(::chown(datei.c_str(), jemand, gruppe), 0);
+    fs::permissions(datei, fs::perms(0664));
+    ASSERT_EQ(::setxattr(datei.c_str(), "user.herkunft", "Nord", 4, 0), 0);
+    ASSERT_FALSE(schreibeDauerhaft(datei, "neu"));
+    struct stat jetzt {};
+    ASSERT_EQ(::stat(datei.c_str(), &jetzt), 0);
+    EXPECT_EQ(jetzt.st_uid, jemand);
+    EXPECT_EQ(jetzt.st_gid, gruppe);
+    EXPECT_EQ(jetzt.st_mode & 0777U, 0664U);
+    std::string wert(8, ' ');
+    EXPECT_EQ(::getxattr(datei.c_str(), "user.herkunft", wert.data(), wert.size()), 4);
+
+    // A user who is not of the group cannot keep it: its rights go instead of passing to his own.
+    fs::permissions(ordner, fs::perms(0777));
+    ASSERT_FALSE(alsBenutzer([&] { return schreibeDauerhaft(datei, "noch neuer"); }));
+    ASSERT_EQ(::stat(datei.c_str(), &jetzt), 0);
+    EXPECT_EQ(jetzt.st_gid, jemand);
+    EXPECT_EQ(jetzt.st_mode & 0777U, 0604U);
+}
+
+TEST_F(Dateischreiber, TemporaryFilesOfAKilledSaveGoAfterADay) {
+    const fs::path alt = schreibe(".rippenscheibe-abc123", "x"),
+                   frisch = schreibe(".rippenscheibe-abc456", "x");
+    const fs::path fremd = schreibe(".rippenscheibe-abc1234", "x");
+    for (const fs::path& name : {alt, fremd})
+        fs::last_write_time(name, fs::file_time_type::clock::now() - std::chrono::hours(25));
+    schreibe("wand.rsw", "neu");
+    EXPECT_FALSE(fs::exists(alt));
+    EXPECT_TRUE(fs::exists(frisch));
+    EXPECT_TRUE(fs::exists(fremd));
+}
+
+TEST_F(Dateischreiber, ALockThatIsHeldDelaysButDoesNotHang) {
+    const Dateisperre erste(ordner);
+    const auto beginn = std::chrono::steady_clock::now();
+    const Dateisperre zweite(ordner, std::chrono::milliseconds(50));
+    EXPECT_GE(std::chrono::steady_clock::now() - beginn, std::chrono::milliseconds(50));
+}
+
+TEST_F(Dateischreiber, PipesAndOpenFilesOfTheProcessAreWrittenDirectly) {
+    std::array<int, 2> rohr{};
+    ASSERT_EQ(::pipe(rohr.data()), 0);
+    for (const std::string name : {"/dev/fd/", "/proc/self/fd/"}) {
+        ASSERT_FALSE(schreibeDauerhaft(name + std::to_string(rohr[1]), "hinein"));
+        std::string gelesen(6, ' ');
+        ASSERT_EQ(::read(rohr[0], gelesen.data(), gelesen.size()), 6);
+        EXPECT_EQ(gelesen, "hinein");
+    }
+    for (const int griff : rohr) ::close(griff);
+    // What was there before an open file is not lost.
+    const int griff = ::open(datei.c_str(), O_WRONLY | O_CREAT, 0600);
+    ASSERT_EQ(::write(griff, "vor ", 4), 4);
+    ASSERT_FALSE(schreibeDauerhaft("/dev/fd/" + std::to_string(griff), "nach"));
+    ::close(griff);
+    EXPECT_EQ(inhalt(datei), "vor nach");
+}
+
+TEST(Prozess, WithoutMemoryTheProgramEndsInOneSentence) {
+    EXPECT_EXIT(
+        {
+            bereiteProzessVor();
+            const std::vector<char> zuViel(std::size_t{1} << 46U);
+        },
+        testing::ExitedWithCode(3), "^Der Arbeitsspeicher reicht nicht aus.\n$");
+}
+
+TEST(Prozess, ControlCharactersDoNotReachATerminal) {
+    EXPECT_EQ(ohneSteuerzeichen("ü\t²\r\n\x1b[2J\rx\x7f\xc2\x9b\xff"), "ü\t²\r\n?[2J?x???");
 }
 
 TEST_F(Dateischreiber, AMissingFolderAndAFolderInPlaceOfAFileAreReported) {

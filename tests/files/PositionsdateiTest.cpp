@@ -195,7 +195,7 @@ TEST(Positionsdatei, FilesAreWindows1252UnlessACharacterNeedsMore) {
     w.Position = "W ≥ 12";
     ASSERT_FALSE(schreibePosition(datei, w));
     Wand gelesen;
-    EXPECT_TRUE(liesPosition(datei, gelesen).uebersprungen.empty());
+    EXPECT_TRUE(liesPosition(datei, gelesen).wert.empty());
     EXPECT_EQ(positionstext(gelesen), positionstext(w));
     fs::remove(datei);
 }

@@ -11,28 +11,19 @@
 
 #include "files/EigeneMaterialienDatei.h"
 #include "files/Einstellungsdatei.h"
+#include "files/Materialverwaltung.h"
 #include "files/Projektliste.h"
 #include "files/Textvorlagen.h"
 #include "files/Zeichensatz.h"
 #include "model/Bemerkungen.h"
+#include "support/Ordnerprobe.h"
 
 namespace rippenscheibe {
 namespace {
 
 namespace fs = std::filesystem;
 
-// A folder of its own, as the program's folder.
-class Programmdateien : public testing::Test {
-  protected:
-    void SetUp() override {
-        std::string muster = (fs::temp_directory_path() / "rippenscheibe-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(muster.data()), nullptr);
-        ordner = muster;
-    }
-    void TearDown() override { fs::remove_all(ordner); }
-
-    fs::path ordner;
-};
+using Programmdateien = tests::Ordnerprobe;
 
 const std::string einstellungsbeispiel =
     "3,\"Büro Müller\",\"Statik\"\r\n"
@@ -124,7 +115,7 @@ TEST_F(Programmdateien, TwoProgramsThatEndLoseNoProject) {
     ASSERT_FALSE(schreibeProjektliste(datei, gelesen));
     ASSERT_FALSE(sichereProjektliste(datei, erste, gelesen));
     ASSERT_FALSE(sichereProjektliste(datei, zweite, gelesen));
-    EXPECT_EQ(liesProjektliste(datei).eintraege,
+    EXPECT_EQ(liesProjektliste(datei).wert.eintraege,
               (std::vector<Projekteintrag>{{"B", "b"}, {"D", "d"}, {"C", "c"}}));
 }
 
@@ -151,7 +142,7 @@ TEST_F(Programmdateien, ProgramsThatEndAtTheSameTimeLoseNoProject) {
         ::waitpid(kind, &status, 0);
         EXPECT_EQ(status, 0);
     }
-    EXPECT_EQ(liesProjektliste(datei).eintraege.size(), std::size_t{programme * projekte});
+    EXPECT_EQ(liesProjektliste(datei).wert.eintraege.size(), std::size_t{programme * projekte});
 }
 
 TEST_F(Programmdateien, AHandedOverPositionIsTakenOnce) {
@@ -196,7 +187,38 @@ TEST_F(Programmdateien, ATemplateReplacesItsNameAndOthersStay) {
     ASSERT_FALSE(sichereTextvorlage(datei, {"B", "zwei\r\ndrei"}, vorlagen));
     ASSERT_FALSE(sichereTextvorlage(datei, {"A", "neu"}, vorlagen));
     EXPECT_EQ(vorlagen, (Textvorlagen{{"A", "neu"}, {"B", "zwei\r\ndrei"}}));
-    EXPECT_EQ(liesTextvorlagen(datei), vorlagen);
+    EXPECT_EQ(liesTextvorlagen(datei).wert, vorlagen);
+}
+
+TEST_F(Programmdateien, AFileThatCannotBeReadIsToldAndLeftAlone) {
+    Textvorlagen vorlagen;
+    EigeneMaterialien tabelle{{{"neu", {}}}};
+    const std::pair<std::string, std::function<std::optional<Dateifehler>(const fs::path&)>> schreiber[] = {
+        {"templates",
+         [&](const fs::path& d) {
+             return sichereTextvorlage(d, {"A", "eins"}, vorlagen);
+         }},
+        {"materials", [&](const fs::path& d) { return sichereEigeneMaterialien(d, tabelle, {}); }},
+        {"projects",
+         [](const fs::path& d) {
+             return sichereProjektliste(d, {"P", {{"n", "p"}}}, {});
+         }},
+    };
+    const fs::path datei = ordner / "schleife";
+    fs::create_symlink("schleife", datei);  // neither a file nor none
+    for (const auto& [name, sichere] : schreiber) {
+        const auto fehler = sichere(datei);
+        ASSERT_TRUE(fehler) << name;
+        EXPECT_NE(fehler->text.find("kann nicht gelesen werden"), std::string::npos) << fehler->text;
+        EXPECT_FALSE(sichere(ordner / name)) << "a missing file is made";
+    }
+    Einstellungen e;
+    e.Suffix = 7;
+    EXPECT_TRUE(liesEinstellungen(datei, e).stoerung());
+    EXPECT_EQ(e.Suffix, 7);
+    EXPECT_EQ(liesTextvorlagen(ordner / "fehlt").lage, Dateilage::fehlt);
+    EXPECT_FALSE(liesTextvorlagen(ordner / "fehlt").stoerung());
+    EXPECT_EQ(dateienIn(ordner), 4U);
 }
 
 TEST_F(Programmdateien, ATemplateWithQuotesSparesTheOnesBehindIt) {
@@ -204,9 +226,9 @@ TEST_F(Programmdateien, ATemplateWithQuotesSparesTheOnesBehindIt) {
     Textvorlagen vorlagen;
     ASSERT_FALSE(sichereTextvorlage(datei, {"\"A\"", "Achse \"1\", oben"}, vorlagen));
     ASSERT_FALSE(sichereTextvorlage(datei, {"B", "zwei"}, vorlagen));
-    EXPECT_EQ(liesTextvorlagen(datei), (Textvorlagen{{"'A'", "Achse '1', oben"}, {"B", "zwei"}}));
+    EXPECT_EQ(liesTextvorlagen(datei).wert, (Textvorlagen{{"'A'", "Achse '1', oben"}, {"B", "zwei"}}));
     ASSERT_FALSE(sichereTextvorlage(datei, {"\"A\"", "neu"}, vorlagen));  // the same name again
-    EXPECT_EQ(liesTextvorlagen(datei), (Textvorlagen{{"'A'", "neu"}, {"B", "zwei"}}));
+    EXPECT_EQ(liesTextvorlagen(datei).wert, (Textvorlagen{{"'A'", "neu"}, {"B", "zwei"}}));
 }
 
 TEST(Bemerkungen, ATextIsSplitAtEachCrLf) {

@@ -40,7 +40,7 @@ class Kleinfenster : public testing::Test {
         programm = std::make_unique<Programm>(pfad(ordner.path()));
         programm->fenster = std::make_unique<Fensterfabrik>();
         programm->ladeEinstellungen();
-        programm->w.eigeneMaterialien = liesEigeneMaterialien(programm->datei(materialdatei));
+        programm->w.eigeneMaterialien = liesEigeneMaterialien(programm->datei(materialdatei)).wert;
     }
     QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
 
@@ -435,7 +435,7 @@ TEST_F(EigeneMaterialienFenster, EscSavesLikeZurueckAndADeletedMaterialStaysDele
         legeAn(fenster, "B", "2");
         fenster.reject();
     }
-    EXPECT_EQ(liesEigeneMaterialien(programm->datei(materialdatei)).zeilen.size(), 2U);
+    EXPECT_EQ(liesEigeneMaterialien(programm->datei(materialdatei)).wert.zeilen.size(), 2U);
     {
         Form99 fenster(*programm, meldungen);
         meldungen.antworten = {Antwort::ja};
@@ -483,11 +483,11 @@ TEST_F(EigeneMaterialienFenster, AnUntouchedTableLeavesTheEditsOfAnotherProgram)
 
 TEST_F(EigeneMaterialienFenster, TheFirstStartBringsTheDeliveredMaterials) {
     const auto pfadname = programm->datei(materialdatei);
-    const EigeneMaterialien erste = ladeEigeneMaterialien(pfadname);
+    const EigeneMaterialien erste = ladeEigeneMaterialien(pfadname).wert;
     EXPECT_GE(erste.zeilen.size(), 3U);
     EXPECT_TRUE(std::filesystem::exists(pfadname));
     ASSERT_FALSE(schreibeEigeneMaterialien(pfadname, {}));
-    EXPECT_EQ(ladeEigeneMaterialien(pfadname).zeilen.size(), 1U);  // the user's file is not touched
+    EXPECT_EQ(ladeEigeneMaterialien(pfadname).wert.zeilen.size(), 1U);  // the user's file is not touched
 }
 
 // ---- Fastener catalogue ----

@@ -1,24 +1,21 @@
 #include "ui/basics/Materialtabelle.h"
 
 #include <QFile>
-#include <system_error>
 
-#include "files/Dateischreiber.h"
-#include "files/EigeneMaterialienDatei.h"
-#include "files/Zeichensatz.h"
 #include "ui/basics/Programm.h"
 
 namespace rippenscheibe {
 
-EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei, ErsteTabelle erste) {
-    std::error_code fehler;
-    if (std::filesystem::exists(datei, fehler)) return liesEigeneMaterialien(datei);
+Gelesen<EigeneMaterialien> ladeEigeneMaterialien(const std::filesystem::path& datei, ErsteTabelle erste) {
+    Gelesen<EigeneMaterialien> tabelle = liesEigeneMaterialien(datei);
+    if (tabelle.lage != Dateilage::fehlt) return tabelle;
     verbindeRessourcen();
     QFile geliefert(QStringLiteral(":/Plattenwerte.dat"));
-    if (!geliefert.open(QIODevice::ReadOnly)) return {};
+    if (!geliefert.open(QIODevice::ReadOnly)) return tabelle;
     const std::string bytes = geliefert.readAll().toStdString();
     if (erste == ErsteTabelle::ablegen) static_cast<void>(schreibeDauerhaft(datei, bytes));
-    return eigeneMaterialienAus(dekodiert(bytes));
+    tabelle.wert = eigeneMaterialienAus(dekodiert(bytes));
+    return tabelle;
 }
 
 }  // namespace rippenscheibe

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "model/EigeneMaterialien.h"
+#include "files/EigeneMaterialienDatei.h"
 
 namespace rippenscheibe {
 
@@ -10,8 +10,9 @@ namespace rippenscheibe {
 enum class ErsteTabelle { ablegen, nurLesen };
 
 // The table of the file; at the first start, when there is none, the one delivered with the program, which is
-// put there then. A folder that takes no file does not matter.
-EigeneMaterialien ladeEigeneMaterialien(const std::filesystem::path& datei,
-                                        ErsteTabelle erste = ErsteTabelle::ablegen);
+// put there then. A folder that takes no file does not matter. A file that cannot be read is left alone, and
+// there are no materials then.
+Gelesen<EigeneMaterialien> ladeEigeneMaterialien(const std::filesystem::path& datei,
+                                                 ErsteTabelle erste = ErsteTabelle::ablegen);
 
 }  // namespace rippenscheibe

@@ -26,19 +26,29 @@ Programm::Programm(std::filesystem::path programmordner, QObject* parent)
 
 Programm::~Programm() = default;
 
-void Programm::ladeEinstellungen() {
-    liesEinstellungen(datei(einstellungsdatei), einstellungen);
-    projekte = liesProjektliste(datei(projektlistendatei));
+std::vector<Dateifehler> Programm::ladeEinstellungen() {
+    std::vector<Dateifehler> faelle;
+    einstellungsfehler_ = liesEinstellungen(datei(einstellungsdatei), einstellungen).stoerung();
+    if (einstellungsfehler_) faelle.push_back(*einstellungsfehler_);
+    Gelesen<Projektliste> liste = liesProjektliste(datei(projektlistendatei));
+    if (const auto stoerung = liste.stoerung()) faelle.push_back(*stoerung);
+    projekte = std::move(liste.wert);
     projekteGelesen_ = projekte;
     w.Projekt = projekte.Projekt;
     DialogOrdner = qtext(einstellungen.StandardPfad);
+    return faelle;
+}
+
+std::optional<Dateifehler> Programm::sichereEinstellungen() const {
+    if (einstellungsfehler_) return einstellungsfehler_;
+    return schreibeEinstellungen(datei(einstellungsdatei), einstellungen);
 }
 
 std::optional<Dateifehler> Programm::sichereProjekte() {
     projekte.Projekt = w.Projekt;
     auto fehler = rippenscheibe::sichereProjektliste(datei(projektlistendatei), projekte, projekteGelesen_);
     if (!fehler) {  // the program may go on after this: both lists are now the one in the file
-        projekteGelesen_ = liesProjektliste(datei(projektlistendatei));
+        projekteGelesen_ = liesProjektliste(datei(projektlistendatei)).wert;
         projekte = projekteGelesen_;
     }
     return fehler;

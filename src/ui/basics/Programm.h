@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "files/Einstellungsdatei.h"
 #include "files/Projektliste.h"
@@ -50,8 +51,11 @@ class Programm : public QObject {
     std::unique_ptr<Fensteroeffner> fenster;  // makes the windows that others ask for; set by the main window
 
     // Reads settings and project list from the program's folder; what is missing keeps its default. The
-    // project of the list becomes the project of the position.
-    void ladeEinstellungen();
+    // project of the list becomes the project of the position. Returns the faults of files that are there but
+    // cannot be read; they are left alone.
+    std::vector<Dateifehler> ladeEinstellungen();
+    // Writes the settings, unless those in the file could not be read.
+    [[nodiscard]] std::optional<Dateifehler> sichereEinstellungen() const;
     // Writes the project list, with what another running program added to it meanwhile.
     [[nodiscard]] std::optional<Dateifehler> sichereProjekte();
 
@@ -80,6 +84,7 @@ class Programm : public QObject {
     bool gesichert_ = true;
     QString titel_;
     Projektliste projekteGelesen_;  // as they were in the file
+    std::optional<Dateifehler> einstellungsfehler_;
     std::unique_ptr<QPrinter> drucker_;
 };
 

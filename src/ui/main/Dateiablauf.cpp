@@ -189,8 +189,15 @@ bool Dateiablauf::lade(const QString& datei) {
         return false;
     }
     programm_.Sperre = true;
-    // What does not parse keeps its value without a word: files of older layouts end early.
-    const Positionslesung lesung = liesPosition(pfad(datei), programm_.w);
+    // What is missing or does not parse keeps its value without a word: files of older layouts end early. A
+    // file that is there but cannot be read leaves the position as it is.
+    const auto lesung = liesPosition(pfad(datei), programm_.w);
+    if (const auto stoerung = lesung.stoerung()) {
+        programm_.Sperre = false;
+        meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(stoerung->text));
+        programm_.Dateiname.clear();
+        return false;
+    }
     programm_.felder = grundmasse(programm_.w);
     programm_.setzeGesichert(false);  // a file just opened counts as changed; that is meant
     programm_.setzeTitel(datei);

@@ -402,8 +402,13 @@ void Form1::setzeFarben() {
 // ---- Start and end ----
 
 void Form1::starte(const QString& datei) {
-    programm_.ladeEinstellungen();
-    programm_.w.eigeneMaterialien = ladeEigeneMaterialien(programm_.datei(materialdatei));
+    std::vector<Dateifehler> unlesbar = programm_.ladeEinstellungen();
+    auto materialien = ladeEigeneMaterialien(programm_.datei(materialdatei));
+    if (const auto stoerung = materialien.stoerung()) unlesbar.push_back(*stoerung);
+    programm_.w.eigeneMaterialien = std::move(materialien.wert);
+    for (const Dateifehler& fehler : unlesbar)
+        meldungen_.hinweis(this, QStringLiteral(" Hinweis"),
+                           qtext(fehler.text) + QStringLiteral(" Sie bleibt unverändert."));
     setzeVorgaben(programm_.w);
     programm_.felder = grundmasse(programm_.w);
     programm_.zuweisen();

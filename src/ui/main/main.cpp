@@ -13,6 +13,7 @@
 
 #include "basis/Version.h"
 #include "files/Programmordner.h"
+#include "files/Prozess.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/help/Handbuch.h"
@@ -30,8 +31,6 @@ void waehleSprache() {
     QLocale::setDefault(eigene.language() == QLocale::C ? QLocale(QLocale::German, QLocale::Germany)
                                                         : eigene);
 }
-
-void schreibe(std::FILE* strom, std::string_view text) { std::fwrite(text.data(), 1, text.size(), strom); }
 
 // Help and version are printed; like the PDF they need no display.
 bool willNurText(const QStringList& angaben) {
@@ -64,6 +63,7 @@ int laufeOhneFenster(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    bereiteProzessVor();
     QApplication::setApplicationName(QStringLiteral("rippenscheibe"));
     QApplication::setApplicationVersion(qtext(programmversion()));
     QApplication::setDesktopFileName(QStringLiteral("rippenscheibe"));

@@ -382,7 +382,7 @@ void Form8::uebernehmen() {
     programm_.DialogOrdner = qtext(e.StandardPfad);
     for (std::size_t i = 0; i < haken_.size(); ++i) e.*hakenfelder[i].feld = haken_[i]->isChecked();
     // Settings that cannot be written hold until the program ends.
-    if (const auto fehler = schreibeEinstellungen(programm_.datei(einstellungsdatei), e))
+    if (const auto fehler = programm_.sichereEinstellungen())
         meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
     accept();
 }

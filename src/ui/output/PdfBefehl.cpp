@@ -8,6 +8,7 @@
 
 #include "files/EigeneMaterialienDatei.h"
 #include "files/Einstellungsdatei.h"
+#include "files/Pfad.h"
 #include "files/Positionsdatei.h"
 #include "files/Zeichensatz.h"
 #include "run/Berechnungslauf.h"
@@ -61,12 +62,15 @@ class Pdflauf {
             return false;
         }
         const Dateiinhalt inhalt = liesDatei(auftrag_.position);
-        if (inhalt.fehler) {
-            ausgaben_.meldungen(inhalt.fehler->text + "\n");
+        if (inhalt.fehler) return scheitere(*inhalt.fehler);
+        if (positionsbefund(dekodiert(inhalt.bytes)).ganzeAnweisungen == 0) {
+            melde(std::string(keinePosition));
             return false;
         }
         // The table of the window, delivered rows included; a command leaves no file behind but the PDF.
-        w_->eigeneMaterialien = ladeEigeneMaterialien(ordner_ / materialdatei, ErsteTabelle::nurLesen);
+        auto materialien = ladeEigeneMaterialien(ordner_ / materialdatei, ErsteTabelle::nurLesen);
+        if (const auto stoerung = materialien.stoerung()) return scheitere(*stoerung);
+        w_->eigeneMaterialien = std::move(materialien.wert);
         for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), *w_))
             melde(beschreibung(feld));
         zuweisen(*w_, grundmasse(*w_));
@@ -75,14 +79,19 @@ class Pdflauf {
 
     bool schreibe() {
         Einstellungen einstellungen;
-        liesEinstellungen(ordner_ / einstellungsdatei, einstellungen);
+        const auto gelesen = liesEinstellungen(ordner_ / einstellungsdatei, einstellungen);
+        if (const auto stoerung = gelesen.stoerung()) return scheitere(*stoerung);
         Ausdruck ausdruck = standardausdruck(*w_, einstellungen, liesLogo(ordner_));
         ausdruck.form = auftrag_.form;
         ausdruck.optionen.dezimalzeichen = ',';  // the same file in every locale
         const QByteArray bytes = pdf(*w_, ausdruck).bytes;
         const auto fehler = schreibeDauerhaft(auftrag_.ziel, bytes.toStdString());
-        if (fehler) ausgaben_.meldungen(fehler->text + "\n");
-        return !fehler;
+        return fehler ? scheitere(*fehler) : true;
+    }
+
+    bool scheitere(const Dateifehler& fehler) const {
+        ausgaben_.meldungen(fehler.text + "\n");
+        return false;
     }
 
     void melde(const std::string& text) const {
@@ -140,6 +149,9 @@ Pdfrueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesys
         return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei erwartet."));
     const Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
                              pfad(befehlszeile.positionalArguments().constFirst()), *form};
+    if (sindDieselbeDatei(auftrag.ziel, auftrag.position))
+        return falscherAufruf(QStringLiteral("--pdf: \"%1\" ist die Positionsdatei selbst.")
+                                  .arg(befehlszeile.value(optionPdf)));
     return Pdflauf(auftrag, programmordner, ausgaben).laufe();
 }
 

@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
@@ -45,7 +46,6 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
     : Fenster(programm, meldungen, parent, QString::fromUtf8(fassung(art).name),
               QString::fromUtf8(fassung(art).titel), Tippen::aendertNichts),
       datei_(programm.datei(fassung(art).datei)),
-      vorlagen_(liesTextvorlagen(datei_)),
       liste_(new QListWidget(this)),
       name_(new QLineEdit(this)),
       text_(new QPlainTextEdit(this)),
@@ -85,7 +85,6 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
     inhalt()->addLayout(grid, 1);
 
     if (art == Vorlagenart::vorbemerkungen) new Zeilengrenze(text_);
-    fuelleListe();
     for (QWidget* feld :
          {static_cast<QWidget*>(name_), static_cast<QWidget*>(text_), static_cast<QWidget*>(sichern_)})
         feld->setEnabled(false);
@@ -102,6 +101,12 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
     QPushButton* abbruch =
         schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch ohne Übernehmen"));
     connect(abbruch, &QPushButton::clicked, this, &QDialog::reject);
+
+    Gelesen<Textvorlagen> gelesen = liesTextvorlagen(datei_);
+    vorlagen_ = std::move(gelesen.wert);
+    fuelleListe();
+    if (const auto stoerung = gelesen.stoerung())
+        meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(stoerung->text));
 }
 
 std::string Textvorlagenfenster::text() const { return textAus(*text_); }

@@ -129,6 +129,19 @@ TEST_F(Ablauf, AnotherEndingIsRefusedAndCapitalsAreAnotherEnding) {
     EXPECT_FALSE(programm.Sperre);
 }
 
+TEST_F(Ablauf, AFileThatCannotBeReadIsToldAndAMissingOneIsNot) {
+    aendere();
+    const QString zuGross = datei("gross.rsw");
+    ASSERT_FALSE(schreibeDauerhaft(pfad(zuGross), std::string(groessteDatei + 1, ' ')));
+    EXPECT_FALSE(ablauf.lade(zuGross));
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_TRUE(meldungen.gezeigt[0].text.contains(QStringLiteral("größer als 16 MB")));
+    EXPECT_EQ(programm.w.Wandlaenge, 7);
+    EXPECT_EQ(programm.Dateiname, "");  // the next save must not go there
+    EXPECT_TRUE(ablauf.lade(datei("fehlt.rsw")));
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+}
+
 TEST_F(Ablauf, SaveAppendsTheEndingAndProposesPositionAndRemark) {
     programm.w.Position = "3/1";
     ablauf.sichern();
@@ -237,7 +250,7 @@ TEST_F(Ablauf, SaveAsGoesThroughTheProjectDialogAndKeepsTheNameAfterACancel) {
 
 class Wiederherstellung : public Programmprobe {
   protected:
-    QStringList kopien() const { return QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.rsw")}); }
+    QStringList kopien() const { return QDir(ordner.path()).entryList({QStringLiteral("Sicherung*.kopie")}); }
 };
 
 TEST_F(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
@@ -268,25 +281,57 @@ TEST_F(Wiederherstellung, ACrashedProgramOffersItsPositionOnce) {
 }
 
 TEST_F(Wiederherstellung, AnUnreadableCopyIsReportedAndKept) {
-    ASSERT_TRUE(QDir().mkpath(datei("Sicherung-1.rsw")));  // a folder cannot be read as a file
+    ASSERT_TRUE(QDir().mkpath(datei("Sicherung-1.kopie")));  // a folder cannot be read as a file
     meldungen.antworten = {Antwort::ja, Antwort::ok};
     programm.w.Vorbemerkungen[0] = "bleibt";
     EXPECT_FALSE(Sicherungskopie(programm).stelleWiederHer(meldungen, nullptr));
     ASSERT_EQ(meldungen.gezeigt.size(), 2U);
     EXPECT_EQ(meldungen.gezeigt[1].symbol, Symbol::kritisch);
-    EXPECT_TRUE(QFile::exists(datei("Sicherung-1.rsw")));
+    EXPECT_TRUE(QFile::exists(datei("Sicherung-1.kopie")));
     EXPECT_EQ(programm.w.Vorbemerkungen[0], "bleibt");
     EXPECT_TRUE(programm.Gesichert());
 }
 
 TEST_F(Wiederherstellung, TheOldCopyStaysWhileNoNewOneCanBeWritten) {
     stuerzeAb();
-    // The new program takes the second slot, and a folder is in the way of its file.
-    ASSERT_TRUE(QDir().mkpath(datei("Sicherung-2.txt/voll")));
+    // The new program takes the second place, and a folder comes in the way of its file.
+    Sicherungskopie neue(programm);
+    ASSERT_TRUE(QDir().mkpath(datei("Sicherung-2.kopie/voll")));
     meldungen.antworten = {Antwort::ja};
-    EXPECT_TRUE(Sicherungskopie(programm).stelleWiederHer(meldungen, nullptr));
+    EXPECT_TRUE(neue.stelleWiederHer(meldungen, nullptr));
     EXPECT_EQ(programm.w.Wandlaenge, 9);
-    EXPECT_TRUE(QFile::exists(datei("Sicherung-1.rsw")));
+    EXPECT_TRUE(QFile::exists(datei("Sicherung-1.kopie")));
+}
+
+TEST_F(Wiederherstellung, AFileHalfOverwrittenIsOfferedAsItWas) {
+    const QString wand = gespeicherte("wand.rsw", 4);
+    const QByteArray vorher = inhalt(wand);
+    const auto unterbrich = [&](const std::string& jetzt) {
+        const auto platz = Kopieplatz::freier(programm.ordner, Kopieart::ueberschreiben);
+        ASSERT_TRUE(platz && !platz->schreibe({utf8(wand), vorher.toStdString()}));
+        ASSERT_FALSE(schreibeDauerhaft(pfad(wand), jetzt));
+    };
+    Sicherungskopie kopie(programm);
+    unterbrich(vorher.toStdString());  // killed before the first byte: nothing to ask
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_TRUE(meldungen.gezeigt.empty());
+    unterbrich("halb");
+    meldungen.antworten = {Antwort::abbrechen, Antwort::ja};
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_EQ(inhalt(wand), "halb");
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_EQ(inhalt(wand), vorher);
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
+    EXPECT_EQ(meldungen.gezeigt.size(), 2U);
+}
+
+TEST_F(Wiederherstellung, AFolderThatCannotBeReadDoesNotEndTheProgram) {
+    std::filesystem::create_directory_symlink("schleife", pfad(datei("schleife")));
+    Programm gestoert(pfad(datei("schleife")));
+    gestoert.setzeGesichert(false);
+    Sicherungskopie kopie(gestoert);
+    EXPECT_FALSE(kopie.sichere());
+    EXPECT_FALSE(kopie.stelleWiederHer(meldungen, nullptr));
 }
 
 TEST_F(Wiederherstellung, ASaveTakesTheCopyAway) {

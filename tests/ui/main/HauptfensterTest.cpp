@@ -85,9 +85,9 @@ TEST_F(Hauptfenster, AWallBuiltThroughTheDialogsGivesTheResultsOfItsSavedFile) {
     for (const Meldung& meldung : meldungen.gezeigt) EXPECT_EQ(meldung.symbol, Symbol::hinweis);
 
     Wand zweite;
-    const Positionslesung lesung = liesPosition(pfad(datei("wand.rsw")), zweite);
+    const auto lesung = liesPosition(pfad(datei("wand.rsw")), zweite);
     EXPECT_FALSE(lesung.fehler);
-    EXPECT_TRUE(lesung.uebersprungen.empty());
+    EXPECT_TRUE(lesung.wert.empty());
     zuweisen(zweite, grundmasse(zweite));
     ASSERT_EQ(starte(zweite), Laufergebnis::gerechnet);
     EXPECT_EQ(zweite.Wandlaenge, 3.75);

@@ -190,7 +190,7 @@ TEST_F(Pdfausgabe, TheCommandTakesTheMaterialsTheWindowTakesAndWritesNone) {
     EXPECT_FALSE(std::filesystem::exists(tabelle));
     programm.w = Wand();
     setzeVorgaben(programm.w);
-    programm.w.eigeneMaterialien = ladeEigeneMaterialien(tabelle);
+    programm.w.eigeneMaterialien = ladeEigeneMaterialien(tabelle).wert;
     rechne("eigenes_material");
     EXPECT_EQ(ohneDatum(inhalt(datei("aus.pdf"))), ohneDatum(pdf(programm.w, ausdruck()).bytes));
 }
