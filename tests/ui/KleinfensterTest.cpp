@@ -314,10 +314,11 @@ TEST_F(Kleinfenster, NoTemplateIsShownBeforeOneIsChosen) {
 TEST_F(Kleinfenster, ATemplateThatCannotBeWrittenIsReported) {
     ASSERT_TRUE(QDir(ordner.path()).mkdir(QStringLiteral("Textvorlage1.dat")));  // no file can go there
     Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::vorbemerkungen);
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);  // nor can it be read
     klick(fenster, "Command2");
     setze(fenster, "Text2", "Name");
     klick(fenster, "Command3");
-    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    ASSERT_EQ(meldungen.gezeigt.size(), 2U);
     EXPECT_EQ(feld<QLineEdit>(fenster, "Text2")->text(), QStringLiteral("Name"));
 }
 
