@@ -36,3 +36,12 @@ if(RIPPENSCHEIBE_SANITIZE)
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${RIPPENSCHEIBE_SANITIZE})
 endif()
+
+# Libraries that are headers only are those of the building machine; alone, so that nothing else of it comes in.
+if(CMAKE_CROSSCOMPILING)
+    foreach(kopf CLI nlohmann)
+        file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/kopfdateien")
+        file(CREATE_LINK "/usr/include/${kopf}" "${CMAKE_BINARY_DIR}/kopfdateien/${kopf}" SYMBOLIC)
+    endforeach()
+    include_directories(SYSTEM "${CMAKE_BINARY_DIR}/kopfdateien")
+endif()
