@@ -1,9 +1,10 @@
 #include "ui/drawings/Ausgabe.h"
 
 #include <QBuffer>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <cmath>
+
+#include "files/Dateischreiber.h"
 
 namespace rippenscheibe {
 
@@ -71,9 +72,7 @@ QByteArray svg(Zeichnung was, const Wand& w, QSizeF mm, const Zeichenstil& stil)
 bool speichereSvg(const std::filesystem::path& datei, Zeichnung was, const Wand& w, QSizeF mm,
                   const Zeichenstil& stil) {
     const QByteArray bytes = svg(was, w, mm, stil);
-    QSaveFile ziel(QString::fromStdString(datei.string()));
-    if (bytes.isEmpty() || !ziel.open(QIODevice::WriteOnly)) return false;
-    return ziel.write(bytes) == bytes.size() && ziel.commit();
+    return !bytes.isEmpty() && !schreibeDauerhaft(datei, bytes.toStdString());
 }
 
 }  // namespace rippenscheibe
