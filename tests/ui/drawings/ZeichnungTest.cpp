@@ -297,7 +297,7 @@ TEST(Zeichnung, OfNoExampleAWordOrAFigureIsCutOnPaper) {
     for (const auto& datei : std::filesystem::directory_iterator(RIPPENSCHEIBE_BEISPIELE)) {
         if (datei.path().extension() != ".rsw") continue;
         Wand w = wand();
-        w.eigeneMaterialien = liesEigeneMaterialien(datei.path().parent_path() / "Plattenwerte.dat");
+        w.eigeneMaterialien = liesEigeneMaterialien(datei.path().parent_path() / "Plattenwerte.dat").wert;
         ASSERT_FALSE(liesPosition(datei.path(), w).fehler);
         zuweisen(w, grundmasse(w));
         for (const Zeichnung was : {Zeichnung::ansicht, Zeichnung::beplankung, Zeichnung::anker}) {
