@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "basis/Herkunft.h"
+
 // Failing arithmetic. Every calculation routine goes on when a statement fails, and the failing
 // assignment leaves its target unchanged. `Zahl` carries the failure through a formula, `Feld` and
 // its kin refuse to store it. So a formula reads as in the standard and needs no guard by hand.
@@ -22,6 +24,9 @@ class Zahl {
     template <class T>
     requires std::integral<T> || std::floating_point<T>
     constexpr Zahl(T wert) : wert_(endlich(static_cast<double>(wert))) {}  // NOLINT: implicit by design
+
+    constexpr Zahl(const Konstante& k) : Zahl(k.value()) {}     // NOLINT: implicit by design
+    constexpr Zahl(const Tabellenwert& t) : Zahl(t.value()) {}  // NOLINT: implicit by design
 
     static constexpr Zahl fehlgeschlagen() { return Zahl(std::numeric_limits<double>::quiet_NaN()); }
 

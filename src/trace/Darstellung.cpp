@@ -243,9 +243,9 @@ std::vector<std::string> Darstellung::tabellenwerte(const Schritt& s) const {
     jederOperand(graph_, s.ausdruck, [&](Ort ort) {
         const Knoten& k = knoten(ort);
         if (k.op != Op::tabelle) return;
-        const Tabelle& t = graph_.tabellen[static_cast<std::size_t>(k.a)];
-        texte.push_back(woertlich(k.wert) + " aus Zeile " + std::to_string(k.b + 1) + ": " +
-                        std::string(t.quelle));
+        texte.push_back(woertlich(k.wert) + ": " +
+                        std::string(graph_.tabellen[static_cast<std::size_t>(k.a)]) + ", Zeile " +
+                        std::to_string(k.b + 1));
     });
     return texte;
 }

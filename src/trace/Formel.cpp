@@ -79,7 +79,8 @@ class Schreiber {
     // On paper a + (b - c) and a · (b · c) need no brackets.
     Rang rechts(const Knoten& k, Rang eigener) const {
         const Op rechter = knoten(k.b).op;
-        const bool frei = !weise_.bitgenau && (k.op == Op::plus ? rechter != Op::negativ : rechter == Op::mal);
+        const bool frei =
+            !weise_.bitgenau && (k.op == Op::plus ? rechter != Op::negativ : rechter == Op::mal);
         return frei ? eigener : static_cast<Rang>(eigener + 1);
     }
     std::string zweistellig(const Knoten& k, std::string_view zeichen, Rang links, Rang rechts) const {

@@ -94,11 +94,6 @@ struct Berichtszeile {
     std::vector<Zahlstelle> zahlen;
 };
 
-struct Tabelle {
-    std::string_view name;
-    std::string_view quelle;
-};
-
 struct Graph {
     std::vector<Knoten> knoten;
     std::vector<Ort> argumente;
@@ -106,7 +101,7 @@ struct Graph {
     std::vector<Schritt> schritte;
     std::vector<Feldeintrag> felder;
     std::vector<std::string_view> konstanten;
-    std::vector<Tabelle> tabellen;
+    std::vector<std::string_view> tabellen;
     std::vector<Berichtszeile> bericht;  // the result view, one entry a paragraph
     int rippen = 0;                      // AnzahlRippen after the run, at most 200
     bool erfuellt = false;

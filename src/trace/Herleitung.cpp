@@ -1,5 +1,6 @@
 #include "trace/Herleitung.h"
 
+#include "trace/Zeichen.h"
 #include "trace/spur/Lauf.h"
 
 namespace rippenscheibe {
@@ -49,6 +50,11 @@ Wandinhalt inhalt(const Wand& w, const Grundmasse& felder) {
 herleitung::Graph leiteHer(const Wand& vorDemLauf, const Grundmasse& felder) {
     herleitung::Graph graph;
     herleitung::laufeMitSpur(inhalt(vorDemLauf, felder), graph);
+    for (herleitung::Feldeintrag& feld : graph.felder) {
+        const Feldzeichen z = feldzeichen(feld.name);
+        feld.zeichen = z.zeichen;
+        feld.quelle = z.quelle;
+    }
     return graph;
 }
 

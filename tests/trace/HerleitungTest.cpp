@@ -1,5 +1,3 @@
-#include "trace/Herleitung.h"
-
 #include <gtest/gtest.h>
 #include <muParser.h>
 
@@ -17,6 +15,7 @@
 #include "run/Berechnungslauf.h"
 #include "support/Walls.h"
 #include "support/Zufallswand.h"
+#include "trace/Herleitung.h"
 
 namespace rippenscheibe {
 namespace {

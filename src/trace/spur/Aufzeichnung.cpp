@@ -1,9 +1,29 @@
 #include "trace/spur/Aufzeichnung.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace herleitung {
+
+namespace {
+
+std::vector<Tabellenort>& tabellen() {
+    static std::vector<Tabellenort> alle;
+    return alle;
+}
+
+// The place of a text in a list, at the end when it is new.
+Ort platz(std::vector<std::string_view>& liste, std::string_view text) {
+    const auto treffer = std::find(liste.begin(), liste.end(), text);
+    const auto ort = static_cast<Ort>(treffer - liste.begin());
+    if (treffer == liste.end()) liste.push_back(text);
+    return ort;
+}
+
+}  // namespace
+
+void meldeTabelleAn(const Tabellenort& tabelle) { tabellen().push_back(tabelle); }
 
 thread_local Aufzeichnung* Aufzeichnung::aktive_ = nullptr;
 
@@ -23,11 +43,18 @@ Ort Aufzeichnung::auswahl(Op op, double wert, std::span<const Ort> argumente) {
 }
 
 Ort Aufzeichnung::konstante(double wert, std::string_view name) {
-    auto& namen = graph_.konstanten;
-    const auto treffer = std::find(namen.begin(), namen.end(), name);
-    const auto ort = static_cast<Ort>(treffer - namen.begin());
-    if (treffer == namen.end()) namen.push_back(name);
-    return knoten(Op::konstante, wert, ort);
+    return knoten(Op::konstante, wert, platz(graph_.konstanten, name));
+}
+
+Ort Aufzeichnung::tabellenwert(double wert, const void* zelle) {
+    for (const Tabellenort& t : tabellen()) {
+        const auto* anfang = static_cast<const char*>(t.anfang);
+        const auto* ort = static_cast<const char*>(zelle);
+        if (std::less<>{}(ort, anfang) || !std::less<>{}(ort, anfang + t.zeile * t.zeilen)) continue;
+        const auto zeile = static_cast<Ort>(static_cast<std::size_t>(ort - anfang) / t.zeile);
+        return knoten(Op::tabelle, wert, platz(graph_.tabellen, t.name), zeile);
+    }
+    return knoten(Op::zahl, wert);
 }
 
 Ort Aufzeichnung::stand(const Stand& s) {

@@ -7,6 +7,15 @@
 
 namespace herleitung {
 
+// A table of the calculation, known by where it lies in memory.
+struct Tabellenort {
+    const void* anfang;
+    std::size_t zeile;  // bytes
+    std::size_t zeilen;
+    std::string_view name;
+};
+void meldeTabelleAn(const Tabellenort& tabelle);
+
 // Takes down one traced run. At most one is active a thread; without one the traced arithmetic computes only.
 class Aufzeichnung {
   public:
@@ -23,6 +32,8 @@ class Aufzeichnung {
     }
     Ort auswahl(Op op, double wert, std::span<const Ort> argumente);
     Ort konstante(double wert, std::string_view name);
+    // The value of a cell; a number like any other when the cell belongs to no table.
+    Ort tabellenwert(double wert, const void* zelle);
     // What a field held before the run.
     Ort anfang(Ort feld, int rippe, double wert) { return stand({feld, rippe, keiner, wert}); }
     // An assignment; `davor` is the node of what the field held. The node of what it holds now comes back.

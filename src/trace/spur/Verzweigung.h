@@ -1,7 +1,7 @@
 // Put in front of each source of the calculation in the build that remembers: an `if` there keeps the
 // comparisons of its condition as long as its branches run, so that a step knows exactly the conditions it
 // stands under. Comparisons outside of an `if` (a choice by ?:, a truth value formed beforehand) belong to
-// the next step.
+// the next step. A condition has to be an expression, without a declaration in its brackets.
 #pragma once
 
 // What the calculation uses of the library must not see the word redefined.

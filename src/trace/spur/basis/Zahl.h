@@ -8,6 +8,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "basis/Herkunft.h"
 #include "trace/spur/Aufzeichnung.h"
 
 // The failing arithmetic once more, for the build of the calculation that remembers: a `Zahl` knows the node
@@ -27,6 +28,13 @@ class Zahl {
     requires std::integral<T> || std::floating_point<T>
     constexpr Zahl(T wert) : wert_(endlich(static_cast<double>(wert))) {}  // NOLINT: implicit by design
     constexpr Zahl(double wert, Ort knoten) : wert_(endlich(wert)), knoten_(knoten) {}
+
+    Zahl(const Konstante& k) : wert_(endlich(k.value())) {  // NOLINT: implicit by design
+        if (Aufzeichnung* a = Aufzeichnung::aktive()) knoten_ = a->konstante(wert_, k.zeichen());
+    }
+    Zahl(const Tabellenwert& t) : wert_(endlich(t.value())) {  // NOLINT: implicit by design
+        if (Aufzeichnung* a = Aufzeichnung::aktive()) knoten_ = a->tabellenwert(wert_, t.zelle());
+    }
 
     static constexpr Zahl fehlgeschlagen() { return Zahl(std::numeric_limits<double>::quiet_NaN()); }
 

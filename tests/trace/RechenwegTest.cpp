@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "report/Textausgabe.h"
+#include "run/Berechnungslauf.h"
+#include "support/Walls.h"
+#include "trace/Darstellung.h"
+#include "trace/Herleitung.h"
+#include "trace/Pruefsumme.h"
+#include "trace/Rechenweg.h"
+#include "trace/Zeichen.h"
+
+namespace rippenscheibe {
+namespace {
+
+Wand wand() {
+    Wand w = tests::vorgabewand();
+    w.Lastfall = 3;
+    w.gk = 8;
+    w.qk = 4;
+    w.VertikallastVerteilung = 2;
+    zuweisen(w, grundmasse(w));
+    return w;
+}
+
+struct Dokument {
+    Bericht bericht;
+    std::string text;
+};
+
+Dokument dokument(Wand w) {
+    const std::string art = laufart(w);
+    const herleitung::Graph graph = leiteHer(w, grundmasse(w));
+    zuweisen(w, grundmasse(w));
+    berechnungslauf(w);
+    Bericht b = rechenweg(graph, w, {"Programm", "W1.rsw", sha256(""), art});
+    std::string text = alsText(fliesstext(b));
+    return {std::move(b), std::move(text)};
+}
+
+std::size_t wieOft(const std::string& text, const std::string& worte) {
+    std::size_t anzahl = 0;
+    for (std::size_t i = text.find(worte); i != std::string::npos; i = text.find(worte, i + 1)) ++anzahl;
+    return anzahl;
+}
+
+TEST(Pruefsumme, YieldsThePublishedExamples) {
+    EXPECT_EQ(sha256("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(sha256(std::string(1000000, 'a')),
+              "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+TEST(Rechenweg, TellsEachStepOnceInTheOrderOfTheReport) {
+    const std::string text = dokument(wand()).text;
+    for (const char* anfang : {"\nfm,d = ", "\nλrel = ", "\nRd,F,1 = ", "\nRd,1 = ", "\nuges,T = "})
+        EXPECT_EQ(wieOft(text, anfang), 1U) << anfang;
+    EXPECT_LT(text.find("\nfm,d = "), text.find("\nRd,1 = "));
+    EXPECT_LT(text.find("\nRd,1 = "), text.find("\nuges,T = "));
+    EXPECT_NE(text.find("3. Durchgang"), std::string::npos) << "the loads are reduced from pass to pass";
+    EXPECT_NE(text.find("Rippen 2 bis 8"), std::string::npos) << "inner ribs that are alike";
+    EXPECT_NE(text.find("im Bericht: Fc,d,g(2) + Fc,d,q(2) = "), std::string::npos);
+}
+
+TEST(Rechenweg, TellsTheKindOfRunOnItsFirstPage) {
+    Wand w;
+    zuweisen(w, grundmasse(w));
+    EXPECT_NE(dokument(w).text.find("erster Lauf"), std::string::npos);
+    berechnungslauf(w);
+    EXPECT_NE(dokument(w).text.find("weiterer Lauf"), std::string::npos);
+}
+
+TEST(Rechenweg, KeepsItsLinesWithinThePage) {
+    for (const Zeile& zeile : dokument(wand()).bericht) {
+        const auto* text = std::get_if<Textzeile>(&zeile);
+        if (text == nullptr || !text->text) continue;
+        const auto zeichen = std::ranges::count_if(
+            *text->text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
+        EXPECT_LE(zeichen, text->stil == Stil::klein ? 110 : 90) << *text->text;
+    }
+}
+
+TEST(Zeichen, EveryNumberOfTheRecordHasASymbolOfItsOwn) {
+    const herleitung::Graph graph = leiteHer(wand(), {});
+    std::vector<std::string_view> gesehen;
+    for (const herleitung::Feldeintrag& feld : graph.felder) {
+        const bool auswahl = feld.typ == herleitung::Typ::i16 || feld.typ == herleitung::Typ::wahrheit ||
+                             feld.typ == herleitung::Typ::text;
+        if (auswahl) continue;
+        EXPECT_FALSE(feld.zeichen.empty()) << feld.name;
+        EXPECT_EQ(std::ranges::count(gesehen, feld.zeichen), 0) << feld.zeichen;
+        gesehen.push_back(feld.zeichen);
+    }
+}
+
+}  // namespace
+}  // namespace rippenscheibe
