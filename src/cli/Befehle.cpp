@@ -245,15 +245,17 @@ class Arbeit {
         }
     }
 
-    // Own materials that the command names have to be there; those of the program's folder need not, but
-    // where they are they have to be readable.
+    // Own materials that the command names have to be there, else those of the program are taken. A table that
+    // is there has to be readable.
     bool ladeMaterialien() {
-        const Dateiinhalt inhalt = liesDatei(auftrag_.material.value_or(programmordner_ / materialdatei));
-        if (inhalt.lage == Dateilage::unlesbar || (inhalt.fehler && auftrag_.material)) {
-            ausgaben_.meldungen(inhalt.fehler->text + "\n");
+        Gelesen<EigeneMaterialien> tabelle = auftrag_.material ? liesEigeneMaterialien(*auftrag_.material)
+                                                               : ladeEigeneMaterialien(programmordner_);
+        const bool fehlt = auftrag_.material && tabelle.lage == Dateilage::fehlt;
+        if (fehlt || tabelle.stoerung()) {
+            ausgaben_.meldungen(tabelle.fehler->text + "\n");
             return false;
         }
-        materialien_ = eigeneMaterialienAus(dekodiert(inhalt.bytes));
+        materialien_ = std::move(tabelle.wert);
         return true;
     }
 

@@ -70,4 +70,11 @@ std::optional<Dateifehler> schreibeEigeneMaterialien(const std::filesystem::path
     return schreibeTextdatei(datei, eigeneMaterialienText(tabelle));
 }
 
+Gelesen<EigeneMaterialien> ladeEigeneMaterialien(const std::filesystem::path& programmordner) {
+    Gelesen<EigeneMaterialien> tabelle = liesEigeneMaterialien(programmordner / materialdatei);
+    if (tabelle.lage == Dateilage::fehlt)
+        tabelle.wert = eigeneMaterialienAus(dekodiert(gelieferteMaterialien()));
+    return tabelle;
+}
+
 }  // namespace rippenscheibe

@@ -19,6 +19,12 @@ EigeneMaterialien eigeneMaterialienAus(std::string_view text);
 std::string eigeneMaterialienText(const EigeneMaterialien& tabelle);
 
 Gelesen<EigeneMaterialien> liesEigeneMaterialien(const std::filesystem::path& datei);
+
+// The bytes of the table that the program is delivered with.
+std::string_view gelieferteMaterialien();
+// The own materials of whoever runs the program: the table of the program's folder or, where there is none,
+// the delivered one, which is only read. A file that cannot be read is told, and there are no materials then.
+Gelesen<EigeneMaterialien> ladeEigeneMaterialien(const std::filesystem::path& programmordner);
 [[nodiscard]] std::optional<Dateifehler> schreibeEigeneMaterialien(const std::filesystem::path& datei,
                                                                    const EigeneMaterialien& tabelle);
 

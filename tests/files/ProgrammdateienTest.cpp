@@ -180,6 +180,18 @@ TEST_F(Programmdateien, OwnMaterialsThatAreMissingGiveNoRowsOrEmptyCells) {
     EXPECT_EQ(eigeneMaterialienText({}), leereZeile);
 }
 
+TEST_F(Programmdateien, TheDeliveredMaterialsServeWhereTheUserHasNone) {
+    const auto geladen = [&] { return ladeEigeneMaterialien(ordner); };
+    ASSERT_GE(geladen().wert.zeilen.size(), 3U);
+    EXPECT_TRUE(fs::is_empty(ordner)) << "only read";
+    ASSERT_FALSE(schreibeEigeneMaterialien(ordner / materialdatei, {}));
+    EXPECT_EQ(geladen().wert.zeilen.size(), 1U);
+    fs::remove(ordner / materialdatei);
+    fs::create_directory(ordner / materialdatei);  // no table can be read there
+    EXPECT_TRUE(geladen().stoerung());
+    EXPECT_TRUE(geladen().wert.zeilen.empty());
+}
+
 TEST_F(Programmdateien, ATemplateReplacesItsNameAndOthersStay) {
     const fs::path datei = ordner / vorlagenVorbemerkungen;
     Textvorlagen vorlagen;

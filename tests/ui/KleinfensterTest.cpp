@@ -8,7 +8,6 @@
 #include "files/EigeneMaterialienDatei.h"
 #include "model/VMKatalog.h"
 #include "support/GeskripteteMeldungen.h"
-#include "ui/basics/Materialtabelle.h"
 #include "ui/basics/Pfadwahl.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Werteingabe.h"
@@ -480,15 +479,6 @@ TEST_F(EigeneMaterialienFenster, AnUntouchedTableLeavesTheEditsOfAnotherProgram)
     neuStart();
     ASSERT_EQ(tabelle().zeilen.size(), 1U);
     EXPECT_EQ(*tabelle().name(1), "A neu");
-}
-
-TEST_F(EigeneMaterialienFenster, TheFirstStartBringsTheDeliveredMaterials) {
-    const auto pfadname = programm->datei(materialdatei);
-    const EigeneMaterialien erste = ladeEigeneMaterialien(pfadname).wert;
-    EXPECT_GE(erste.zeilen.size(), 3U);
-    EXPECT_TRUE(std::filesystem::exists(pfadname));
-    ASSERT_FALSE(schreibeEigeneMaterialien(pfadname, {}));
-    EXPECT_EQ(ladeEigeneMaterialien(pfadname).wert.zeilen.size(), 1U);  // the user's file is not touched
 }
 
 // ---- Fastener catalogue ----

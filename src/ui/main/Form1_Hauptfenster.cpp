@@ -35,7 +35,6 @@
 #include "run/Berechnungslauf.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Kuerzel.h"
-#include "ui/basics/Materialtabelle.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Symbol.h"
 #include "ui/basics/Werteingabe.h"
@@ -403,7 +402,7 @@ void Form1::setzeFarben() {
 
 void Form1::starte(const QString& datei) {
     std::vector<Dateifehler> unlesbar = programm_.ladeEinstellungen();
-    auto materialien = ladeEigeneMaterialien(programm_.datei(materialdatei));
+    auto materialien = ladeEigeneMaterialien(programm_.ordner);
     if (const auto stoerung = materialien.stoerung()) unlesbar.push_back(*stoerung);
     programm_.w.eigeneMaterialien = std::move(materialien.wert);
     for (const Dateifehler& fehler : unlesbar)

@@ -13,7 +13,6 @@
 #include "files/Zeichensatz.h"
 #include "run/Berechnungslauf.h"
 #include "run/Zuweisen.h"
-#include "ui/basics/Materialtabelle.h"
 #include "ui/basics/Programm.h"
 #include "ui/output/PdfAusgabe.h"
 
@@ -68,7 +67,7 @@ class Pdflauf {
             return false;
         }
         // The table of the window, delivered rows included; a command leaves no file behind but the PDF.
-        auto materialien = ladeEigeneMaterialien(ordner_ / materialdatei, ErsteTabelle::nurLesen);
+        auto materialien = ladeEigeneMaterialien(ordner_);
         if (const auto stoerung = materialien.stoerung()) return scheitere(*stoerung);
         w_->eigeneMaterialien = std::move(materialien.wert);
         for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), *w_))

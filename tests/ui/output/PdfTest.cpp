@@ -5,7 +5,6 @@
 #include "files/Projektliste.h"
 #include "report/Bericht.h"
 #include "support/Gerechnet.h"
-#include "ui/basics/Materialtabelle.h"
 #include "ui/output/Druckpuffer.h"
 #include "ui/output/PdfAusgabe.h"
 #include "ui/output/PdfBefehl.h"
@@ -190,7 +189,7 @@ TEST_F(Pdfausgabe, TheCommandTakesTheMaterialsTheWindowTakesAndWritesNone) {
     EXPECT_FALSE(std::filesystem::exists(tabelle));
     programm.w = Wand();
     setzeVorgaben(programm.w);
-    programm.w.eigeneMaterialien = ladeEigeneMaterialien(tabelle).wert;
+    programm.w.eigeneMaterialien = ladeEigeneMaterialien(programm.ordner).wert;
     rechne("eigenes_material");
     EXPECT_EQ(ohneDatum(inhalt(datei("aus.pdf"))), ohneDatum(pdf(programm.w, ausdruck()).bytes));
 }
