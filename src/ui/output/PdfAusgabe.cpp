@@ -5,7 +5,9 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QUuid>
 
+#include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/output/Seitenmaler.h"
@@ -66,6 +68,10 @@ Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
     schreiber.setResolution(aufloesung);
     schreiber.setTitle(dokumenttitel(w));
     schreiber.setCreator(QStringLiteral("Rippenscheibe"));
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    // Newer Qt gives each document a random number; the same position gives the same file.
+    schreiber.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(positionstext(w))));
+#endif
     aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { datei.ergebnis = setze(f, w, ausdruck); });
     return datei;
 }
