@@ -105,7 +105,10 @@ std::optional<Dateifehler> ueberschreibeMitKopie(const fs::path& datei, const fs
         return Dateifehler{"Die Datei \"" + pfadtext(datei) +
                            "\" kann nicht geschrieben werden: der Ordner \"" + pfadtext(kopienordner) +
                            "\" nimmt keine Sicherheitskopie auf."};
-    if (auto kopiefehler = platz->schreibe({pfadtext(ganz), alt.bytes})) return kopiefehler;
+    if (auto kopiefehler = platz->schreibe({pfadtext(ganz), alt.bytes})) {
+        platz->loesche();  // the file was not touched
+        return kopiefehler;
+    }
     const int schreibfehler = plattform::ueberschreibe(ziel, bytes);
     if (schreibfehler == 0 || plattform::ueberschreibe(ziel, alt.bytes) == 0) {
         platz->loesche();
