@@ -35,7 +35,7 @@ constexpr std::array<Art, 6> arten{{{"ENOSPC", ENOSPC},
                                     {"kill behind", toetenDabei}}};
 
 template <class Funktion>
-Funktion* ausSchale(Funktion* /*gleichen Namens*/, const char* name) {
+Funktion* ausSchale(const char* name) {
     return reinterpret_cast<Funktion*>(::dlsym(RTLD_DEFAULT, name));
 }
 
@@ -92,8 +92,8 @@ class Versuch {
         if (::pipe(rohr.data()) != 0) throw std::runtime_error("pipe");
         const pid_t kind = ::fork();
         if (kind == 0) {
-            static auto* const beginne = ausSchale(&fehlerschale_beginne, "fehlerschale_beginne");
-            static auto* const gezaehlt = ausSchale(&fehlerschale_gezaehlt, "fehlerschale_gezaehlt");
+            static auto* const beginne = ausSchale<decltype(fehlerschale_beginne)>("fehlerschale_beginne");
+            static auto* const gezaehlt = ausSchale<decltype(fehlerschale_gezaehlt)>("fehlerschale_gezaehlt");
             beginne(ordner_.c_str(), n, art);
             const bool gut = schreiber_.schreibe(ordner_);
             const int rufe = gezaehlt();
@@ -191,6 +191,6 @@ void probiere(const Schreiber& schreiber, const fs::path& ordner, Protokoll& pro
 
 fs::path kopienordner(const fs::path& ordner) { return ordner / "programm"; }
 
-bool schaleGeladen() { return ausSchale(&fehlerschale_beginne, "fehlerschale_beginne") != nullptr; }
+bool schaleGeladen() { return ausSchale<decltype(fehlerschale_beginne)>("fehlerschale_beginne") != nullptr; }
 
 }  // namespace rippenscheibe::tests
