@@ -23,8 +23,9 @@ struct Kapitel {
     const char* titel;
 };
 
-constexpr std::array<Kapitel, 15> kapitelliste{{
+constexpr std::array<Kapitel, 16> kapitelliste{{
     {"inhalt", "Inhalt"},
+    {"grenzen", "Grenzen und Verantwortung"},
     {"erste-schritte", "Erste Schritte"},
     {"hauptfenster", "Hauptfenster"},
     {"rippen", "Rippen"},
