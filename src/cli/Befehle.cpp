@@ -90,6 +90,23 @@ class Arbeit {
         return hoehere(leiteDateiHer(auftrag_.dateien.front(), *wand), schreibeZieldatei());
     }
 
+    // The verbs that compute many walls. Each file is read on its own, as after program start.
+    Rueckgabe studie() {
+        if (!ladeMaterialien()) return Rueckgabe::dateifehler;
+        std::vector<fs::path> dateien = auftrag_.dateien;
+        if (auftrag_.vorlage) dateien.push_back(*auftrag_.vorlage);
+        std::vector<Vorlage> vorlagen;
+        for (const fs::path& datei : dateien) {
+            const auto wand = frischeWand();
+            if (!lade(datei, *wand)) return Rueckgabe::dateifehler;
+            vorlagen.push_back({pfadtext(datei), eingaben_});
+        }
+        const Rueckgabe rueckgabe =
+            fuehreStudieAus({auftrag_, ausgaben_, materialien_, programmordner_, std::move(vorlagen),
+                             [this](std::string_view text) { gibAus(text); }});
+        return hoehere(rueckgabe, schreibeZieldatei());
+    }
+
   private:
     // The derivation of the last run; the runs before it only leave their results.
     Rueckgabe leiteDateiHer(const fs::path& datei, Wand& w) {
@@ -154,6 +171,7 @@ class Arbeit {
         }
         gelesen_ = true;
         for (const Uebersprungen& feld : liesPositionstext(text, w)) melde(datei, beschreibung(feld));
+        eingaben_ = w;
         const Grundmasse felder = grundmasse(w);
         zuweisen(w, felder);
         return felder;
@@ -271,6 +289,7 @@ class Arbeit {
     const fs::path& programmordner_;
     const Ausgaben& ausgaben_;
     EigeneMaterialien materialien_;
+    Eingaben eingaben_;  // of the last position, as they were read
     std::string zieldatei_;
     bool gelesen_ = false;  // a position could be read
     Fliesstext berichte_;
@@ -293,6 +312,8 @@ Rueckgabe fuehreAus(const Auftrag& auftrag, const fs::path& programmordner, cons
             return arbeit.felder();
         case Befehl::herleite:
             return arbeit.herleite();
+        case Befehl::stapel:
+            return arbeit.studie();
     }
     return Rueckgabe::aufruf;
 }

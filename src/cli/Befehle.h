@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string_view>
@@ -12,6 +13,10 @@ namespace rippenscheibe {
 struct Ausgaben {
     std::function<void(std::string_view)> standard;
     std::function<void(std::string_view)> meldungen;
+    // The streams of a filter: bytes of the standard input (0 at its end), and output that is handed on at
+    // once (false when nobody reads it any more).
+    std::function<std::size_t(char*, std::size_t)> lies{};
+    std::function<bool(std::string_view)> strom{};
 };
 
 // Carries a command out. `programmordner` is where the own materials lie when the command names none.

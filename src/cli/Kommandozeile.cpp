@@ -195,6 +195,25 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     fuegeLaeufeHinzu(herleite, auftrag.laeufe);
     fuegeWahlHinzu(herleite, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
     fuegeDateiHinzu(herleite, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+    fuegeStudienHinzu(
+        {[&](const std::string& name, const std::string& erklaerung, int welcher) -> CLI::App& {
+             return befehl(name, erklaerung, static_cast<Befehl>(welcher));
+         },
+         [&](CLI::App& verb) { fuegeDateienHinzu(verb, auftrag.dateien, true); },
+         [&](CLI::App& verb) {
+             fuegeDateiHinzu(
+                 verb, "--vorlage", auftrag.vorlage,
+                 "Position, deren Eingaben gelten, wo eine Zeile nichts sagt (sonst die Vorgaben)");
+         },
+         [&](CLI::App& verb) {
+             fuegeDateiHinzu(verb, "--material", auftrag.material,
+                             "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
+         },
+         [&](CLI::App& verb) { fuegeLaeufeHinzu(verb, auftrag.laeufe); },
+         [&](CLI::App& verb) {
+             fuegeDateiHinzu(verb, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+         }},
+        auftrag.studie);
 
     try {
         app.parse(std::vector<std::string>(angaben.rbegin(), angaben.rend()));

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/Herleitung.h"
+#include "cli/Studie.h"
 #include "report/Bericht.h"
 #include "run/Berechnungslauf.h"
 
@@ -16,7 +17,7 @@ namespace rippenscheibe {
 // What the program tells its caller; with several files the highest.
 enum class Rueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
 
-enum class Befehl { rechne, pruefe, neu, uebertrage, felder, herleite };
+enum class Befehl { rechne, pruefe, neu, uebertrage, felder, herleite, stapel };
 enum class Ausgabeart { text, rtf, json };
 enum class Zustand { jeDatei, gemeinsam };  // a fresh position for each file, or one for all
 
@@ -32,6 +33,8 @@ struct Auftrag {
     Hinweisbehandlung hinweise = Hinweisbehandlung::beachten;
     char dezimalzeichen = ',';
     Herleitungswahl herleitung;
+    std::optional<std::filesystem::path> vorlage;  // of a stream
+    Studienauftrag studie;
     std::optional<std::filesystem::path> nach;  // write there instead of standard output
 };
 

@@ -1,3 +1,7 @@
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -14,6 +18,36 @@ namespace {
 
 using namespace rippenscheibe;
 
+bool niemandLiest = false;  // the reader of a pipe is gone: no fault of ours
+bool eingabeUnlesbar = false;
+
+// Hands on what was written so far; false when it did not arrive.
+bool raeume() {
+    errno = 0;
+    const bool gelungen = std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+    niemandLiest = niemandLiest || errno == EPIPE;
+    return gelungen;
+}
+
+// What the standard input has, at least one byte; 0 at its end or when it cannot be read.
+std::size_t liesEingabe(char* puffer, std::size_t groesse) {
+    while (true) {
+        const ssize_t gelesen = ::read(STDIN_FILENO, puffer, groesse);
+        if (gelesen >= 0) return static_cast<std::size_t>(gelesen);
+        if (errno == EINTR) continue;
+        eingabeUnlesbar = true;
+        return 0;
+    }
+}
+
+// Writes through to whoever reads; false when nobody does any more.
+bool reicheWeiter(std::string_view text) {
+    errno = 0;
+    schreibe(stdout, text);
+    niemandLiest = niemandLiest || errno == EPIPE;
+    return raeume();
+}
+
 Rueckgabe laufe(const std::vector<std::string>& angaben) {
     const auto gelesen = liesKommandozeile(angaben);
     if (const auto* auskunft = std::get_if<Auskunft>(&gelesen)) {
@@ -21,7 +55,7 @@ Rueckgabe laufe(const std::vector<std::string>& angaben) {
         return auskunft->rueckgabe;
     }
     const Ausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
-                            [](std::string_view text) { schreibe(stderr, text); }};
+                            [](std::string_view text) { schreibe(stderr, text); }, liesEingabe, reicheWeiter};
     return fuehreAus(std::get<Auftrag>(gelesen), programmordner(), ausgaben);
 }
 
@@ -29,10 +63,15 @@ Rueckgabe laufe(const std::vector<std::string>& angaben) {
 
 int main(int argc, char** argv) {
     bereiteProzessVor();
+    std::signal(SIGPIPE, SIG_IGN);
     Rueckgabe rueckgabe = laufe(plattform::angaben(argc, argv));
     // A report that did not arrive whole must not look like one.
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    if (!raeume() && !niemandLiest) {
         schreibe(stderr, "Die Ausgabe kann nicht geschrieben werden.\n");
+        rueckgabe = Rueckgabe::dateifehler;
+    }
+    if (eingabeUnlesbar) {
+        schreibe(stderr, "Die Standardeingabe kann nicht gelesen werden.\n");
         rueckgabe = Rueckgabe::dateifehler;
     }
     return static_cast<int>(rueckgabe);

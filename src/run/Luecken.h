@@ -29,6 +29,7 @@ class Lueckenmenge {
   public:
     void nimmAuf(Lueckenart art) { bits_ |= bit(art); }
     void nimmAus(Lueckenart art) { bits_ &= ~bit(art); }
+    void vereinige(Lueckenmenge andere) { bits_ |= andere.bits_; }
     bool enthaelt(Lueckenart art) const { return (bits_ & bit(art)) != 0; }
     bool leer() const { return bits_ == 0; }
     std::vector<Lueckenart> arten() const;

@@ -24,15 +24,23 @@ class Zufallswaende {
         e.NKLRippen = ganz(1, 2);
         e.Einseitig = jeder(3);
         for (const Seite n : beideSeiten) {
-            e.Material[n] = ganz(1, 12);
+            e.Material[n] = jeder(4) ? ganz(1, 12) : ganz(1, 2);
             e.Gestossen[n] = jeder(5);
             e.Plattenbreite[n] = aus({1200, 1250, 2500});
             e.NKLBeplankung[n] = ganz(1, 2);
-            e.VMArt[n] = ganz(1, 8);
             e.VMKlasse[n] = ganz(1, 9);
-            e.av[n] = aus({35, 50, 60, 75, 100, 150});
-            e.d[n] = aus({1.53, 2.5, 2.8, 4});
-            e.ln[n] = aus({45, 50, 60, 70});
+            e.av[n] = aus({60, 60, 75, 100, 150});
+            if (jeder(4)) {
+                e.VMArt[n] = ganz(1, 8);
+                e.d[n] = aus({1.53, 2.5, 2.8, 4});
+                e.ln[n] = aus({45, 50, 60, 70});
+                e.fuk[n] = aus({400, 600, 900});
+            } else if (jeder(2)) {
+                e.VMArt[n] = 3;
+                e.d[n] = 1.53;
+                e.ln[n] = 50;
+                e.fuk[n] = 900;
+            }
             e.dk[n] = 2 * Zahl(e.d[n]);
             e.Vorgebohrt[n] = jeder(6);
             e.Zweireihig[n] = jeder(6);

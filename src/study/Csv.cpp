@@ -1,0 +1,110 @@
+#include "study/Csv.h"
+
+#include <algorithm>
+
+namespace rippenscheibe {
+
+namespace {
+
+bool istZahl(std::string_view text) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
+        return (c >= '0' && c <= '9') || c == '.' || c == ',' || c == '-' || c == '+' || c == 'e';
+    });
+}
+
+// Characters, not bytes.
+std::size_t breite(std::string_view text) {
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+}  // namespace
+
+std::optional<std::vector<std::string>> zellenAus(std::string_view zeile, const Csvform& form) {
+    std::vector<std::string> zellen(1);
+    std::size_t i = 0;
+    while (i < zeile.size()) {
+        if (zeile[i] == '"' && zellen.back().empty()) {
+            for (++i;; ++i) {
+                if (i >= zeile.size()) return std::nullopt;
+                if (zeile[i] != '"') {
+                    zellen.back() += zeile[i];
+                } else if (i + 1 < zeile.size() && zeile[i + 1] == '"') {
+                    zellen.back() += zeile[++i];
+                } else {
+                    break;
+                }
+            }
+            ++i;
+            if (i < zeile.size() && zeile[i] != form.trenner) return std::nullopt;
+        } else if (zeile[i] == form.trenner) {
+            zellen.emplace_back();
+            ++i;
+        } else {
+            zellen.back() += zeile[i++];
+        }
+    }
+    return zellen;
+}
+
+std::string csvZeile(std::span<const std::string> zellen, const Csvform& form) {
+    std::string zeile;
+    for (const std::string& zelle : zellen) {
+        if (&zelle != zellen.data()) zeile += form.trenner;
+        if (zelle.find_first_of(std::string("\"\r\n") + form.trenner) == std::string::npos) {
+            zeile += zelle;
+            continue;
+        }
+        zeile += '"';
+        for (const char c : zelle) zeile.append(c == '"' ? 2 : 1, c);
+        zeile += '"';
+    }
+    return zeile + '\n';
+}
+
+std::string mitPunkt(std::string_view zahl, const Csvform& form) {
+    std::string text(zahl);
+    if (form.dezimal != '.') std::replace(text.begin(), text.end(), form.dezimal, '.');
+    return text;
+}
+
+std::string mitDezimalzeichen(std::string zahl, const Csvform& form) {
+    if (form.dezimal != '.' && istZahl(zahl)) std::replace(zahl.begin(), zahl.end(), '.', form.dezimal);
+    return zahl;
+}
+
+std::vector<std::string_view> zeilenVon(std::string_view text) {
+    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+    std::vector<std::string_view> zeilen;
+    while (!text.empty()) {
+        const std::size_t ende = text.find('\n');
+        std::string_view zeile = text.substr(0, ende);
+        if (zeile.ends_with('\r')) zeile.remove_suffix(1);
+        zeilen.push_back(zeile);
+        if (ende == std::string_view::npos) break;
+        text.remove_prefix(ende + 1);
+    }
+    return zeilen;
+}
+
+std::string alsTabelle(std::span<const std::vector<std::string>> zeilen) {
+    std::vector<std::size_t> breiten;
+    for (const auto& zeile : zeilen) {
+        breiten.resize(std::max(breiten.size(), zeile.size()));
+        for (std::size_t i = 0; i < zeile.size(); ++i) breiten[i] = std::max(breiten[i], breite(zeile[i]));
+    }
+    std::string text;
+    for (const auto& zeile : zeilen) {
+        std::string ausgabe;
+        for (std::size_t i = 0; i < zeile.size(); ++i) {
+            const std::string luft(breiten[i] - breite(zeile[i]), ' ');
+            ausgabe += istZahl(zeile[i]) ? luft + zeile[i] : zeile[i] + luft;
+            ausgabe += "  ";
+        }
+        ausgabe.erase(ausgabe.find_last_not_of(' ') + 1);
+        text += ausgabe + '\n';
+    }
+    return text;
+}
+
+}  // namespace rippenscheibe

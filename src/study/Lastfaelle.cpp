@@ -1,0 +1,140 @@
+#include "study/Lastfaelle.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr std::array<std::string_view, 9> spalten{"Lastfall", "KLED",     "Fvk",  "gk",  "qk",
+                                                  "wk",       "WindQuer", "Fcgk", "Fcqk"};
+constexpr std::string_view namensspalte = "name";
+
+enum Fall { horizontal = 1, vertikal = 2, beide = 3 };
+enum Dauer { staendig = 1, mittel = 3, kurz = 4 };
+
+std::string ort(std::size_t zeile) { return "Zeile " + std::to_string(zeile) + ": "; }
+
+std::string zellentext(const Feldwert& wert) {
+    if (const bool* wahr = std::get_if<bool>(&wert)) return *wahr ? "1" : "0";
+    if (const double* zahl = std::get_if<double>(&wert)) return zahltext(*zahl);
+    return std::get<std::string>(wert);
+}
+
+// A truth value of a table may be 0, 1, ja or nein too.
+std::string wahrheitswert(const std::string& zelle) {
+    if (zelle == "1" || zelle == "ja") return "true";
+    if (zelle == "0" || zelle == "nein") return "false";
+    return zelle;
+}
+
+Lastfallzeile zeileMit(std::string name, const Eingaben& w, int lastfall, int kled, double Fvk, bool voll,
+                       double wk) {
+    const bool lasten = lastfall != horizontal;
+    const auto wert = [](double last, bool wirkt) { return Feldwert(wirkt ? last : 0.0); };
+    Lastfallzeile zeile{std::move(name), {}};
+    const auto setze = [&](std::string_view feld, Feldwert gesetzt) {
+        zeile.werte.emplace_back(eingabeindex(feld), std::move(gesetzt));
+    };
+    setze("Lastfall", static_cast<double>(lastfall));
+    setze("KLED", static_cast<double>(kled));
+    setze("Fvk", Fvk);
+    setze("gk", wert(w.gk.value(), lasten));
+    setze("qk", wert(wieGetippt(w.qk.value()), lasten && voll));
+    setze("wk", wk);
+    setze("WindQuer", wk != 0);
+    setze("Fcgk", wert(w.Fcgk.value(), lasten));
+    setze("Fcqk", wert(wieGetippt(w.Fcqk.value()), lasten && voll));
+    return zeile;
+}
+
+}  // namespace
+
+std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_view text,
+                                                                    const Csvform& form) {
+    std::vector<Lastfallzeile> faelle;
+    std::vector<std::string> kopf;
+    std::size_t nummer = 0;
+    for (const std::string_view zeile : zeilenVon(text)) {
+        ++nummer;
+        if (zeile.empty()) continue;
+        const auto zellen = zellenAus(zeile, form);
+        if (!zellen) return ort(nummer) + "Anführungszeichen nicht geschlossen";
+        if (kopf.empty()) {
+            kopf = *zellen;
+            for (const std::string& spalte : kopf)
+                if (spalte != namensspalte &&
+                    std::find(spalten.begin(), spalten.end(), spalte) == spalten.end())
+                    return ort(nummer) + "unbekannte Spalte \"" + spalte + "\"";
+            continue;
+        }
+        if (zellen->size() != kopf.size())
+            return ort(nummer) + std::to_string(zellen->size()) + " Werte statt " +
+                   std::to_string(kopf.size());
+        Lastfallzeile fall{"Lastfall " + std::to_string(faelle.size() + 1), {}};
+        for (std::size_t i = 0; i < kopf.size(); ++i) {
+            const std::string& zelle = (*zellen)[i];
+            if (kopf[i] == namensspalte && !zelle.empty()) fall.name = zelle;
+            if (kopf[i] == namensspalte || zelle.empty()) continue;
+            const int index = eingabeindex(kopf[i]);
+            const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(index)];
+            const std::string geschrieben =
+                feld.typ == Feldart::wahr ? wahrheitswert(zelle) : mitPunkt(zelle, form);
+            const auto wert = feldwertAus(feld, geschrieben);
+            if (const auto satz = einwand(feld, wert.value_or(Feldwert(zelle)),
+                                          wert ? zelle : "\"" + zelle + "\"", Grenzen::beachten))
+                return ort(nummer) + *satz;
+            fall.werte.emplace_back(index, *wert);
+        }
+        faelle.push_back(std::move(fall));
+    }
+    if (faelle.empty()) return "kein Lastfall";
+    return faelle;
+}
+
+std::string lastfaelletext(const std::vector<Lastfallzeile>& faelle, const Csvform& form) {
+    std::vector<std::string> zellen{std::string(namensspalte)};
+    zellen.insert(zellen.end(), spalten.begin(), spalten.end());
+    std::string text = csvZeile(zellen, form);
+    for (const Lastfallzeile& fall : faelle) {
+        zellen.assign({fall.name});
+        for (const std::string_view spalte : spalten) {
+            const auto gesetzt = std::find_if(fall.werte.begin(), fall.werte.end(),
+                                              [&](const auto& w) { return w.first == eingabeindex(spalte); });
+            zellen.push_back(
+                gesetzt == fall.werte.end() ? "" : mitDezimalzeichen(zellentext(gesetzt->second), form));
+        }
+        text += csvZeile(zellen, form);
+    }
+    return text;
+}
+
+std::vector<Lastfallzeile> vorgeschlageneLastfaelle(const Eingaben& w) {
+    const bool vertikaleLast = w.gk != 0 || w.qk != 0 || w.Fcgk != 0 || w.Fcqk != 0;
+    const double Fvk = std::fabs(wieGetippt(w.Fvk.value()));
+    const double wk = std::fabs(wieGetippt(w.wk.value()));
+    std::vector<Lastfallzeile> faelle;
+    const int mitLast = vertikaleLast ? beide : horizontal;
+    if (Fvk != 0) {
+        for (const bool voll : {true, false}) {
+            if (!vertikaleLast && !voll) continue;
+            const std::string last = !vertikaleLast ? "" : voll ? ", volle Last" : ", kleinste Last";
+            faelle.push_back(zeileMit("Fv nach rechts" + last, w, mitLast, kurz, Fvk, voll, 0));
+            faelle.push_back(zeileMit("Fv nach links" + last, w, mitLast, kurz, -Fvk, voll, 0));
+        }
+    }
+    if (vertikaleLast) {
+        faelle.push_back(zeileMit("Vertikallast mittel", w, vertikal, mittel, 0, true, 0));
+        faelle.push_back(zeileMit("Vertikallast ständig", w, vertikal, staendig, 0, false, 0));
+    }
+    if (wk != 0) {
+        const int fall = vertikaleLast ? vertikal : horizontal;
+        faelle.push_back(zeileMit("Winddruck", w, fall, kurz, 0, true, wk));
+        faelle.push_back(zeileMit("Windsog", w, fall, kurz, 0, true, -wk));
+    }
+    return faelle;
+}
+
+}  // namespace rippenscheibe

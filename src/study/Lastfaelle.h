@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "study/Bewertung.h"
+#include "study/Csv.h"
+
+// The load cases of a wall: a table beside the position, never in it. A run proves one load duration, so that
+// a wall needs a case for each. Columns: name, Lastfall, KLED, Fvk, gk, qk, wk, WindQuer, Fcgk, Fcqk.
+
+namespace rippenscheibe {
+
+// A table from the text of a file; a sentence with the line when it cannot be read. Columns may be left out,
+// their fields keep the value of the position; an empty cell does so too.
+std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_view text,
+                                                                    const Csvform& form = {});
+std::string lastfaelletext(const std::vector<Lastfallzeile>& faelle, const Csvform& form = {});
+
+// Proposed cases of a wall: both directions of Fv with full and with the smallest vertical load, the vertical
+// load alone with medium and permanent duration, pressure and suction of the wind across the wall. What the
+// wall does not carry is left out.
+std::vector<Lastfallzeile> vorgeschlageneLastfaelle(const Eingaben& wand);
+
+}  // namespace rippenscheibe

@@ -1,0 +1,123 @@
+#include "study/Preise.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "model/Kataloge.h"
+#include "study/Felder.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+std::string_view plattenname(const Wand& w, Seite n) {
+    constexpr int eigenes = 13;
+    if (w.Material[n].value() < eigenes) return eintrag(Plattenmaterialien(), w.Material[n].value());
+    const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);
+    return name != nullptr ? std::string_view(*name) : std::string_view("freies Material");
+}
+
+double dicke(const Wand& w, Seite n) {
+    return n == Seite::eins ? w.Plattendicke1.value() : static_cast<double>(w.Plattendicke2.value());
+}
+
+std::string_view holzname(const Wand& w) { return eintrag(Holzarten(), w.Holzart.value()); }
+std::string_view vmName(const Wand& w, Seite n) { return eintrag(VMArten(), w.VMArt[n].value()); }
+std::string_view ankername(const Wand& w) {
+    constexpr int frei = 13;
+    if (w.Ankertyp == frei) return w.FreierAnkerName;
+    const std::string_view name = eintrag(Ankernamen(), w.Ankertyp.value());
+    return name.substr(name.rfind(' ') + 1);
+}
+
+bool beplankt(const Wand& w, Seite n) { return n == Seite::eins || !w.Einseitig; }
+
+}  // namespace
+
+std::variant<Preise, std::string> Preise::aus(std::string_view text, const Csvform& form) {
+    Preise preise;
+    std::size_t nummer = 0;
+    bool kopf = true;
+    for (const std::string_view zeile : zeilenVon(text)) {
+        const std::string ort = "Zeile " + std::to_string(++nummer) + ": ";
+        if (zeile.starts_with('#') && preise.herkunft_.empty())
+            preise.herkunft_ = zeile.substr(std::min<std::size_t>(2, zeile.size()));
+        if (zeile.empty() || zeile.starts_with('#')) continue;
+        if (std::exchange(kopf, false)) continue;
+        const auto zellen = zellenAus(zeile, form);
+        if (!zellen || zellen->size() < 4) return ort + "erwartet Art;Name;Dicke;Preis";
+        const auto zahl = [&](std::size_t spalte) {
+            const auto wert = feldwertAus({{}, Feldart::f64, {}}, mitPunkt((*zellen)[spalte], form));
+            return wert ? std::optional(std::get<double>(*wert)) : std::nullopt;
+        };
+        const auto preis = zahl(3);
+        if (!preis || !(*preis > 0)) return ort + "\"" + (*zellen)[3] + "\" ist kein Preis";
+        const std::string& art = zellen->front();
+        const std::string& name = (*zellen)[1];
+        if (art == "Platte") {
+            const auto mm = zahl(2);
+            if (!mm) return ort + "\"" + (*zellen)[2] + "\" ist keine Dicke";
+            preise.platten_.push_back({name, *mm, *preis});
+        } else if (art == "Holz") {
+            preise.holz_.push_back({name, *preis});
+        } else if (art == "Verbindungsmittel") {
+            preise.verbindungsmittel_.push_back({name, *preis});
+        } else if (art == "Anker") {
+            preise.anker_.push_back({name, *preis});
+        } else {
+            return ort + "\"" + art + "\" ist keine Art (Platte, Holz, Verbindungsmittel, Anker)";
+        }
+    }
+    return preise;
+}
+
+const Preise::Preis* Preise::suche(const std::vector<Preis>& preise, std::string_view name) {
+    const auto treffer =
+        std::find_if(preise.begin(), preise.end(), [&](const Preis& p) { return p.name == name; });
+    return treffer == preise.end() ? nullptr : &*treffer;
+}
+
+const Preise::Plattenpreis* Preise::platte(const Wand& w, Seite n) const {
+    const auto treffer = std::find_if(platten_.begin(), platten_.end(), [&](const Plattenpreis& p) {
+        return p.material == plattenname(w, n) && std::fabs(p.dicke - dicke(w, n)) < 1e-4;
+    });
+    return treffer == platten_.end() ? nullptr : &*treffer;
+}
+
+std::optional<double> Preise::kosten(const Wand& w, const Reihenregel& regel) const {
+    const Mengensummen m = mengensummen(w, regel);
+    const Preis* const holz = suche(holz_, holzname(w));
+    if (holz == nullptr) return std::nullopt;
+    double summe = m.holz * holz->preis;
+    for (const Seite n : beideSeiten) {
+        if (!beplankt(w, n)) continue;
+        const Plattenpreis* const tafel = platte(w, n);
+        const Preis* const vm = suche(verbindungsmittel_, vmName(w, n));
+        if (tafel == nullptr || vm == nullptr) return std::nullopt;
+        summe += m.platten[n] * tafel->preis + m.verbindungsmittel[n] * vm->preis;
+    }
+    if (m.anker > 0) {
+        const Preis* const anker = suche(anker_, ankername(w));
+        if (anker == nullptr) return std::nullopt;
+        summe += m.anker * anker->preis;
+    }
+    return std::nearbyint(summe * 100) / 100;
+}
+
+std::string Preise::fehlenderPreis(const Wand& w) const {
+    const auto satz = [](std::string_view was, std::string_view name) {
+        return "kein Preis für " + std::string(was) + " \"" + std::string(name) + "\"";
+    };
+    if (suche(holz_, holzname(w)) == nullptr) return satz("Holz", holzname(w));
+    for (const Seite n : beideSeiten) {
+        if (!beplankt(w, n)) continue;
+        if (platte(w, n) == nullptr)
+            return satz("Platte", plattenname(w, n)) + " mit " + zahltext(dicke(w, n)) + " mm";
+        if (suche(verbindungsmittel_, vmName(w, n)) == nullptr)
+            return satz("Verbindungsmittel", vmName(w, n));
+    }
+    return satz("Anker", ankername(w));
+}
+
+}  // namespace rippenscheibe
