@@ -175,22 +175,18 @@ QString ankerzeile(const Wand& w, Ankergruppe gruppe) {
 
 }  // namespace
 
-void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe) {
+void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe, Ankerplatz platz) {
     const double t = z.t();
     const QRectF r = z.flaeche();
     const Ankerform a = form(gruppe);
     const Naegel n = naegel(w, gruppe);
-    // In the report the line that names the anchor runs into the picture, 14 mm below its top: the sketch
-    // starts beneath it.
-    const double oben = r.height() > 30.0 * t ? 10.4 * t : 5.4 * t;
-    const Fuss f{r.height() - 11.0 * t - 1.6 * t, r.height() - 9.6 * t, oben, r.height() - 4.6 * t};
+    // In the report a line of text runs into the picture, 14 mm below its top: the sketch starts beneath it.
+    const double oben = platz == Ankerplatz::bericht && r.height() > 30.0 * t ? 10.4 * t : 4.4 * t;
+    const Fuss f{r.height() - 14.2 * t, r.height() - 11.2 * t, oben, r.height() - 6.2 * t};
     if (f.ok - f.oben < 4.0 * t || r.width() < 16.0 * t) return z.satzImRahmen(ankerkurzname(w));
     const double halb = (r.width() - 4.0 * t) / 2.0;
     const double rippe = std::min(0.48 * halb, 6.0 * t);
 
-    const Textart titel{1.05, true, {}};
-    z.textPassend({r.width() / 2.0, 1.4 * t}, ankerzeile(w, gruppe), Qt::AlignHCenter, r.width() - 2.0 * t,
-                  titel);
     const QRectF links(1.5 * t, 0.0, halb, r.height());
     const QRectF rechts(r.width() - 1.0 * t - halb, 0.0, halb, r.height());
     seitenansicht(z, links, f, a, rippe);
@@ -211,7 +207,10 @@ void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe) {
            {0.9, false, z.stil().nebentinte});
     z.text({rechts.center().x(), grund}, QStringLiteral("Ansicht"), Qt::AlignHCenter,
            {0.9, false, z.stil().nebentinte});
-    z.text({r.width() / 2.0, r.height() - 0.8 * t},
+    // The name stands with what it belongs to.
+    z.textPassend({r.width() / 2.0, r.height() - 2.3 * t}, ankerzeile(w, gruppe), Qt::AlignHCenter,
+                  r.width() - 2.0 * t, {1.05, true, {}});
+    z.text({r.width() / 2.0, r.height() - 0.7 * t},
            QStringLiteral("%1 × Rd = %2 kN je Wandende")
                .arg(w.AnzahlAnker.value())
                .arg(z.zahl("0.00", w.RdAnker.value())),

@@ -1,10 +1,9 @@
 #include "ui/drawings/Ausgabe.h"
 
 #include <QBuffer>
+#include <QPdfWriter>
 #include <QSvgGenerator>
 #include <cmath>
-
-#include "files/Dateischreiber.h"
 
 namespace rippenscheibe {
 
@@ -15,9 +14,16 @@ constexpr double groessteKante = 20000.0;  // pixels
 
 }  // namespace
 
-QImage bild(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Zeichenstil& stil) {
+Bildvorlage bildvorlage(Zeichnung was, const Wand& w) {
+    return {[was, w](QPainter& painter, const QRectF& flaeche, const Zeichenstil& stil) {
+                zeichne(painter, flaeche, was, w, stil);
+            },
+            groesse(was), titel(was)};
+}
+
+QImage bild(const Bildvorlage& vorlage, double aufloesung, const Zeichenstil& stil) {
     const double punkte = aufloesung / mmJeZoll;
-    const QSizeF kanten = mm * punkte;
+    const QSizeF kanten = vorlage.mm * punkte;
     const auto brauchbar = [](double x) { return x >= 1.0 && x <= groessteKante; };
     if (!brauchbar(kanten.width()) || !brauchbar(kanten.height())) return {};
     QImage bild(kanten.toSize(), QImage::Format_RGB32);
@@ -28,12 +34,12 @@ QImage bild(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Ze
     Zeichenstil inPunkten = stil;
     inPunkten.mm = punkte;
     QPainter painter(&bild);
-    zeichne(painter, QRectF(QPointF(0.0, 0.0), kanten), was, w, inPunkten);
+    vorlage.zeichne(painter, QRectF(QPointF(0.0, 0.0), kanten), inPunkten);
     return bild;
 }
 
-QByteArray png(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Zeichenstil& stil) {
-    const QImage image = bild(was, w, mm, aufloesung, stil);
+QByteArray png(const Bildvorlage& vorlage, double aufloesung, const Zeichenstil& stil) {
+    const QImage image = bild(vorlage, aufloesung, stil);
     QByteArray bytes;
     if (image.isNull()) return bytes;
     QBuffer puffer(&bytes);
@@ -42,37 +48,43 @@ QByteArray png(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const
     return bytes;
 }
 
-QPicture aufzeichnung(Zeichnung was, const Wand& w, QSizeF mm, const Zeichenstil& stil) {
-    QPicture picture;
-    QPainter painter(&picture);
-    zeichne(painter, QRectF(QPointF(0.0, 0.0), mm * stil.mm), was, w, stil);
-    painter.end();
-    return picture;
-}
-
-QByteArray svg(Zeichnung was, const Wand& w, QSizeF mm, const Zeichenstil& stil) {
+QByteArray svg(const Bildvorlage& vorlage, const Zeichenstil& stil) {
     constexpr double einheitenJeMm = 10.0;  // fine enough for the whole numbers of the view box
+    const QRectF flaeche(QPointF(0.0, 0.0), vorlage.mm * einheitenJeMm);
     QByteArray bytes;
     QBuffer puffer(&bytes);
     puffer.open(QIODevice::WriteOnly);
     QSvgGenerator erzeuger;
     erzeuger.setOutputDevice(&puffer);
-    erzeuger.setTitle(QStringLiteral("Rippenscheibe"));
+    erzeuger.setTitle(vorlage.titel);
     erzeuger.setResolution(static_cast<int>(mmJeZoll * einheitenJeMm));
-    erzeuger.setSize((mm * einheitenJeMm).toSize());
-    erzeuger.setViewBox(QRectF(QPointF(0.0, 0.0), mm * einheitenJeMm));
+    erzeuger.setSize(flaeche.size().toSize());
+    erzeuger.setViewBox(flaeche);
     Zeichenstil inEinheiten = stil;
     inEinheiten.mm = einheitenJeMm;
     QPainter painter(&erzeuger);
-    zeichne(painter, QRectF(QPointF(0.0, 0.0), mm * einheitenJeMm), was, w, inEinheiten);
+    vorlage.zeichne(painter, flaeche, inEinheiten);
     painter.end();
     return bytes;
 }
 
-bool speichereSvg(const std::filesystem::path& datei, Zeichnung was, const Wand& w, QSizeF mm,
-                  const Zeichenstil& stil) {
-    const QByteArray bytes = svg(was, w, mm, stil);
-    return !bytes.isEmpty() && !schreibeDauerhaft(datei, bytes.toStdString());
+QByteArray pdf(const Bildvorlage& vorlage, const Zeichenstil& stil) {
+    constexpr int aufloesung = 1200;
+    QByteArray bytes;
+    QBuffer puffer(&bytes);
+    puffer.open(QIODevice::WriteOnly);
+    QPdfWriter schreiber(&puffer);
+    schreiber.setPageSize(QPageSize(vorlage.mm, QPageSize::Millimeter, {}, QPageSize::ExactMatch));
+    schreiber.setPageMargins(QMarginsF());
+    schreiber.setResolution(aufloesung);
+    schreiber.setTitle(vorlage.titel);
+    schreiber.setCreator(QStringLiteral("Rippenscheibe"));
+    Zeichenstil inPunkten = stil;
+    inPunkten.mm = aufloesung / mmJeZoll;
+    QPainter painter(&schreiber);
+    vorlage.zeichne(painter, QRectF(QPointF(0.0, 0.0), vorlage.mm * inPunkten.mm), inPunkten);
+    painter.end();
+    return bytes;
 }
 
 }  // namespace rippenscheibe

@@ -2,11 +2,10 @@
 
 #include <QByteArray>
 #include <QImage>
-#include <QPicture>
-#include <QSize>
+#include <QPainter>
 #include <QSizeF>
 #include <QString>
-#include <filesystem>
+#include <functional>
 
 #include "ui/drawings/Zeichnungen.h"
 
@@ -14,16 +13,22 @@
 
 namespace rippenscheibe {
 
-// The drawing on paper style, `aufloesung` in dots per inch. Empty when the size or the resolution is none.
-QImage bild(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Zeichenstil& stil);
+// A drawing that can be put out: how it is drawn, its usual size on paper in mm, and what it is called.
+struct Bildvorlage {
+    std::function<void(QPainter&, const QRectF&, const Zeichenstil&)> zeichne;
+    QSizeF mm;
+    QString titel;
+};
+Bildvorlage bildvorlage(Zeichnung was, const Wand& w);
+
+// The picture with so many dots per inch, on the ground of the style. Empty when the size or the resolution
+// is none.
+QImage bild(const Bildvorlage& vorlage, double aufloesung, const Zeichenstil& stil);
 // The same as the bytes of a PNG file that states its size.
-QByteArray png(Zeichnung was, const Wand& w, QSizeF mm, double aufloesung, const Zeichenstil& stil);
-// A recording that any painter can play, in units of `stil.mm`.
-QPicture aufzeichnung(Zeichnung was, const Wand& w, QSizeF mm, const Zeichenstil& stil);
-// SVG of the given size in mm, text as text.
-QByteArray svg(Zeichnung was, const Wand& w, QSizeF mm, const Zeichenstil& stil);
-// Writes it to a file; false when that fails, the file is then as it was.
-bool speichereSvg(const std::filesystem::path& datei, Zeichnung was, const Wand& w, QSizeF mm,
-                  const Zeichenstil& stil);
+QByteArray png(const Bildvorlage& vorlage, double aufloesung, const Zeichenstil& stil);
+// SVG of its size, text as text.
+QByteArray svg(const Bildvorlage& vorlage, const Zeichenstil& stil);
+// PDF of one page of its size.
+QByteArray pdf(const Bildvorlage& vorlage, const Zeichenstil& stil);
 
 }  // namespace rippenscheibe

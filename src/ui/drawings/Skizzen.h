@@ -24,7 +24,9 @@ void zeichneBauschnitt(Zeichner& z, const Wand& w, double massstab);
 void zeichneRippen(Zeichner& z, const Wand& w);
 void zeichneBeplankung(Zeichner& z, const Wand& w);
 void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n);
-void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe);
+// In the report the upper edge is left to the text beside the picture.
+enum class Ankerplatz { allein, bericht };
+void zeichneAnker(Zeichner& z, const Wand& w, Ankergruppe gruppe, Ankerplatz platz);
 // Lastfall 1, 2 or 3; the labels carry the values of the record.
 void zeichneLast(Zeichner& z, const Wand& w, int lastfall, bool windQuer);
 void zeichneSchubfluss(Zeichner& z, const Wand& w);

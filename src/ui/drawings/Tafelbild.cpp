@@ -89,44 +89,32 @@ void Tafelbild::stoesse(Seite n) {
 
 // A row of fasteners as one dashed line: a stroke is a fastener, at its real spacing. Where the strokes
 // would run together only every second, third ... is drawn; the legend gives the spacing.
-void Tafelbild::vmReihe(QPointF von, QPointF nach, Seite n) {
+void Tafelbild::vmReihe(const VMReihe& reihe, Seite n) {
     const double engste = art_ == Tafelart::bauzeichnung ? 0.0 : 0.4 / z_.stil().lupe;  // mm, 1.5 pixels
     const double abstand = g_.av[n] * m_.f;
     const double teilung = abstand >= engste ? abstand : abstand * std::ceil(2.0 * engste / abstand);
     const double strich = std::min(0.4 * teilung, 0.35 * z_.t());
     constexpr double dicke = 0.2;
     const QColor farbe = n == Seite::eins ? z_.stil().stahl : z_.stil().plattenkante[n];
+    const QPointF von(m_.x(reihe.x1), m_.y(reihe.y1));
+    const QPointF nach(m_.x(reihe.x2), m_.y(reihe.y2));
     z_.strichreihe(von, nach, {strich, teilung}, dicke, farbe);
-    if (!w_.Zweireihig[n]) return;
+    if (!reihe.zweireihig) return;
     const double versatz = std::max(0.5, 0.2 * z_.t());
-    const QPointF quer = von.y() == nach.y() ? QPointF(0.0, versatz) : QPointF(versatz, 0.0);
+    const QPointF quer = reihe.y1 == reihe.y2 ? QPointF(0.0, versatz) : QPointF(versatz, 0.0);
     z_.strichreihe(von + quer, nach + quer, {strich, teilung, teilung / 2.0}, dicke, farbe);
 }
 
-// Where upright rows stand: on every rib one, beside a joint two.
-std::vector<double> Tafelbild::vmAchsen(Seite n) const {
-    std::vector<double> achsen{g_.bRandrippe / 2.0, g_.l - g_.bRandrippe / 2.0};
-    const auto& stoesse = g_.plattenstoesse[n];
-    for (const double achse : g_.innenrippen) {
-        const bool stoss = std::any_of(stoesse.begin(), stoesse.end(),
-                                       [&](double x) { return std::fabs(x - achse) < g_.bInnenrippe / 2.0; });
-        if (stoss && g_.bInnenrippe * m_.f > 1.6) {
-            achsen.push_back(achse - g_.bInnenrippe / 4.0);
-            achsen.push_back(achse + g_.bInnenrippe / 4.0);
-        } else {
-            achsen.push_back(achse);
-        }
-    }
-    return achsen;
+std::vector<VMReihe> Tafelbild::reihen(Seite n) const {
+    constexpr std::size_t hoechstens = 2000;  // more would only be a grey patch
+    std::vector<VMReihe> reihen = rippenscheibe::vmReihen(w_, n);
+    if (reihen.size() > hoechstens) reihen.clear();
+    return reihen;
 }
 
 void Tafelbild::vmReihen(Seite n) {
     const Ebenenwechsel ebene(z_, Ebene::verbindungsmittel);
-    const double rand = std::min(g_.bKopfFussrippe, g_.bRandrippe) / 2.0;
-    const double oben = g_.h - g_.bKopfFussrippe / 2.0;
-    const double unten = g_.bKopfFussrippe / 2.0;
-    for (const double y : {oben, unten}) vmReihe({m_.x(rand), m_.y(y)}, {m_.x(g_.l - rand), m_.y(y)}, n);
-    for (const double x : vmAchsen(n)) vmReihe({m_.x(x), m_.y(unten)}, {m_.x(x), m_.y(oben)}, n);
+    for (const VMReihe& reihe : reihen(n)) vmReihe(reihe, n);
 }
 
 // Joints and fasteners of a side, as far as its sheathing is shown.
@@ -196,7 +184,7 @@ void Tafelbild::anker() {
     if (art_ == Tafelart::aufgeschnitten && ankernameAmAnker(z_, w_, g_, m_)) ankername();
 }
 
-// Sheathings lie below the ribs here, else no rib could be pointed at; `rippen` tells of those.
+// The upright rows as far as their side is shown, and the anchors.
 void Tafelbild::bauteile() {
     if (art_ != Tafelart::aufgeschnitten) return;
     const double halb = std::clamp(0.2 * g_.bInnenrippe * m_.f, 0.25, 0.6) / z_.stil().lupe;
@@ -204,9 +192,9 @@ void Tafelbild::bauteile() {
         if (n == Seite::zwei && g_.einseitig) continue;
         const QRectF sichtbar = gezeigt(n).boundingRect();
         const QString name = verbindungsmittelzeile(w_, n, z_);
-        for (const double achse : vmAchsen(n)) {
-            const double x = m_.x(achse);
-            if (!sichtbar.contains(QPointF(x, m_.y(g_.h / 2.0)))) continue;
+        for (const VMReihe& reihe : reihen(n)) {
+            const double x = m_.x(reihe.x1);
+            if (reihe.x1 != reihe.x2 || !sichtbar.contains(QPointF(x, m_.y(g_.h / 2.0)))) continue;
             z_.bauteil(QRectF(x - halb, m_.y(g_.h), 2.0 * halb, g_.h * m_.f), Fensterart::verbindungsmittel,
                        name);
         }
@@ -217,6 +205,7 @@ void Tafelbild::bauteile() {
 }
 
 void Tafelbild::zeichne() {
+    // Sheathings lie below the ribs for the pointer, else no rib could be pointed at.
     const auto plattenteil = [&](Seite n) {
         z_.bauteil(gezeigt(n), Fensterart::beplankung, plattenzeile(w_, n, z_));
     };

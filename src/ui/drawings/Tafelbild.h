@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/VMReihen.h"
 #include "ui/drawings/Wandgeometrie.h"
 #include "ui/drawings/Zeichner.h"
 
@@ -40,7 +41,8 @@ class Tafelbild {
     QPolygonF gezeigt(Seite n) const;
     void stoesse(Seite n);
     void vmReihen(Seite n);
-    void vmReihe(QPointF von, QPointF nach, Seite n);
+    void vmReihe(const VMReihe& reihe, Seite n);
+    std::vector<VMReihe> reihen(Seite n) const;
     void stoesseUndReihen(Seite n);
     void marken();
     void anker();
@@ -48,7 +50,6 @@ class Tafelbild {
     void ankername();
     QRectF ankerrechteck(bool links) const;
     void bauteile();
-    std::vector<double> vmAchsen(Seite n) const;
 
     Zeichner& z_;
     const Wand& w_;

@@ -67,6 +67,12 @@ Zeichenstil Zeichenstil::papier(double mm) {
     return s;
 }
 
+Zeichenstil Zeichenstil::aufSchirm() const {
+    Zeichenstil s = *this;
+    s.raster = true;
+    return s;
+}
+
 Zeichenstil Zeichenstil::zuPalette(const QPalette& palette) {
     const QColor grund = palette.color(QPalette::Base);
     Zeichenstil s = grund.lightness() < 128 ? dunkel() : hell();

@@ -20,6 +20,7 @@ struct Zeichenstil {
     QString familie;             // font family, empty: the font of the program
     char dezimalzeichen = ',';
     bool grundFuellen = false;  // paint the ground first
+    bool flaechen = true;       // fill surfaces; without, only outlines are drawn
 
     QColor grund;  // ground and what stands on it
     QColor tinte;
@@ -39,6 +40,8 @@ struct Zeichenstil {
     static Zeichenstil dunkel();
     // Paper: black on white with the fills lightened. `mm` is the painter's unit for one millimetre.
     static Zeichenstil papier(double mm = 1.0);
+    // The same colours on a screen, where lines fill whole pixels.
+    Zeichenstil aufSchirm() const;
     // The screen style that goes with a palette: its ground and ink, dark or light.
     static Zeichenstil zuPalette(const QPalette& palette);
 };

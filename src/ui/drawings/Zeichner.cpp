@@ -128,6 +128,7 @@ void Zeichner::rechteck(const QRectF& r, const QBrush& fuellung, Strich strich, 
 }
 
 void Zeichner::fuelle(const QPolygonF& v, const QColor& farbe) {
+    if (!stil_.flaechen) return;
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(farbe);
     painter_.drawPolygon(v);

@@ -21,6 +21,42 @@ Zeichenstil passend(Zeichnung was, const QRectF& flaeche, Zeichenstil stil) {
 
 }  // namespace
 
+QString titel(Zeichnung was) {
+    switch (was) {
+        case Zeichnung::ansicht:
+            return QStringLiteral("Ansicht und Horizontalschnitt der Wandtafel");
+        case Zeichnung::rippen:
+            return QStringLiteral("Querschnitte der Rippen");
+        case Zeichnung::beplankung:
+            return QStringLiteral("Skizze der Beplankung");
+        case Zeichnung::verbindungsmittel1:
+            return QStringLiteral("Skizze des Verbindungsmittels, Beplankung 1");
+        case Zeichnung::verbindungsmittel2:
+            return QStringLiteral("Skizze des Verbindungsmittels, Beplankung 2");
+        case Zeichnung::anker:
+            return QStringLiteral("Skizze des Zugankers");
+        case Zeichnung::last:
+            return QStringLiteral("Skizze der Belastung");
+        case Zeichnung::schubfluss:
+            return QStringLiteral("Skizze der Beanspruchungen");
+        case Zeichnung::stoesse:
+            return QStringLiteral("Stöße in Wandtafeln");
+        case Zeichnung::oeffnungen:
+            return QStringLiteral("Öffnungen und Aussparungen");
+        case Zeichnung::gruppen:
+            return QStringLiteral("Gruppen von Wandtafeln");
+        case Zeichnung::ueberstand:
+            return QStringLiteral("Überstand der Fußrippe");
+        case Zeichnung::rollbild:
+            return QStringLiteral("Aufbau einer Wandtafel");
+        case Zeichnung::miniatur:
+            return QStringLiteral("Wandtafel");
+        case Zeichnung::startbild:
+            return QStringLiteral("Wandtafel");
+    }
+    return {};
+}
+
 QSizeF groesse(Zeichnung was) {
     switch (was) {
         case Zeichnung::ansicht:
@@ -72,7 +108,7 @@ void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand
         case Zeichnung::verbindungsmittel2:
             return zeichneVerbindungsmittel(z, w, Seite::zwei);
         case Zeichnung::anker:
-            return zeichneAnker(z, w, ankergruppe(w.Ankertyp.value()));
+            return zeichneAnker(z, w, ankergruppe(w.Ankertyp.value()), Ankerplatz::allein);
         case Zeichnung::last:
             return zeichneLast(z, w, w.Lastfall.value(), w.WindQuer);
         case Zeichnung::schubfluss:
@@ -118,13 +154,13 @@ void zeichneBild(QPainter& painter, const QRectF& flaeche, Bild bild, const Wand
         case Bild::schnittkraefte:
             return zeichneSchubfluss(z, w);
         case Bild::ankerHD:
-            return zeichneAnker(z, w, Ankergruppe::HD);
+            return zeichneAnker(z, w, Ankergruppe::HD, Ankerplatz::bericht);
         case Bild::ankerHTT:
-            return zeichneAnker(z, w, Ankergruppe::HTT);
+            return zeichneAnker(z, w, Ankergruppe::HTT, Ankerplatz::bericht);
         case Bild::ankerHD2P:
-            return zeichneAnker(z, w, Ankergruppe::HD2P);
+            return zeichneAnker(z, w, Ankergruppe::HD2P, Ankerplatz::bericht);
         case Bild::ankerHD2PSG:
-            return zeichneAnker(z, w, Ankergruppe::HD2PSG);
+            return zeichneAnker(z, w, Ankergruppe::HD2PSG, Ankerplatz::bericht);
         case Bild::detail1:
             return zeichneStoesse(z);
         case Bild::detail2:

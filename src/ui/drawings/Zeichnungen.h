@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
+#include <QString>
 
 #include "model/Wand.h"
 #include "report/Zeile.h"
@@ -33,6 +34,9 @@ enum class Zeichnung {
     miniatur,    // the wall alone, for a list of walls
     startbild,
 };
+
+// What a drawing shows, in a few words.
+QString titel(Zeichnung was);
 
 // Width by height of a drawing in the report, mm; for drawings that only the screen shows a fitting size.
 QSizeF groesse(Zeichnung was);

@@ -220,6 +220,8 @@ QWidget* Form1::baueRechteSpalte() {
     ansicht_ = new Zeichnungsansicht(Zeichnung::ansicht, teiler);
     ansicht_->setObjectName(QStringLiteral("Picture1"));
     ansicht_->setzeDezimalzeichen(dezimalzeichen());
+    ansicht_->bieteDateien(programm_, meldungen_);
+    connect(ansicht_, &Zeichnungsansicht::angeklickt, this, &Form1::oeffneFenster);
     teiler->addWidget(ansicht_);
 
     auto* rahmen = new QGroupBox(QStringLiteral("Hinweise / Fehler"), teiler);

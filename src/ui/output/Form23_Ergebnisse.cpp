@@ -192,9 +192,12 @@ void Form23::fuegeSystembildEin() {
     text_->setReadOnly(false);
     Zeichenstil stil = Zeichenstil::papier();
     stil.dezimalzeichen = dezimalzeichen();
-    const QSizeF mm = groesse(Zeichnung::ansicht);
-    QApplication::clipboard()->setImage(bild(Zeichnung::ansicht, programm_.w, mm, aufloesungBild, stil));
-    fuegeBildEin(text_->textCursor(), png(Zeichnung::ansicht, programm_.w, mm, aufloesungBild, stil), mm);
+    const Bildvorlage wand = bildvorlage(Zeichnung::ansicht, programm_.w);
+    QApplication::clipboard()->setImage(bild(wand, aufloesungBild, stil));
+    // The text holds the picture for paper; what it shows is drawn for this screen.
+    const double bildpunkte = 96.0 * text_->devicePixelRatioF();
+    fuegeBildEin(text_->textCursor(), png(wand, aufloesungBild, stil), wand.mm,
+                 bild(wand, bildpunkte, stil.aufSchirm()));
     text_->ensureCursorVisible();
 }
 

@@ -19,8 +19,9 @@ std::vector<int> fuelleDokument(QTextDocument& dokument, const Fliesstext& text,
 // line ends the paragraph.
 Fliesstext fliesstextAus(const QTextDocument& dokument);
 
-// A picture at the cursor, of the given size in mm.
-void fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm);
+// A picture at the cursor, of the given size in mm. The bytes stay in the text; `schirmbild` is what it
+// shows.
+void fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QImage& schirmbild);
 
 // The rich-text box of the result view. What is copied from it is plain text, HTML and RTF at once.
 class Ergebnisfeld : public QTextEdit {

@@ -1,22 +1,26 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainterPath>
-#include <QTemporaryDir>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <functional>
 #include <limits>
+#include <map>
 #include <vector>
 
 #include "files/EigeneMaterialienDatei.h"
 #include "files/Positionsdatei.h"
 #include "run/Zuweisen.h"
 #include "ui/drawings/Ausgabe.h"
+#include "ui/drawings/Dxf.h"
+#include "ui/drawings/Kurvenansicht.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 
 namespace rippenscheibe {
@@ -349,7 +353,9 @@ TEST(Zeichnung, NoInputAndNoAreaMakesADrawingFailOrHang) {
         for (const Zeichnung was : alleZeichnungen) schreibeMit(was, wand(), s, Zeichenstil::papier());
     Zeichenstil ohneMass = Zeichenstil::papier(0.0);
     EXPECT_FALSE(schreibeMit(Zeichnung::ansicht, wand(), {100, 91}, ohneMass).texte.empty());
-    EXPECT_TRUE(bild(Zeichnung::ansicht, wand(), {1e9, 10}, 300, Zeichenstil::papier()).isNull());
+    Bildvorlage zuGross = bildvorlage(Zeichnung::ansicht, wand());
+    zuGross.mm = {1e9, 10};
+    EXPECT_TRUE(bild(zuGross, 300, Zeichenstil::papier()).isNull());
 }
 
 TEST(Zeichnung, APainterIsLeftAsItWas) {
@@ -366,19 +372,118 @@ TEST(Zeichnung, APainterIsLeftAsItWas) {
 
 TEST(Zeichnung, FilesHoldTheDrawingInItsSize) {
     const QImage image =
-        QImage::fromData(png(Zeichnung::last, wand(), {44, 70}, 254, Zeichenstil::papier()), "PNG");
+        QImage::fromData(png(bildvorlage(Zeichnung::last, wand()), 254, Zeichenstil::papier()), "PNG");
     EXPECT_EQ(image.size(), QSize(440, 700));
     EXPECT_EQ(image.dotsPerMeterX(), 10000);
-    QTemporaryDir ordner;
-    const std::filesystem::path datei = ordner.filePath(QStringLiteral("wand.svg")).toStdString();
-    ASSERT_TRUE(speichereSvg(datei, Zeichnung::ansicht, wand(), {100, 91}, Zeichenstil::papier()));
-    QFile gelesen(QString::fromStdString(datei.string()));
-    ASSERT_TRUE(gelesen.open(QIODevice::ReadOnly));
-    const QString svg = QString::fromUtf8(gelesen.readAll());
-    EXPECT_TRUE(svg.contains(QStringLiteral("l = 5,000 m")));
-    EXPECT_TRUE(svg.contains(QStringLiteral("width=\"100mm\"")));
-    EXPECT_FALSE(speichereSvg(datei / "kein" / "ordner.svg", Zeichnung::ansicht, wand(), {100, 91},
-                              Zeichenstil::papier()));
+    const Bildvorlage ansicht = bildvorlage(Zeichnung::ansicht, wand());
+    const QByteArray text = svg(ansicht, Zeichenstil::papier());
+    EXPECT_TRUE(text.contains("l = 5,000 m"));
+    EXPECT_TRUE(text.contains("width=\"100mm\""));
+    EXPECT_TRUE(pdf(ansicht, Zeichenstil::papier()).startsWith("%PDF"));
+}
+
+// The groups of a DXF file: code and value.
+using Dxfgruppen = std::vector<std::pair<int, QByteArray>>;
+Dxfgruppen gruppen(const QByteArray& datei) {
+    Dxfgruppen alle;
+    const auto zeilen = datei.split('\n');
+    for (qsizetype i = 0; i + 1 < zeilen.size(); i += 2)
+        alle.emplace_back(zeilen[i].trimmed().toInt(), zeilen[i + 1].trimmed());
+    return alle;
+}
+
+TEST(Zeichnung, TheDxfHoldsTheWallInFullSizeOnItsLayers) {
+    const Wand w = wand([](Wand& x) { x.NachweisVerankerung = true, x.Plattenbreite[Seite::eins] = 1300; });
+    const Dxfgruppen datei = gruppen(dxf(w, ','));
+    std::map<QByteArray, int> striche;  // by layer
+    double rechts = 0.0;
+    double oben = 0.0;
+    QByteArray was;
+    QByteArray ebene;
+    std::vector<QByteArray> texte;
+    for (const auto& [gruppe, wert] : datei) {
+        if (gruppe == 0) was = wert;
+        if (gruppe == 8) ebene = wert, ++striche[ebene];
+        if (was == "TEXT" && gruppe == 1) texte.push_back(wert);
+        if (was != "VERTEX" || ebene != "Rippen") continue;
+        if (gruppe == 10) rechts = std::max(rechts, wert.toDouble());
+        if (gruppe == 20) oben = std::max(oben, wert.toDouble());
+    }
+    EXPECT_DOUBLE_EQ(rechts, 5000.0);
+    EXPECT_DOUBLE_EQ(oben, 2500.0);
+    for (const char* name : {"Rippen", "Beplankung1", "Beplankung2", "VM", "Anker", "Masse"})
+        EXPECT_GT(striche[name], 3) << name;
+    EXPECT_EQ(striche.size(), 6U);
+    // 2500 mm high at av = 60 mm: one row of an inner rib alone has 40 strokes.
+    EXPECT_GT(striche["VM"], 40 * 14);
+    EXPECT_EQ(std::count(texte.begin(), texte.end(), "l = 5,000 m"), 1);
+    EXPECT_EQ(datei.back(), std::pair(0, QByteArray("EOF")));
+    EXPECT_TRUE(dxf(wand([](Wand& x) { x.Wandlaenge = 0; }), ',').isEmpty());
+}
+
+void drehe(QWidget& w, QPointF ort, int rasten) {
+    QWheelEvent rad(ort, w.mapToGlobal(ort), {}, {0, 120 * rasten}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&w, &rad);
+}
+
+TEST(Zeichnung, TheWheelKeepsWhatIsUnderThePointerAndADoubleClickShowsAll) {
+    Sicht sicht;
+    const QSizeF flaeche(800, 480);
+    const QPointF um(600, 100);
+    sicht.zoome(um, 4.0, flaeche);
+    sicht.zoome(um, 2.0, flaeche);
+    EXPECT_EQ(sicht.abbildung().map(um), um);
+    EXPECT_DOUBLE_EQ(sicht.lupe(), 8.0);
+    sicht.schiebe({1e6, -1e6}, flaeche);  // the drawing still covers the widget
+    EXPECT_EQ(sicht.abbildung().map(QPointF(0, 0)).x(), 0.0);
+    EXPECT_EQ(sicht.abbildung().map(QPointF(0, 480)).y(), 480.0);
+
+    Zeichnungsansicht ansicht(Zeichnung::ansicht);
+    ansicht.resize(800, 480);
+    const QImage ganz = ansicht.grab().toImage();
+    drehe(ansicht, um, 3);
+    EXPECT_NE(ansicht.grab().toImage(), ganz);
+    QTest::mouseDClick(&ansicht, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(ansicht.grab().toImage(), ganz);
+}
+
+TEST(Zeichnung, AClickOnAPartAsksForTheWindowOfItsInputs) {
+    Zeichnungsansicht ansicht(Zeichnung::ansicht);
+    ansicht.setzeWand(wand([](Wand& w) { w.NachweisVerankerung = true; }));
+    ansicht.resize(800, 480);
+    ansicht.grab();
+    std::vector<Fensterart> gefragt;
+    QObject::connect(&ansicht, &Zeichnungsansicht::angeklickt, [&](Fensterart f) { gefragt.push_back(f); });
+    for (int y = 2; y < 480; y += 3)
+        for (int x = 2; x < 800; x += 3) QTest::mouseClick(&ansicht, Qt::LeftButton, {}, {x, y});
+    for (const Fensterart f : {Fensterart::rippen, Fensterart::beplankung, Fensterart::verbindungsmittel,
+                               Fensterart::verankerung, Fensterart::belastung})
+        EXPECT_GT(std::count(gefragt.begin(), gefragt.end(), f), 3);
+    const auto vorher = gefragt.size();
+    QTest::mouseClick(&ansicht, Qt::LeftButton, {}, {2, 2});
+    EXPECT_EQ(gefragt.size(), vorher);  // empty ground
+}
+
+TEST(Kurvenansicht, TheMarkGoesToTheNextValueByMouseAndKey) {
+    const double nichts = std::numeric_limits<double>::quiet_NaN();
+    Kurvenansicht ansicht;
+    ansicht.resize(640, 380);
+    ansicht.setze({.achse = QStringLiteral("Abstand av [mm]"),
+                   .x = {40, 60, 80, 100},
+                   .kurven = {{QStringLiteral("5.1"), {0.4, 0.6, 0.8, 1.0}},
+                              {QStringLiteral("5.2"), {0.9, nichts, 0.1, nichts}}}},
+                  60);
+    ansicht.grab();
+    QSignalSpy bewegt(&ansicht, &Kurvenansicht::markeBewegt);
+    QTest::keyClick(&ansicht, Qt::Key_Right);
+    EXPECT_EQ(ansicht.marke(), 80.0);
+    QTest::mouseClick(&ansicht, Qt::LeftButton, {}, {635, 200});
+    EXPECT_EQ(ansicht.marke(), 100.0);
+    QTest::keyClick(&ansicht, Qt::Key_Right);  // there is no further one
+    EXPECT_EQ(bewegt.count(), 2);
+    QTest::keyClick(&ansicht, Qt::Key_Home);
+    EXPECT_TRUE(ansicht.accessibleDescription().endsWith(QStringLiteral("0,90 in 5.2")));
 }
 
 TEST(Zeichnung, TheViewFollowsItsPaletteAndSaysWhatItShows) {
