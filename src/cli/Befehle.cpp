@@ -154,8 +154,8 @@ class Arbeit {
     // Opens a position as the window program does; the three fields of its main window come back. Nothing
     // when the file cannot be opened: it is reported and the record is untouched.
     std::optional<Grundmasse> lade(const fs::path& datei, Wand& w) {
-        if (!istPositionsdatei(pfadtext(datei))) {
-            melde(datei, std::string(falscheEndung));
+        if (const auto grund = einwand(datei)) {
+            melde(datei, *grund);
             return std::nullopt;
         }
         const Dateiinhalt inhalt = liesDatei(datei);

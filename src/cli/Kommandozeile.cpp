@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <numeric>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "basis/Version.h"
 #include "files/Pfad.h"
@@ -101,6 +103,36 @@ void fuegeDateienHinzu(CLI::App& befehl, std::vector<std::filesystem::path>& dat
     if (!mehrere) option->expected(1);
 }
 
+// How many characters are to be typed, removed or exchanged to make one word of the other.
+std::size_t abstand(std::string_view a, std::string_view b) {
+    std::vector<std::size_t> zeile(b.size() + 1);
+    std::iota(zeile.begin(), zeile.end(), 0U);
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        std::size_t schraeg = std::exchange(zeile[0], i + 1);
+        for (std::size_t j = 0; j < b.size(); ++j) {
+            const std::size_t getauscht = schraeg + (a[i] == b[j] ? 0 : 1);
+            schraeg = zeile[j + 1];
+            zeile[j + 1] = std::min({getauscht, zeile[j] + 1, zeile[j + 1] + 1});
+        }
+    }
+    return zeile.back();
+}
+
+// What may have been meant in place of an unknown command, or "".
+std::string vorschlag(const std::string& wort, const CLI::App& app) {
+    if (wort.ends_with(".rsw")) return " Meinten Sie rechne " + wort + "?";
+    constexpr std::size_t nah = 2;
+    std::string bester;
+    std::size_t kleinster = nah + 1;
+    for (const CLI::App* befehl : app.get_subcommands([](const CLI::App*) { return true; })) {
+        const std::size_t weg = abstand(wort, befehl->get_name());
+        if (weg >= kleinster) continue;
+        kleinster = weg;
+        bester = befehl->get_name();
+    }
+    return bester.empty() ? bester : " Meinten Sie " + bester + "?";
+}
+
 // What CLI11 complains about, in German. Its texts begin with the name of the option.
 std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app) {
     std::string text = fehler.what();
@@ -109,7 +141,10 @@ std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app) {
     for (const std::string& angabe : app.remaining(true)) unbekannt += " " + angabe;
     if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
         if (!app.get_subcommands().empty()) return "Es fehlt eine Angabe: " + option + ".";
-        return unbekannt.empty() ? "Es fehlt ein Befehl." : "Unbekannter Befehl:" + unbekannt;
+        if (unbekannt.empty()) return "Es fehlt ein Befehl.";
+        const std::string wort = app.remaining(true).front();
+        const std::string meinung = vorschlag(wort, app);
+        return "Unbekannter Befehl:" + (meinung.empty() ? unbekannt : " " + wort + "." + meinung);
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&fehler) != nullptr) {
         return text.find("At Most") != std::string::npos ? option + " darf nur einmal stehen."
@@ -173,7 +208,9 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     CLI::App& uebertrage =
         befehl("uebertrage", "liest eine Position und schreibt sie wieder", Befehl::uebertrage);
     fuegeDateienHinzu(uebertrage, auftrag.dateien, false);
-    fuegeDateiHinzu(uebertrage, "-o", auftrag.nach, "dorthin schreiben")->required();
+    fuegeDateiHinzu(uebertrage, "-o", auftrag.nach, "dorthin schreiben")
+        ->required()
+        ->option_text("DATEI (muss stehen)");
 
     CLI::App& felder = befehl("felder", "gibt das Verzeichnis aller Felder aus", Befehl::felder);
     fuegeWahlHinzu(felder, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");

@@ -64,6 +64,15 @@ void ergaenzeFehlende(Wand& w) {
 
 bool istPositionsdatei(std::string_view dateiname) { return dateiname.ends_with("rsw"); }
 
+std::optional<std::string> einwand(const std::filesystem::path& datei) {
+    std::error_code egal;
+    if (std::filesystem::is_directory(datei, egal))
+        return "Das ist ein Ordner. Meinten Sie die Positionen darin: " + pfadtext(datei / "*.rsw") + "?";
+    if (istPositionsdatei(pfadtext(datei))) return std::nullopt;
+    if (!datei.has_extension()) return "Es fehlt die Endung. Meinten Sie " + pfadtext(datei) + ".rsw?";
+    return std::string(falscheEndung);
+}
+
 std::string mitEndung(std::string dateiname) {
     if (!istPositionsdatei(dateiname)) dateiname += ".rsw";
     return dateiname;

@@ -22,6 +22,9 @@ inline constexpr std::string_view keinePosition = "Die Datei enthält keine Posi
 
 // Whether a file name ends in the three small characters "rsw"; "RSW" is another ending.
 bool istPositionsdatei(std::string_view dateiname);
+// Why a path cannot be opened as a position, as a German sentence, with what may have been meant: it is a
+// folder, it has no ending or that of another kind. Nothing for a path that can be tried.
+std::optional<std::string> einwand(const std::filesystem::path& datei);
 // The name to save under: without that ending ".rsw" is appended.
 std::string mitEndung(std::string dateiname);
 

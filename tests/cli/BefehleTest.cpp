@@ -56,6 +56,9 @@ TEST_F(Befehle, AWrongCallIsToldInGermanWithCode64) {
     const Fall faelle[] = {
         {{}, "Es fehlt ein Befehl."},
         {{"quatsch"}, "Unbekannter Befehl: quatsch"},
+        {{"rechen"}, "Unbekannter Befehl: rechen. Meinten Sie rechne?"},
+        {{"pruef", "a.rsw"}, "Unbekannter Befehl: pruef. Meinten Sie pruefe?"},
+        {{"a.rsw"}, "Unbekannter Befehl: a.rsw. Meinten Sie rechne a.rsw?"},
         {{"rechne"}, "Es fehlt eine Angabe: DATEI."},
         {{"rechne", "a.rsw", "--wild"}, "Unbekannte Angabe: --wild"},
         {{"rechne", "a.rsw", "--form"}, "--form fehlt der Wert."},
@@ -150,11 +153,18 @@ TEST_F(Befehle, TheHighestCodeOfAllFilesCounts) {
     EXPECT_EQ(tool({"rechne", gut, "-o", datei("kein/ordner.txt")}).rueckgabe, 3);
 }
 
-TEST_F(Befehle, AFileWithoutTheEndingIsRefused) {
-    const std::string name = schreibe("wand.RSW", liesDatei(beispiel("einseitig")).bytes);
-    const Ergebnis e = tool({"rechne", name});
-    EXPECT_EQ(e.rueckgabe, 3);
-    EXPECT_EQ(e.meldungen, name + ": Datei passt nicht zum Programm!\n");
+TEST_F(Befehle, WhatIsNoPositionIsRefusedWithWhatMayHaveBeenMeant) {
+    const std::string gross = schreibe("wand.RSW", liesDatei(beispiel("einseitig")).bytes);
+    const std::pair<std::string, std::string> faelle[] = {
+        {gross, "Datei passt nicht zum Programm!"},
+        {datei("wand"), "Es fehlt die Endung. Meinten Sie " + datei("wand.rsw") + "?"},
+        {ordner.string(), "Das ist ein Ordner. Meinten Sie die Positionen darin: " + datei("*.rsw") + "?"},
+    };
+    for (const auto& [name, text] : faelle) {
+        const Ergebnis e = tool({"rechne", name});
+        EXPECT_EQ(e.rueckgabe, 3);
+        EXPECT_EQ(e.meldungen, name + ": " + text + "\n");
+    }
 }
 
 TEST_F(Befehle, SkippedFieldsAreReportedWithLineFieldAndWhatWasKept) {

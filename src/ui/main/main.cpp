@@ -32,6 +32,9 @@ void waehleSprache() {
                                                         : eigene);
 }
 
+const Pdfausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
+                           [](std::string_view text) { schreibe(stderr, text); }};
+
 // Help and version are printed; like the PDF they need no display.
 bool willNurText(const QStringList& angaben) {
     const QStringList woerter{QStringLiteral("-h"), QStringLiteral("--help"), QStringLiteral("--help-all"),
@@ -55,8 +58,6 @@ int laufeOhneFenster(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     QTranslator deutsch;
     if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QCoreApplication::installTranslator(&deutsch);
-    const Pdfausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
-                               [](std::string_view text) { schreibe(stderr, text); }};
     return static_cast<int>(fuehrePdfBefehlAus(QCoreApplication::arguments(), programmordner(), ausgaben));
 }
 
@@ -81,7 +82,8 @@ int main(int argc, char** argv) {
 
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
-    befehlszeile.process(application);
+    if (const auto antwort = beantworteAufruf(befehlszeile, QApplication::arguments(), ausgaben))
+        return static_cast<int>(*antwort);
     const QString angabe = befehlszeile.positionalArguments().value(0);
     const QString datei = angabe.isEmpty() ? angabe : QFileInfo(angabe).absoluteFilePath();
 

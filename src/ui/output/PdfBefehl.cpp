@@ -1,6 +1,7 @@
 #include "ui/output/PdfBefehl.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <algorithm>
 #include <memory>
 #include <optional>
@@ -22,6 +23,7 @@ namespace {
 
 const QString optionPdf = QStringLiteral("pdf");
 const QString optionForm = QStringLiteral("form");
+constexpr const char* hilfeverweis = "\nHilfe: rippenscheibe --help\n";
 
 struct Pdfauftrag {
     std::filesystem::path ziel;
@@ -56,8 +58,8 @@ class Pdflauf {
 
   private:
     bool lade() {
-        if (!istPositionsdatei(auftrag_.position.string())) {
-            melde(std::string(falscheEndung));
+        if (const auto grund = einwand(auftrag_.position)) {
+            melde(*grund);
             return false;
         }
         const Dateiinhalt inhalt = liesDatei(auftrag_.position);
@@ -103,6 +105,24 @@ class Pdflauf {
     std::unique_ptr<Wand> w_;
 };
 
+// Qt names the program by the path it was called with.
+QString aufrufhilfe(const QCommandLineParser& befehlszeile) {
+    const QString aufgerufen = QCoreApplication::arguments().value(0);
+    QString text = befehlszeile.helpText();
+    const qsizetype stelle = aufgerufen.isEmpty() ? -1 : text.indexOf(aufgerufen);
+    return stelle < 0 ? text : text.replace(stelle, aufgerufen.size(), QCoreApplication::applicationName());
+}
+
+QString aufruffehler(const QCommandLineParser& befehlszeile) {
+    const QStringList unbekannt = befehlszeile.unknownOptionNames();
+    if (unbekannt.isEmpty()) return befehlszeile.errorText();
+    const auto strich = [](const QString& name) {
+        return name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--");
+    };
+    return QStringLiteral("Unbekannte Angabe: %1%2")
+        .arg(strich(unbekannt.constFirst()), unbekannt.constFirst());
+}
+
 }  // namespace
 
 void beschreibeAufruf(QCommandLineParser& befehlszeile) {
@@ -119,6 +139,25 @@ void beschreibeAufruf(QCommandLineParser& befehlszeile) {
                                        QStringLiteral("[DATEI]"));
 }
 
+std::optional<Pdfrueckgabe> beantworteAufruf(QCommandLineParser& befehlszeile, const QStringList& argumente,
+                                             const Pdfausgaben& ausgaben) {
+    if (!befehlszeile.parse(argumente)) {
+        ausgaben.meldungen(utf8(aufruffehler(befehlszeile)) + hilfeverweis);
+        return Pdfrueckgabe::aufruf;
+    }
+    if (befehlszeile.isSet(QStringLiteral("help"))) {
+        ausgaben.standard(utf8(aufrufhilfe(befehlszeile)));
+        return Pdfrueckgabe::erfuellt;
+    }
+    if (befehlszeile.isSet(QStringLiteral("version"))) {
+        ausgaben.standard(utf8(QCoreApplication::applicationName() + QLatin1Char(' ') +
+                               QCoreApplication::applicationVersion()) +
+                          "\n");
+        return Pdfrueckgabe::erfuellt;
+    }
+    return std::nullopt;
+}
+
 bool istPdfBefehl(const QStringList& argumente) {
     return std::any_of(argumente.cbegin(), argumente.cend(), [](const QString& a) {
         return a == QStringLiteral("--pdf") || a.startsWith(QStringLiteral("--pdf="));
@@ -130,14 +169,10 @@ Pdfrueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesys
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
     const auto falscherAufruf = [&](const QString& grund) {
-        ausgaben.meldungen(utf8(grund) + "\nHilfe: rippenscheibe --help\n");
+        ausgaben.meldungen(utf8(grund) + hilfeverweis);
         return Pdfrueckgabe::aufruf;
     };
-    if (!befehlszeile.parse(argumente)) return falscherAufruf(befehlszeile.errorText());
-    if (befehlszeile.isSet(QStringLiteral("help"))) {
-        ausgaben.standard(utf8(befehlszeile.helpText()));
-        return Pdfrueckgabe::erfuellt;
-    }
+    if (const auto antwort = beantworteAufruf(befehlszeile, argumente, ausgaben)) return *antwort;
     const std::optional<Form> form = formAus(befehlszeile.value(optionForm));
     if (!form)
         return falscherAufruf(QStringLiteral("--form: \"%1\" geht nicht, möglich: lang|kurz")

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 class QCommandLineParser;
@@ -23,6 +24,11 @@ struct Pdfausgaben {
 
 // The options of the window program: those of this command, help, version and the position file.
 void beschreibeAufruf(QCommandLineParser& befehlszeile);
+
+// Reads the arguments, the first being the program's name, and answers what needs no window: a wrong call in
+// German, help and version. Nothing when the program is to go on with what was read.
+std::optional<Pdfrueckgabe> beantworteAufruf(QCommandLineParser& befehlszeile, const QStringList& argumente,
+                                             const Pdfausgaben& ausgaben);
 
 // Whether these arguments ask for it.
 bool istPdfBefehl(const QStringList& argumente);
