@@ -37,7 +37,13 @@ std::string projektlistentext(const Projektliste& liste) {
     eintraege.resize(std::min(eintraege.size(), groessteAnzahl));
     schreiber.schreibe(liste.Projekt, static_cast<std::int16_t>(eintraege.size()));
     eintraege.resize(std::max<std::size_t>(eintraege.size(), 1));
-    for (const Projekteintrag& eintrag : eintraege) schreiber.schreibe(eintrag.name);
+    // A name that was never assigned is an empty value, not an empty text: its line is empty.
+    for (const Projekteintrag& eintrag : eintraege) {
+        if (eintrag.name.empty())
+            schreiber.schreibe(Freiwert{});
+        else
+            schreiber.schreibe(eintrag.name);
+    }
     for (const Projekteintrag& eintrag : eintraege) schreiber.schreibe(eintrag.pfad);
     return schreiber.text();
 }

@@ -100,7 +100,8 @@ TEST_F(Programmdateien, AProjectListHasAtLeastOneEntry) {
     for (const std::string text : {"", "\"P\",0\r\n", "\"P\",-4\r\n", "\"P\",viele\r\n"}) {
         EXPECT_EQ(projektlisteAus(text).eintraege, std::vector<Projekteintrag>(1)) << text;
     }
-    EXPECT_EQ(projektlistentext({"P", {}}), "\"P\",0\r\n\"\"\r\n\"\"\r\n");
+    // A name never assigned is an empty line, a text never assigned is not.
+    EXPECT_EQ(projektlistentext({"", {}}), "\"\",0\r\n\r\n\"\"\r\n");
     // The file ends behind the names.
     EXPECT_EQ(projektlisteAus("\"P\",2\r\n\"A\"\r\n\"B\"\r\n").eintraege,
               (std::vector<Projekteintrag>{{"A", ""}, {"B", ""}}));
