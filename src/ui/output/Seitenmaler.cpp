@@ -1,6 +1,5 @@
 #include "ui/output/Seitenmaler.h"
 
-#include <QFontMetricsF>
 #include <utility>
 
 #include "ui/basics/Programm.h"
@@ -15,34 +14,7 @@ constexpr double punkteJeZoll = 72.0;
 
 QColor qfarbe(Farbe farbe) { return QColor::fromRgb(static_cast<QRgb>(farbe)); }
 
-// Free families with the same character widths as the usual ones, so that lines keep their length.
-QStringList familien(const QString& name) {
-    if (name == QStringLiteral("Courier New")) return {name, QStringLiteral("Liberation Mono")};
-    if (name == QStringLiteral("Times New Roman")) return {name, QStringLiteral("Liberation Serif")};
-    return {name, QStringLiteral("Liberation Sans")};
-}
-
 }  // namespace
-
-QFont papierschrift(const Schrift& schrift) {
-    QFont font;
-    font.setFamilies(familien(qtext(schrift.name)));
-    font.setPointSizeF(schrift.groesse);
-    font.setBold(schrift.fett);
-    font.setItalic(schrift.kursiv);
-    font.setUnderline(schrift.unterstrichen);
-    font.setHintingPreference(QFont::PreferNoHinting);  // the same line lengths at every resolution
-    return font;
-}
-
-Schriftmass schriftmass(const Schrift& schrift) {
-    constexpr int probe = 1000;  // px, large enough to measure the outlines
-    QFont font = papierschrift(schrift);
-    font.setPixelSize(probe);
-    const QFontMetricsF masse(font);
-    const double mmJePixel = schrift.groesse * mmJeZoll / punkteJeZoll / probe;
-    return {masse.ascent() * mmJePixel, masse.height() * mmJePixel};
-}
 
 Seitenmaler::Seitenmaler(QPainter& painter, double mm, Bildquelle bilder, std::function<void()> neueSeite)
     : painter_(painter), mm_(mm), bilder_(std::move(bilder)), neueSeite_(std::move(neueSeite)) {

@@ -1,29 +1,17 @@
 #pragma once
 
-#include <QFont>
 #include <QImage>
 #include <QPainter>
 #include <functional>
 
 #include "model/Wand.h"
 #include "report/Zeichenflaeche.h"
+#include "ui/basics/Papierschrift.h"
 
 // The pages of the report on paper: a surface in millimetres on any painter, be it that of a printer, of a
 // PDF, of a preview or of a widget.
 
 namespace rippenscheibe {
-
-// The font of a text on paper: its size in points, and a free family of the same widths where the named one
-// is not installed.
-QFont papierschrift(const Schrift& schrift);
-
-// Height above the base line and height of a line of that font, mm. They are those of the outlines, so that
-// pages break at the same lines on every device.
-struct Schriftmass {
-    double oberlaenge = 0.0;
-    double hoehe = 0.0;
-};
-Schriftmass schriftmass(const Schrift& schrift);
 
 class Seitenmaler final : public Zeichenflaeche {
   public:
