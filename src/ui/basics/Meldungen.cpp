@@ -5,27 +5,30 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QPushButton>
 #include <QStandardPaths>
+#include <array>
 
 namespace rippenscheibe {
 
 namespace {
 
-QMessageBox::Icon icon(Symbol symbol) {
-    switch (symbol) {
-        case Symbol::kritisch:
-            return QMessageBox::Critical;
-        case Symbol::frage:
-            return QMessageBox::Question;
-        case Symbol::hinweis:
-            return QMessageBox::Information;
-        case Symbol::achtung:
-            return QMessageBox::Warning;
-    }
-    return QMessageBox::NoIcon;
-}
+struct Symbolart {
+    QMessageBox::Icon icon;  // what the platform says to a screen reader and to the ear
+    const char* bild;
+};
+constexpr std::array<Symbolart, 4> symbolarten{{
+    {QMessageBox::Critical, "kritisch"},
+    {QMessageBox::Question, "frage"},
+    {QMessageBox::Information, "hinweis"},
+    {QMessageBox::Warning, "achtung"},
+}};
 
 QMessageBox::StandardButtons schaltflaechen(Knoepfe knoepfe) {
     switch (knoepfe) {
@@ -52,9 +55,37 @@ Antwort antwort(int schaltflaeche) {
     }
 }
 
+void beschrifte(QMessageBox& box, const Knopfworte& worte) {
+    const auto setze = [&](QMessageBox::StandardButton welcher, const QString& wort) {
+        if (QAbstractButton* knopf = box.button(welcher); knopf != nullptr && !wort.isEmpty())
+            knopf->setText(wort);
+    };
+    setze(QMessageBox::Yes, worte.ja);
+    setze(QMessageBox::No, worte.nein);
+    setze(QMessageBox::Cancel, worte.abbrechen);
+}
+
+void setzeVorgabe(QMessageBox& box, Antwort vorgabe) {
+    for (const auto welcher : {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel})
+        if (box.button(welcher) != nullptr && antwort(welcher) == vorgabe) box.setDefaultButton(welcher);
+}
+
+// The platform's own dialog takes no line of ours.
+void meldeFehlendenOrdner(QFileDialog& dialog, const QString& ordner) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    auto* zeile = new QLabel(QStringLiteral("Der Ordner %1 ist nicht vorhanden.").arg(ordner), &dialog);
+    zeile->setObjectName(QStringLiteral("OrdnerFehlt"));
+    zeile->setTextFormat(Qt::PlainText);
+    zeile->setWordWrap(true);
+    zeile->setForegroundRole(QPalette::PlaceholderText);
+    if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout()))
+        grid->addWidget(zeile, grid->rowCount(), 0, 1, -1);
+}
+
 std::optional<QString> waehle(QFileDialog& dialog, const Dateiwahl& wahl) {
     dialog.setObjectName(QStringLiteral("CmDialog1"));
     const bool vorhanden = !wahl.ordner.isEmpty() && QFileInfo(wahl.ordner).isDir();
+    if (!vorhanden && !wahl.ordner.isEmpty()) meldeFehlendenOrdner(dialog, wahl.ordner);
     dialog.setDirectory(vorhanden ? wahl.ordner
                                   : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog.setNameFilters(wahl.filter.split(QStringLiteral(";;")));
@@ -67,9 +98,14 @@ std::optional<QString> waehle(QFileDialog& dialog, const Dateiwahl& wahl) {
 }  // namespace
 
 Antwort Plattformmeldungen::zeige(QWidget* fenster, const Meldung& meldung) {
-    QMessageBox box(icon(meldung.symbol), meldung.titel, meldung.text, schaltflaechen(meldung.knoepfe),
-                    fenster);
+    const Symbolart& art = symbolarten[static_cast<std::size_t>(meldung.symbol)];
+    QMessageBox box(art.icon, meldung.titel, meldung.text, schaltflaechen(meldung.knoepfe), fenster);
     box.setTextFormat(Qt::PlainText);
+    constexpr int kante = 40;  // px
+    const QIcon bild(QStringLiteral(":/icons/meldung-%1.svg").arg(QLatin1String(art.bild)));
+    box.setIconPixmap(bild.pixmap(QSize(kante, kante), box.devicePixelRatioF()));
+    beschrifte(box, meldung.worte);
+    if (meldung.vorgabe) setzeVorgabe(box, *meldung.vorgabe);
     if (meldung.knoepfe == Knoepfe::jaNein) box.setEscapeButton(QMessageBox::No);
     return antwort(box.exec());
 }
@@ -87,6 +123,12 @@ std::optional<QString> Plattformmeldungen::sichern(QWidget* fenster, const Datei
 }
 
 void Plattformmeldungen::richteDruckerEin(QWidget* fenster, QPrinter& drucker) {
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        hinweis(fenster, QStringLiteral(" Hinweis"),
+                QStringLiteral("Auf diesem Rechner ist kein Drucker eingerichtet.\n\n"
+                               "Der Ausdruck kann als PDF-Datei gespeichert werden."));
+        return;
+    }
     QPrintDialog dialog(&drucker, fenster);
     dialog.setWindowTitle(QStringLiteral("Drucker einrichten"));
     dialog.setOptions(QAbstractPrintDialog::PrintDialogOptions());

@@ -15,15 +15,26 @@ enum class Symbol { kritisch, frage, hinweis, achtung };
 enum class Knoepfe { ok, jaNein, jaNeinAbbrechen };
 enum class Antwort { ok, ja, nein, abbrechen };
 
-// One message box: icon, title and text as they stand, and the buttons.
+// Captions in place of "Ja", "Nein" and "Abbrechen" where a box says what its buttons do.
+struct Knopfworte {
+    QString ja;
+    QString nein;
+    QString abbrechen;
+};
+
+// One message box: icon, title and text as they stand, and the buttons. `vorgabe` is the button that Enter
+// presses at once; without it the first.
 struct Meldung {
     Symbol symbol = Symbol::kritisch;
     QString titel;
     QString text;
     Knoepfe knoepfe = Knoepfe::ok;
+    Knopfworte worte{};
+    std::optional<Antwort> vorgabe{};
 };
 
-// One file dialog. `ordner` and `vorschlag` may be empty.
+// One file dialog. `ordner` and `vorschlag` may be empty; a folder that is not there gives way to that of the
+// documents, and the dialog says so.
 struct Dateiwahl {
     QString titel;
     QString ordner;

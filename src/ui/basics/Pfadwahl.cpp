@@ -87,6 +87,13 @@ Pfadwahl::Pfadwahl(Programm& programm, Meldungen& meldungen, QWidget* parent, Zw
     if (zweck_ == Zweck::positionspfad && !programm_.Positionspfad.empty())
         start = qtext(programm_.Positionspfad);
     zeigeOrdner(QDir(start).exists() ? start : QDir::rootPath());
+    // Folders are read in the background: until the user chooses, what comes in keeps the start in sight.
+    const QPersistentModelIndex anfang = ordner_->currentIndex();
+    connect(modell_, &QFileSystemModel::directoryLoaded, this, [this, anfang] {
+        if (!anfang.isValid() || ordner_->currentIndex() != anfang) return;
+        ordner_->expand(anfang);
+        ordner_->scrollTo(anfang, QAbstractItemView::PositionAtCenter);
+    });
 }
 
 QString Pfadwahl::pfad() const {

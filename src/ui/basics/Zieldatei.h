@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+class QWidget;
+
+namespace rippenscheibe {
+
+class Meldungen;
+class Programm;
+struct Dateiwahl;
+
+// Where the file dialogs begin: beside the open file. Saving under another name begins in the folder of the
+// project or of the settings, as long as there is one.
+QString dialogordner(const Programm& programm);
+
+// The name, without ending, that a dialog proposes for something of the position: that of its file, else the
+// position and its remark. Characters that part folders in a path become a dash.
+QString dateivorschlag(const Programm& programm);
+
+// Lets the user choose a file to write; nothing after a cancel. Asks again while its folder does not exist.
+std::optional<QString> waehleZiel(Meldungen& meldungen, QWidget* fenster, const Dateiwahl& wahl);
+
+}  // namespace rippenscheibe
