@@ -4,8 +4,8 @@
 
 namespace rippenscheibe {
 
-void oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) {
-    if (programm.fenster != nullptr) programm.fenster->oeffne(art, programm, meldungen, fenster);
+bool oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) {
+    return programm.fenster != nullptr && programm.fenster->oeffne(art, programm, meldungen, fenster);
 }
 
 }  // namespace rippenscheibe

@@ -37,13 +37,11 @@ class Fensteroeffner {
     Fensteroeffner& operator=(const Fensteroeffner&) = delete;
     virtual ~Fensteroeffner() = default;
 
-    // Opens a window over `fenster` and waits until it is closed.
-    virtual void oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) = 0;
-    // Lets the user choose a name for the position and saves under it. False after a cancel or a failed save.
-    virtual bool sichernUnter(Programm& programm, Meldungen& meldungen, QWidget* fenster) = 0;
+    // Opens a window over `fenster` and waits until it is closed. True when it was left by accepting it.
+    virtual bool oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) = 0;
 };
 
 // The same through the program's own; nothing happens while it has none.
-void oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster);
+bool oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster);
 
 }  // namespace rippenscheibe

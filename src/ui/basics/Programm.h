@@ -43,10 +43,10 @@ class Programm : public QObject {
     std::string Positionspfad;                // folder of the position file, from the project data
     std::string Dateiname;                    // full path of the open position file, "" for a new one
     bool Sperre = false;                      // no Zuweisen on a change of the three fields
-    bool SpeichernUnter = false;              // leaving the project dialog saves the position
     Dateiaktion Aktion = Dateiaktion::keine;  // the pending file action
     bool SeitenzahlDrucken = true;            // of the last print job
     QString DialogDateiname;                  // the file name that the file dialog holds
+    std::optional<std::size_t> Dateistand;    // hash of the open file as this program read or wrote it
     QString DialogOrdner;                     // its initial folder
     std::unique_ptr<Fensteroeffner> fenster;  // makes the windows that others ask for; set by the main window
 
@@ -75,10 +75,9 @@ class Programm : public QObject {
     std::filesystem::path datei(std::string_view name) const { return ordner / name; }
 
   Q_SIGNALS:
-    void geaendert();                         // the record changed
-    void ersetzt();                           // another position took the place of the one before
-    void zustandGeaendert();                  // Gesichert, Dateiname or the caption changed
-    void dateiBenutzt(const QString& datei);  // a dialog saved the position under this name
+    void geaendert();         // the record changed
+    void ersetzt();           // another position took the place of the one before
+    void zustandGeaendert();  // Gesichert, Dateiname or the caption changed
 
   private:
     bool gesichert_ = true;

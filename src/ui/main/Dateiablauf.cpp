@@ -1,12 +1,13 @@
 #include "ui/main/Dateiablauf.h"
 
-#include <QDir>
 #include <QFileInfo>
+#include <functional>
 #include <utility>
 
 #include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Werteingabe.h"
+#include "ui/basics/Zieldatei.h"
 
 namespace rippenscheibe {
 
@@ -54,9 +55,10 @@ void Dateiablauf::sichernUnter() {
     if (!nichtsAbgelehnt()) return;
     const std::string vorher = std::exchange(programm_.Dateiname, std::string());
     programm_.Aktion = Dateiaktion::sichernUnter;
-    programm_.SpeichernUnter = true;
-    if (projektdaten) projektdaten();
-    programm_.SpeichernUnter = false;
+    if (projektdaten && projektdaten()) {
+        if (!programm_.Positionspfad.empty()) programm_.DialogOrdner = qtext(programm_.Positionspfad);
+        dialogUndSichern();
+    }
     programm_.Aktion = Dateiaktion::keine;
     if (programm_.Dateiname.empty()) programm_.Dateiname = vorher;  // cancelled
 }
@@ -94,7 +96,35 @@ Dateiablauf::Ausgang Dateiablauf::sicherungsschritt() {
     if (!nichtsAbgelehnt()) return Ausgang::fehlgeschlagen;
     const bool nameBekannt = !programm_.DialogDateiname.isEmpty() && !programm_.Dateiname.empty();
     if (!nameBekannt) return dialogUndSichern();
+    if (fremdGeaendert()) return sichernTrotzFremdem();
     return saveFile() ? Ausgang::weiter : Ausgang::fehlgeschlagen;
+}
+
+// The file is no longer what it was when this program read or wrote it. One that is gone hides nothing.
+bool Dateiablauf::fremdGeaendert() const {
+    if (!programm_.Dateistand) return false;
+    const Dateiinhalt inhalt = liesDatei(pfad(qtext(mitEndung(programm_.Dateiname))));
+    return !inhalt.fehler && std::hash<std::string>{}(inhalt.bytes) != *programm_.Dateistand;
+}
+
+void Dateiablauf::merkeDateistand() {
+    const Dateiinhalt inhalt = liesDatei(pfad(qtext(programm_.Dateiname)));
+    programm_.Dateistand.reset();
+    if (!inhalt.fehler) programm_.Dateistand = std::hash<std::string>{}(inhalt.bytes);
+}
+
+Dateiablauf::Ausgang Dateiablauf::sichernTrotzFremdem() {
+    const Meldung frage{Symbol::achtung,
+                        QStringLiteral("Datei sichern"),
+                        QStringLiteral("Die Datei\n%1\nwurde von einem anderen Programm geändert, seit sie "
+                                       "hier geöffnet ist.")
+                            .arg(qtext(mitEndung(programm_.Dateiname))),
+                        Knoepfe::jaNeinAbbrechen,
+                        {QStringLiteral("Überschreiben"), QStringLiteral("Speichern unter"), {}},
+                        Antwort::abbrechen};
+    const Antwort antwort = meldungen_.zeige(fenster_, frage);
+    if (antwort == Antwort::nein) return dialogUndSichern();
+    return antwort == Antwort::ja && saveFile() ? Ausgang::weiter : Ausgang::fehlgeschlagen;
 }
 
 void Dateiablauf::naechsterSchritt() {
@@ -108,20 +138,21 @@ void Dateiablauf::naechsterSchritt() {
 void Dateiablauf::oeffnenDialog() {
     std::optional<QString> datei = wunsch_;
     if (!datei)
-        datei = meldungen_.oeffnen(
-            fenster_, {QStringLiteral("Datei öffnen"), ordner(), QString(), dateifilter, dateiendung});
+        datei = meldungen_.oeffnen(fenster_, {QStringLiteral("Datei öffnen"), dialogordner(programm_),
+                                              QString(), dateifilter, dateiendung});
     if (!datei) return;
     programm_.DialogDateiname = *datei;
     lade(*datei);
 }
 
-bool Dateiablauf::sichernDialog() { return dialogUndSichern() == Ausgang::weiter; }
-
 Dateiablauf::Ausgang Dateiablauf::dialogUndSichern() {
+    const QString vorschlag = programm_.Dateiname.empty() ? dateivorschlag(programm_)
+                                                          : QFileInfo(qtext(programm_.Dateiname)).fileName();
     std::optional<QString> datei;
     do {
-        datei = meldungen_.sichern(fenster_, {QStringLiteral("Datei speichern unter"), ordner(), vorschlag(),
-                                              dateifilter, dateiendung});
+        datei = waehleZiel(meldungen_, fenster_,
+                           {QStringLiteral("Datei speichern unter"), dialogordner(programm_), vorschlag,
+                            dateifilter, dateiendung});
         if (!datei) return Ausgang::abgebrochen;
     } while (!darfUeberschreiben(*datei));
     const QString dialognameVorher = std::exchange(programm_.DialogDateiname, *datei);
@@ -143,27 +174,6 @@ bool Dateiablauf::darfUeberschreiben(const QString& gewaehlt) {
                                        Knoepfe::jaNein}) == Antwort::ja;
 }
 
-// Where the file dialogs begin: beside the open file. Saving under another name begins in the folder of the
-// project or of the settings, as long as there is one.
-QString Dateiablauf::ordner() const {
-    const auto ordnerVon = [](const QString& datei) { return QFileInfo(datei).absolutePath(); };
-    if (!programm_.Dateiname.empty()) return ordnerVon(qtext(programm_.Dateiname));
-    if (!programm_.DialogOrdner.isEmpty() || programm_.DialogDateiname.isEmpty())
-        return programm_.DialogOrdner;
-    return ordnerVon(programm_.DialogDateiname);
-}
-
-// The position and its remark; characters that part folders in a path become a dash.
-QString Dateiablauf::vorschlag() const {
-    if (!programm_.Dateiname.empty()) return QFileInfo(qtext(programm_.Dateiname)).fileName();
-    QString name = qtext(programm_.w.Position);
-    if (!programm_.w.PositionsBemerkung.empty())
-        name += QLatin1Char('-') + qtext(programm_.w.PositionsBemerkung);
-    for (const QChar trenner : {QLatin1Char('/'), QLatin1Char('\\'), QLatin1Char(':')})
-        name.replace(trenner, QLatin1Char('-'));
-    return name;
-}
-
 bool Dateiablauf::saveFile() {
     programm_.zuweisen();
     programm_.Dateiname = mitEndung(programm_.Dateiname);
@@ -174,6 +184,7 @@ bool Dateiablauf::saveFile() {
         meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(fehler->text));
         return false;
     }
+    merkeDateistand();
     programm_.setzeGesichert(true);
     programm_.setzeTitel(qtext(programm_.Dateiname));
     if (benutzt) benutzt(qtext(programm_.Dateiname));
@@ -204,6 +215,7 @@ bool Dateiablauf::lade(const QString& datei) {
     programm_.Sperre = false;
     Q_EMIT programm_.ersetzt();
     programm_.zuweisen();
+    merkeDateistand();
     if (benutzt && !lesung.fehler) benutzt(datei);
     return true;
 }
@@ -219,6 +231,7 @@ void Dateiablauf::setzeNeu() {
     programm_.zuweisen();
     programm_.setzeTitel(QStringLiteral("Neue Datei"));
     programm_.Dateiname.clear();
+    programm_.Dateistand.reset();
     programm_.DialogDateiname.clear();
     if (projektdaten) projektdaten();
 }

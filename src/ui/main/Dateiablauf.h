@@ -19,7 +19,7 @@ class Dateiablauf {
     // `fenster` is the parent of all boxes.
     Dateiablauf(Programm& programm, Meldungen& meldungen, QWidget* fenster);
 
-    std::function<void()> projektdaten;                 // opens the project dialog
+    std::function<bool()> projektdaten;                 // opens the project dialog; true when accepted
     std::function<void()> listeGeleert;                 // the findings are gone
     std::function<void(const QString& datei)> benutzt;  // a position file was opened or saved
 
@@ -29,15 +29,13 @@ class Dateiablauf {
     // Asks, then opens `datei`, or lets the user choose one.
     void oeffnen(const std::optional<QString>& datei = std::nullopt);
     void sichern();
-    // Through the project dialog, whose accept saves.
+    // Through the project dialog; accepting it leads on to the choice of a name.
     void sichernUnter();
     // Asks; true when the program may end.
     bool beenden();
 
     // Reads a position file into the record. False when its ending is not that of a position.
     bool lade(const QString& datei);
-    // Lets the user choose a name and saves under it. False after a cancel or a failed save.
-    bool sichernDialog();
 
   private:
     enum class Ausgang { weiter, abgebrochen, fehlgeschlagen };
@@ -46,13 +44,14 @@ class Dateiablauf {
     bool nichtsAbgelehnt();
     Ausgang sicherungsschritt();
     Ausgang dialogUndSichern();
+    Ausgang sichernTrotzFremdem();
+    bool fremdGeaendert() const;
+    void merkeDateistand();
     bool darfUeberschreiben(const QString& gewaehlt);
     void naechsterSchritt();
     void oeffnenDialog();
     bool saveFile();
     void setzeNeu();
-    QString ordner() const;
-    QString vorschlag() const;
 
     Programm& programm_;
     Meldungen& meldungen_;

@@ -12,7 +12,6 @@
 #include "ui/input/Form5_Verbindungsmittel.h"
 #include "ui/input/Form7_Verankerung.h"
 #include "ui/input/Form9_Belastung.h"
-#include "ui/main/Dateiablauf.h"
 #include "ui/output/Form23_Ergebnisse.h"
 #include "ui/output/Form6_Druck.h"
 #include "ui/output/Form8_Seitenkopf.h"
@@ -26,13 +25,13 @@ namespace rippenscheibe {
 namespace {
 
 template <class Fensterklasse>
-void zeige(Programm& programm, Meldungen& meldungen, QWidget* fenster) {
-    Fensterklasse(programm, meldungen, fenster).exec();
+bool zeige(Programm& programm, Meldungen& meldungen, QWidget* fenster) {
+    return Fensterklasse(programm, meldungen, fenster).exec() == QDialog::Accepted;
 }
 
 }  // namespace
 
-void Fensterfabrik::oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) {
+bool Fensterfabrik::oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) {
     switch (art) {
         case Fensterart::rippen:
             return zeige<Form2>(programm, meldungen, fenster);
@@ -69,12 +68,7 @@ void Fensterfabrik::oeffne(Fensterart art, Programm& programm, Meldungen& meldun
         case Fensterart::ergebnisse:
             return zeige<Form23>(programm, meldungen, fenster);
     }
-}
-
-bool Fensterfabrik::sichernUnter(Programm& programm, Meldungen& meldungen, QWidget* fenster) {
-    Dateiablauf ablauf(programm, meldungen, fenster);
-    ablauf.benutzt = [&programm](const QString& datei) { Q_EMIT programm.dateiBenutzt(datei); };
-    return ablauf.sichernDialog();
+    return false;
 }
 
 }  // namespace rippenscheibe

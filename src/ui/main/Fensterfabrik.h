@@ -7,8 +7,7 @@ namespace rippenscheibe {
 // Makes the windows that others ask for.
 class Fensterfabrik : public Fensteroeffner {
   public:
-    void oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) override;
-    bool sichernUnter(Programm& programm, Meldungen& meldungen, QWidget* fenster) override;
+    bool oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) override;
 };
 
 }  // namespace rippenscheibe

@@ -95,8 +95,7 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
         for (const auto& [feld, mass] : felder_) feld->setzeWert(programm_.felder.*mass);
     });
     connect(&programm_, &Programm::zustandGeaendert, this, &Form1::zeigeTitel);
-    connect(&programm_, &Programm::dateiBenutzt, this, &Form1::merkeDatei);
-    ablauf_.projektdaten = [this] { oeffneFenster(Fensterart::projektdaten); };
+    ablauf_.projektdaten = [this] { return oeffneFenster(Fensterart::projektdaten); };
     ablauf_.listeGeleert = [this] { zeigeHinweise(); };
     ablauf_.benutzt = [this](const QString& datei) { merkeDatei(datei); };
 
@@ -443,9 +442,10 @@ void Form1::closeEvent(QCloseEvent* event) {
     if (const std::optional<Dateifehler> fehler = programm_.sichereProjekte())
         meldungen_.hinweis(this, QStringLiteral(" Hinweis"), qtext(fehler->text));
     if (!endeBestaetigt_) {
-        const Antwort antwort = meldungen_.zeige(
-            this, {Symbol::frage, QStringLiteral("Achtung"),
-                   QStringLiteral("Wollen Sie das Programm wirklich beenden ?"), Knoepfe::jaNein});
+        const Antwort antwort =
+            meldungen_.zeige(this, {Symbol::frage, QStringLiteral("Achtung"),
+                                    QStringLiteral("Wollen Sie das Programm wirklich beenden ?"),
+                                    Knoepfe::jaNein, Knopfworte{}, Antwort::nein});
         if (antwort != Antwort::ja) {
             event->ignore();
             return;
@@ -453,7 +453,11 @@ void Form1::closeEvent(QCloseEvent* event) {
     }
     QSettings merker(einstellungsdateiname(), QSettings::IniFormat);
     merker.setValue(schluesselGeometrie, saveGeometry());
-    sicherung_.raeumeAuf();
+    // Who was not asked about unsaved work is offered it again at the next start.
+    if (endeBestaetigt_ || programm_.Gesichert())
+        sicherung_.raeumeAuf();
+    else
+        sicherung_.sichere();
     event->accept();
 }
 
@@ -513,9 +517,10 @@ void Form1::rechneUndZeige(Fensterart ausgabe) {
     oeffneFenster(ausgabe);
 }
 
-void Form1::oeffneFenster(Fensterart art) {
-    oeffne(art, programm_, meldungen_, this);
+bool Form1::oeffneFenster(Fensterart art) {
+    const bool uebernommen = oeffne(art, programm_, meldungen_, this);
     zeige();
+    return uebernommen;
 }
 
 // The dialog where the input stands that a finding names.

@@ -63,7 +63,7 @@ class Form1 : public QMainWindow {
     void zeigeTitel();
     void zeigeHinweise();
     void uebernimmFeld(double Grundmasse::*feld, double wert);
-    void oeffneFenster(Fensterart art);
+    bool oeffneFenster(Fensterart art);
     void oeffneZu(const QString& hinweis);
     void beende();
     void starteProjektmanager();

@@ -15,7 +15,12 @@ namespace {
 
 Antwort frageNach(Meldungen& meldungen, QWidget* fenster, const QString& text) {
     return meldungen.zeige(
-        fenster, {Symbol::frage, QStringLiteral("Wiederherstellung"), text, Knoepfe::jaNeinAbbrechen});
+        fenster, {Symbol::frage,
+                  QStringLiteral("Wiederherstellung"),
+                  text,
+                  Knoepfe::jaNeinAbbrechen,
+                  {QStringLiteral("Wiederherstellen"), QStringLiteral("Verwerfen"), QStringLiteral("Später")},
+                  {}});
 }
 
 QString zeitpunkt(const Kopieplatz& platz) {

@@ -1,5 +1,6 @@
 #include "ui/output/Seitenmaler.h"
 
+#include <QFontMetricsF>
 #include <utility>
 
 #include "ui/basics/Programm.h"

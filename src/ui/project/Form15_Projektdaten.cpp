@@ -11,14 +11,18 @@
 #include <utility>
 
 #include "files/Positionsdatei.h"
-#include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
+#include "ui/basics/Papierschrift.h"
 #include "ui/basics/Pfadwahl.h"
 #include "ui/basics/Programm.h"
 
 namespace rippenscheibe {
 
 namespace {
+
+// From the start of the project's name to the one of the position in the foot line of a page, mm.
+constexpr double fusszeilenplatz = 155 - 25;
 
 QLabel* schild(const QString& text, QWidget* feld) {
     auto* label = new QLabel(text, feld->parentWidget());
@@ -49,6 +53,13 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     projekt_->lineEdit()->setAccessibleName(QStringLiteral("Projekt"));
     grid->addWidget(schild(QStringLiteral("Projekt :"), projekt_), 0, 0);
     grid->addWidget(projekt_, 0, 1, 1, 2);
+
+    platz_ = new QLabel(
+        QStringLiteral("⚠ Der Name läuft in der Fußzeile des Ausdrucks in \"Position :\" hinein."), this);
+    platz_->setObjectName(QStringLiteral("Fusszeilenplatz"));
+    platz_->setWordWrap(true);
+    grid->addWidget(platz_, 1, 1, 1, 2);
+    connect(projekt_, &QComboBox::editTextChanged, this, &Form15::zeigeFusszeilenplatz);
 
     position_ = textfeld(grid, 1, QStringLiteral("Position :"));
     datum_ = textfeld(grid, 2, QStringLiteral("Datum :"));
@@ -102,10 +113,12 @@ void Form15::lade() {
     projekt_->setEditText(qtext(programm_.w.Projekt));
     position_->setText(qtext(programm_.w.Position));
     const bool leer = programm_.w.Datum.empty();
-    datum_->setText(leer ? QDate::currentDate().toString(QStringLiteral("dd.MM.yyyy"))
-                         : qtext(programm_.w.Datum));
+    if (leer) vorgeschlagenesDatum_ = QDate::currentDate().toString(QStringLiteral("dd.MM.yyyy"));
+    datum_->setText(leer ? vorgeschlagenesDatum_ : qtext(programm_.w.Datum));
     bemerkung_->setText(qtext(programm_.w.PositionsBemerkung));
     pfad_->setText(qtext(programm_.Positionspfad));
+    geladen_ = eingaben();
+    zeigeFusszeilenplatz();
 }
 
 void Form15::waehleProjekt(int eintrag) {
@@ -125,7 +138,11 @@ void Form15::merkeProjekt() {
 }
 
 void Form15::zurueckZumHauptfenster() {
+    if (!pfadIstSpeicherbar(meldungen_, *pfad_)) return;
+    ersetzeAnfuehrungszeichen(meldungen_, this, {projekt_, position_, datum_, bemerkung_});
     Wand& w = programm_.w;
+    // The date that the window filled in does not make an untouched position a changed one.
+    if (w.Datum.empty() && datum_->text() == vorgeschlagenesDatum_) w.Datum = utf8(vorgeschlagenesDatum_);
     const std::string vorher = positionstext(w);
     w.Projekt = utf8(projekt_->currentText());
     w.Position = utf8(position_->text());
@@ -135,21 +152,32 @@ void Form15::zurueckZumHauptfenster() {
     if (positionstext(w) != vorher) programm_.setzeGesichert(false);
     merkeProjekt();
     if (programm_.Positionspfad.empty()) programm_.Positionspfad = programm_.einstellungen.StandardPfad;
-    if (programm_.SpeichernUnter) sichernUnter();
     Q_EMIT programm_.geaendert();
     accept();
 }
 
-void Form15::sichernUnter() {
-    programm_.SpeichernUnter = false;
-    if (!programm_.Positionspfad.empty()) programm_.DialogOrdner = qtext(programm_.Positionspfad);
-    if (programm_.fenster != nullptr) programm_.fenster->sichernUnter(programm_, meldungen_, this);
+std::array<QString, 5> Form15::eingaben() const {
+    return {projekt_->currentText(), position_->text(), datum_->text(), bemerkung_->text(), pfad_->text()};
 }
 
-// Leaving without "Zurück zum Hauptfenster" changes nothing, and nothing is saved.
 void Form15::reject() {
-    programm_.SpeichernUnter = false;
-    Fenster::reject();
+    if (eingaben() == geladen_) return Fenster::reject();
+    const Antwort antwort =
+        meldungen_.zeige(this, {Symbol::frage,
+                                QStringLiteral("Projektdaten"),
+                                QStringLiteral("Sollen die geänderten Projektdaten übernommen werden ?"),
+                                Knoepfe::jaNeinAbbrechen,
+                                {QStringLiteral("Übernehmen"), QStringLiteral("Verwerfen"), {}},
+                                {}});
+    if (antwort == Antwort::ja) zurueckZumHauptfenster();
+    if (antwort == Antwort::nein) Fenster::reject();
+}
+
+// The foot line of a page leaves 130 mm between "Projekt :" and "Position :"; the page prints the name as it
+// is.
+void Form15::zeigeFusszeilenplatz() {
+    const QString zeile = QStringLiteral("Projekt :  ") + projekt_->currentText();
+    platz_->setVisible(papierbreite({.groesse = 8, .fett = true}, utf8(zeile)) > fusszeilenplatz);
 }
 
 }  // namespace rippenscheibe

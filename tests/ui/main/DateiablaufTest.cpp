@@ -7,7 +7,10 @@ namespace {
 class Ablauf : public Programmprobe {
   protected:
     Ablauf() {
-        ablauf.projektdaten = [this] { ++projektdialoge; };
+        ablauf.projektdaten = [this] {
+            ++projektdialoge;
+            return projektdatenUebernommen;
+        };
     }
     static double laengeIn(const QString& name) {
         Wand gelesen;
@@ -27,6 +30,7 @@ class Ablauf : public Programmprobe {
 
     Dateiablauf ablauf{programm, meldungen, nullptr};
     int projektdialoge = 0;
+    bool projektdatenUebernommen = false;
 };
 
 TEST_F(Ablauf, ASavedPositionIsNotAskedFor) {
@@ -206,8 +210,9 @@ TEST_F(Ablauf, AFailedSaveKeepsThePositionAndGivesTheActionUp) {
 
 TEST_F(Ablauf, AFailedSaveAsKeepsTheNameOfTheFile) {
     nenne("a.rsw");
-    ablauf.projektdaten = [this] { EXPECT_FALSE(ablauf.sichernDialog()); };
-    meldungen.dateien = {datei("fehlt/b.rsw")};
+    ASSERT_TRUE(QDir().mkpath(datei("b.rsw")));  // no file can go there
+    projektdatenUebernommen = true;
+    meldungen.dateien = {datei("b.rsw")};
     ablauf.sichernUnter();
     EXPECT_EQ(meldungen.gepiept, 1);
     EXPECT_EQ(programm.Dateiname, utf8(datei("a.rsw")));
@@ -223,10 +228,8 @@ TEST_F(Ablauf, TheFileDialogsBeginInTheFolderOfTheOpenFile) {
     programm.Dateiname = utf8(datei("a.rsw"));
     ablauf.oeffnen();
     // Saving under another name begins in the folder that the project dialog chose.
-    ablauf.projektdaten = [this] {
-        programm.DialogOrdner = QStringLiteral("/projekt");
-        ablauf.sichernDialog();
-    };
+    programm.Positionspfad = "/projekt";
+    projektdatenUebernommen = true;
     ablauf.sichernUnter();
     ASSERT_EQ(meldungen.gewaehlt.size(), 3U);
     EXPECT_EQ(meldungen.gewaehlt[0].ordner, QStringLiteral("/daten"));
@@ -239,13 +242,50 @@ TEST_F(Ablauf, SaveAsGoesThroughTheProjectDialogAndKeepsTheNameAfterACancel) {
     std::string waehrenddessen = "-";
     ablauf.projektdaten = [&] {
         waehrenddessen = programm.Dateiname;
-        EXPECT_TRUE(programm.SpeichernUnter);
         EXPECT_EQ(programm.Aktion, Dateiaktion::sichernUnter);
+        return false;
     };
     ablauf.sichernUnter();
     EXPECT_EQ(waehrenddessen, "");
     EXPECT_EQ(programm.Dateiname, utf8(datei("a.rsw")));
-    EXPECT_FALSE(programm.SpeichernUnter);
+    EXPECT_TRUE(meldungen.gewaehlt.empty());
+}
+
+TEST_F(Ablauf, AFolderThatIsNotThereIsAskedForAgain) {
+    meldungen.dateien = {datei("fehlt/a.rsw"), datei("a.rsw")};
+    ablauf.sichern();
+    ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_TRUE(meldungen.gezeigt[0].text.contains(datei("fehlt")));
+    EXPECT_TRUE(QFile::exists(datei("a.rsw")));
+}
+
+TEST_F(Ablauf, AFileThatAnotherProgramChangedIsNotOverwrittenUnasked) {
+    struct Fall {
+        Antwort antwort;
+        double laenge;      // in the file afterwards
+        bool unterAnderem;  // saved under another name
+    };
+    for (const Fall& fall :
+         {Fall{Antwort::ja, 7, false}, Fall{Antwort::nein, 6, true}, Fall{Antwort::abbrechen, 6, false}}) {
+        SCOPED_TRACE(static_cast<int>(fall.antwort));
+        ablauf.lade(gespeicherte("a.rsw", 4));
+        programm.DialogDateiname = datei("a.rsw");
+        ablauf.sichern();  // untouched by others: no question
+        EXPECT_TRUE(meldungen.gezeigt.empty());
+        gespeicherte("a.rsw", 6);
+        aendere();
+        QFile::remove(datei("b.rsw"));
+        meldungen.antworten = {fall.antwort};
+        meldungen.dateien = {datei("b.rsw")};
+        ablauf.sichern();
+        ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+        EXPECT_EQ(meldungen.gezeigt[0].worte.ja, QStringLiteral("Überschreiben"));
+        EXPECT_EQ(laengeIn(datei("a.rsw")), fall.laenge);
+        EXPECT_EQ(QFile::exists(datei("b.rsw")), fall.unterAnderem);
+        EXPECT_EQ(programm.Gesichert(), fall.antwort != Antwort::abbrechen);
+        meldungen.gezeigt.clear();
+        meldungen.dateien.clear();
+    }
 }
 
 class Wiederherstellung : public Programmprobe {
