@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +19,7 @@
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
+#include "ui/basics/Zieldatei.h"
 #include "ui/drawings/Ausgabe.h"
 #include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Form23_Text.h"
@@ -99,12 +99,12 @@ QWidget* Form23::baueSuchzeile() {
     connect(suchwort_, &QLineEdit::textChanged, this, &Form23::suche);
     connect(suchwort_, &QLineEdit::returnPressed, this, [this] { springe(1); });
 
-    // Esc leaves the search first, then the window.
-    auto* verbergen = new QAction(suchzeile_);
-    verbergen->setShortcut(QKeySequence(Qt::Key_Escape));
-    verbergen->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(verbergen, &QAction::triggered, this, &Form23::verbirgSuche);
-    suchzeile_->addAction(verbergen);
+    // Esc leaves the search first, wherever the focus is, then the window.
+    sucheBeenden_ = new QAction(this);
+    sucheBeenden_->setShortcut(QKeySequence(Qt::Key_Escape));
+    sucheBeenden_->setEnabled(false);
+    connect(sucheBeenden_, &QAction::triggered, this, &Form23::verbirgSuche);
+    addAction(sucheBeenden_);
     suchzeile_->hide();
     return suchzeile_;
 }
@@ -167,14 +167,18 @@ void Form23::lade() {
 
 void Form23::speichere() {
     const std::optional<QString> ziel =
-        meldungen_.sichern(this, {.titel = QStringLiteral("Speichern"),
-                                  .ordner = programm_.DialogOrdner,
-                                  .vorschlag = QFileInfo(qtext(programm_.Dateiname)).completeBaseName(),
-                                  .filter = QStringLiteral("Rich-Text-Format (*.RTF)"),
-                                  .endung = QStringLiteral("rtf")});
+        waehleZiel(meldungen_, this,
+                   {.titel = QStringLiteral("Speichern"),
+                    .ordner = dialogordner(programm_),
+                    .vorschlag = dateivorschlag(programm_) + QStringLiteral(".rtf"),
+                    .filter = QStringLiteral("Rich-Text-Format (*.RTF)"),
+                    .endung = QStringLiteral("rtf")});
     if (!ziel) return;
-    if (const auto fehler = schreibeDauerhaft(pfad(*ziel), alsRtf(fliesstextAus(*text_->document()))))
+    if (const auto fehler = schreibeDauerhaft(pfad(*ziel), alsRtf(fliesstextAus(*text_->document())))) {
         meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
+        return;
+    }
+    text_->document()->setModified(false);
 }
 
 // The text stays unlocked afterwards, and that is meant.
@@ -194,10 +198,13 @@ void Form23::fuegeSystembildEin() {
     stil.dezimalzeichen = dezimalzeichen();
     const Bildvorlage wand = bildvorlage(Zeichnung::ansicht, programm_.w);
     QApplication::clipboard()->setImage(bild(wand, aufloesungBild, stil));
+    // At the caret, whatever is selected: a found text stays where it is.
+    QTextCursor marke = text_->textCursor();
+    marke.clearSelection();
+    text_->setTextCursor(marke);
     // The text holds the picture for paper; what it shows is drawn for this screen.
     const double bildpunkte = 96.0 * text_->devicePixelRatioF();
-    fuegeBildEin(text_->textCursor(), png(wand, aufloesungBild, stil), wand.mm,
-                 bild(wand, bildpunkte, stil.aufSchirm()));
+    fuegeBildEin(marke, png(wand, aufloesungBild, stil), wand.mm, bild(wand, bildpunkte, stil.aufSchirm()));
     text_->ensureCursorVisible();
 }
 
@@ -206,6 +213,21 @@ void Form23::drucke() { oeffne(Fensterart::druck, programm_, meldungen_, this); 
 void Form23::speichereAlsPdf() {
     speicherePdf(programm_, meldungen_, this,
                  standardausdruck(programm_.w, programm_.einstellungen, liesLogo(programm_.ordner)));
+}
+
+// Esc and the cross of the window ask before an edited text is lost; "Zurück" does not, and that is meant.
+void Form23::reject() {
+    const bool geaendert = text_->document()->isModified();
+    if (geaendert &&
+        meldungen_.zeige(this, {Symbol::frage,
+                                QStringLiteral("Ergebnisse"),
+                                QStringLiteral("Der geänderte Text ist nicht gespeichert. Soll das Fenster "
+                                               "geschlossen werden ?"),
+                                Knoepfe::jaNein,
+                                {QStringLiteral("Schließen"), QStringLiteral("Weiter bearbeiten"), {}},
+                                Antwort::nein}) != Antwort::ja)
+        return;
+    Fenster::reject();
 }
 
 void Form23::done(int ergebnis) {
@@ -217,32 +239,29 @@ void Form23::done(int ergebnis) {
 
 void Form23::zeigeSuche() {
     suchzeile_->show();
+    sucheBeenden_->setEnabled(true);
     suchwort_->setFocus(Qt::ShortcutFocusReason);
     suchwort_->selectAll();
 }
 
 void Form23::verbirgSuche() {
     suchzeile_->hide();
+    sucheBeenden_->setEnabled(false);
     suchwort_->clear();
     text_->setFocus();
 }
 
-// Marks all places of the words and goes to the first from the caret on.
+// Finds all places of the words and goes to the first from the caret on.
 void Form23::suche(const QString& worte) {
     treffer_.clear();
     aktuellerTreffer_ = -1;
-    QList<QTextEdit::ExtraSelection> marken;
-    QColor farbe = palette().color(QPalette::Highlight);
-    farbe.setAlphaF(0.35F);
     QTextCursor stelle(text_->document());
     while (!worte.isEmpty()) {
         stelle = text_->document()->find(worte, stelle);
         if (stelle.isNull()) break;
         treffer_.push_back(stelle);
-        marken.push_back({stelle, {}});
-        marken.back().format.setBackground(farbe);
     }
-    text_->setExtraSelections(marken);
+    zeigeMarken();
     trefferzahl_->clear();
     if (worte.isEmpty()) return;
     if (treffer_.empty()) {
@@ -265,13 +284,29 @@ void Form23::springe(int schritt) {
     trefferzahl_->setText(QStringLiteral("%1 von %2").arg(aktuellerTreffer_ + 1).arg(anzahl));
 }
 
-// Marks the line of a utilisation and brings it to the upper third.
+// Lights all places of the words that are searched for, and the line of the chosen utilisation. Lighting
+// selects nothing, so that nothing can be typed or pasted over.
+void Form23::zeigeMarken() {
+    QColor farbe = palette().color(QPalette::Highlight);
+    farbe.setAlphaF(0.35F);
+    QList<QTextEdit::ExtraSelection> marken;
+    const auto marke = [&](const QTextCursor& ort, bool ganzeZeile) {
+        marken.push_back({ort, {}});
+        marken.back().format.setBackground(farbe);
+        marken.back().format.setProperty(QTextFormat::FullWidthSelection, ganzeZeile);
+    };
+    if (!zeile_.isNull()) marke(zeile_, true);
+    for (const QTextCursor& ort : treffer_) marke(ort, false);
+    text_->setExtraSelections(marken);
+}
+
+// Lights the line of a utilisation, puts the caret before it and brings it to the upper third.
 void Form23::zeigeZeile(int ausnutzung) {
     if (ausnutzung < 0 || ausnutzung >= static_cast<int>(zeilen_.size())) return;
-    QTextCursor zeile = zeilen_[static_cast<std::size_t>(ausnutzung)];
-    zeile.movePosition(QTextCursor::StartOfBlock);
-    zeile.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    text_->setTextCursor(zeile);
+    zeile_ = zeilen_[static_cast<std::size_t>(ausnutzung)];
+    zeile_.movePosition(QTextCursor::StartOfBlock);
+    zeigeMarken();
+    text_->setTextCursor(zeile_);
     QScrollBar* leiste = text_->verticalScrollBar();
     leiste->setValue(leiste->value() + text_->cursorRect().top() - text_->viewport()->height() / 3);
 }

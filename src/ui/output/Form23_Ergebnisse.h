@@ -5,6 +5,7 @@
 
 #include "ui/basics/Fenster.h"
 
+class QAction;
 class QLabel;
 class QLineEdit;
 
@@ -21,6 +22,7 @@ class Form23 : public Fenster {
   public:
     Form23(Programm& programm, Meldungen& meldungen, QWidget* parent);
 
+    void reject() override;
     void done(int ergebnis) override;
 
   private:
@@ -41,12 +43,16 @@ class Form23 : public Fenster {
     void suche(const QString& worte);
     void springe(int schritt);
     void zeigeZeile(int ausnutzung);
+    void zeigeMarken();
 
     Ergebnisfeld* text_;
     Ausnutzungsliste* liste_;
     std::vector<QTextCursor> zeilen_;  // of the utilisations; they move along with edits
 
+    QTextCursor zeile_;  // the one that is lit
+
     QWidget* suchzeile_;
+    QAction* sucheBeenden_;
     QLineEdit* suchwort_;
     QLabel* trefferzahl_;
     std::vector<QTextCursor> treffer_;

@@ -144,9 +144,15 @@ void fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QI
     cursor.insertImage(f);
 }
 
+QVariant Ergebnisdokument::loadResource(int art, const QUrl& name) {
+    return name.scheme() == QStringLiteral("data") ? QTextDocument::loadResource(art, name) : QVariant();
+}
+
+Ergebnisfeld::Ergebnisfeld(QWidget* parent) : QTextEdit(parent) { setDocument(new Ergebnisdokument(this)); }
+
 QMimeData* Ergebnisfeld::createMimeDataFromSelection() const {
     const QTextDocumentFragment auswahl(textCursor());
-    QTextDocument teil;
+    Ergebnisdokument teil;
     QTextCursor(&teil).insertFragment(auswahl);
     const Fliesstext text = fliesstextAus(teil);
     auto* daten = new QMimeData;
@@ -156,6 +162,25 @@ QMimeData* Ergebnisfeld::createMimeDataFromSelection() const {
     daten->setData(QStringLiteral("text/rtf"), rtf);
     daten->setData(QStringLiteral("application/rtf"), rtf);
     return daten;
+}
+
+// A picture that cannot be had from the document would be looked for on the disk when it is laid out: it goes
+// before that.
+void Ergebnisfeld::insertFromMimeData(const QMimeData* daten) {
+    if (!daten->hasHtml() || isReadOnly()) return QTextEdit::insertFromMimeData(daten);
+    Ergebnisdokument teil;
+    teil.setHtml(daten->html());
+    QTextCursor fremdes(&teil);
+    while (!fremdes.atEnd()) {
+        fremdes.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+        const QTextCharFormat f = fremdes.charFormat();
+        if (f.isImageFormat() && !f.toImageFormat().name().startsWith(datenkopf))
+            fremdes.removeSelectedText();
+        else
+            fremdes.clearSelection();
+    }
+    textCursor().insertFragment(QTextDocumentFragment(&teil));
+    ensureCursorVisible();
 }
 
 }  // namespace rippenscheibe

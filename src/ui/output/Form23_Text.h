@@ -23,15 +23,28 @@ Fliesstext fliesstextAus(const QTextDocument& dokument);
 // shows.
 void fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QImage& schirmbild);
 
+// A document that reads no files: what HTML names is loaded only when the name itself holds it.
+class Ergebnisdokument : public QTextDocument {
+    Q_OBJECT
+
+  public:
+    using QTextDocument::QTextDocument;
+
+  protected:
+    QVariant loadResource(int art, const QUrl& name) override;
+};
+
 // The rich-text box of the result view. What is copied from it is plain text, HTML and RTF at once.
 class Ergebnisfeld : public QTextEdit {
     Q_OBJECT
 
   public:
-    using QTextEdit::QTextEdit;
+    explicit Ergebnisfeld(QWidget* parent);
 
   protected:
     QMimeData* createMimeDataFromSelection() const override;
+    // Takes in what HTML says without the files that it names.
+    void insertFromMimeData(const QMimeData* daten) override;
 };
 
 }  // namespace rippenscheibe

@@ -10,6 +10,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -55,6 +56,7 @@ Form6::Form6(Programm& programm, Meldungen& meldungen, QWidget* parent)
     fortschritt_->setAccessibleName(QStringLiteral("Fortschritt"));
     fortschritt_->setTextVisible(false);
     fortschritt_->setFixedWidth(25 * raster);
+    fortschritt_->hide();  // until a job starts
     fusszeile()->insertWidget(0, fortschritt_);
 
     QPushButton* start = schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Drucken"));
@@ -129,6 +131,7 @@ QGroupBox* Form6::baueUmfang() {
     // No line of the report depends on this box, and that is meant: the proof is printed when it was made.
     QCheckBox* lagesicherheit =
         ankreuzfeld(QStringLiteral("Check3"), QStringLiteral("Nachweis der Lagesicherheit drucken"));
+    lagesicherheit->setChecked(true);
     for (QCheckBox* feld : {bemerkungen_, systemgrafik_, randbedingungen_, lagesicherheit})
         reihe->addWidget(feld);
     return rahmen;
@@ -198,7 +201,6 @@ QWidget* Form6::baueVorschau() {
     seitenanzahl_->setObjectName(QStringLiteral("Seitenanzahl"));
     seitenanzahl_->setForegroundRole(QPalette::PlaceholderText);
     leiste->addWidget(seitenanzahl_);
-    leiste->addStretch(1);
     const auto knopf = [&](const QString& name, const QString& text, auto&& tue) {
         auto* k = new QToolButton(spalte);
         k->setObjectName(name);
@@ -208,6 +210,12 @@ QWidget* Form6::baueVorschau() {
         connect(k, &QToolButton::clicked, vorschau_, tue);
         leiste->addWidget(k);
     };
+    knopf(QStringLiteral("VorigeSeite"), QStringLiteral("Vorige Seite"),
+          [this] { vorschau_->setCurrentPage(std::max(vorschau_->currentPage() - 1, 1)); });
+    knopf(QStringLiteral("NaechsteSeite"), QStringLiteral("Nächste Seite"), [this] {
+        vorschau_->setCurrentPage(std::min(vorschau_->currentPage() + 1, vorschau_->pageCount()));
+    });
+    leiste->addStretch(1);
     knopf(QStringLiteral("Kleiner"), QStringLiteral("Kleiner"), [this] { vorschau_->zoomOut(); });
     knopf(QStringLiteral("Groesser"), QStringLiteral("Größer"), [this] { vorschau_->zoomIn(); });
     knopf(QStringLiteral("Seitenbreite"), QStringLiteral("Seitenbreite"),
@@ -217,6 +225,11 @@ QWidget* Form6::baueVorschau() {
     reihe->addLayout(leiste);
     reihe->addWidget(vorschau_, 1);
     connect(vorschau_, &QPrintPreviewWidget::paintRequested, this, &Form6::zeigeVorschau);
+    connect(vorschau_, &QPrintPreviewWidget::previewChanged, this, &Form6::zeigeSeite);
+    // The page in view changes by scrolling, which the preview does not tell. It counts it on the same
+    // signal, and connected first.
+    for (auto* leisteDaneben : vorschau_->findChildren<QScrollBar*>())
+        connect(leisteDaneben, &QScrollBar::valueChanged, this, &Form6::zeigeSeite);
     return spalte;
 }
 
@@ -279,11 +292,12 @@ Ausdruck Form6::ausdruck() const {
 
 void Form6::zeigeVorschau(QPrinter* drucker) {
     const Ausdruck a = ausdruck();
-    aufGeraet(*drucker, programm_.w, a, [&](Zeichenflaeche& f) {
-        const int seiten = setze(f, programm_.w, a).seiten;
-        seitenanzahl_->setText(seiten == 1 ? QStringLiteral("1 Seite")
-                                           : QStringLiteral("%1 Seiten").arg(seiten));
-    });
+    aufGeraet(*drucker, programm_.w, a, [&](Zeichenflaeche& f) { setze(f, programm_.w, a); });
+}
+
+void Form6::zeigeSeite() {
+    seitenanzahl_->setText(
+        QStringLiteral("Seite %1 von %2").arg(vorschau_->currentPage()).arg(vorschau_->pageCount()));
 }
 
 void Form6::uebernimmZaehlung() {
@@ -312,7 +326,7 @@ void Form6::drucke() {
     optionen_->setEnabled(true);
     druckt_ = false;
     if (gestoppt_) setWindowTitle(QStringLiteral(" Drucken"));
-    fortschritt_->reset();
+    fortschritt_->hide();
     // When the printer fails the window stays as it is, and nothing is reported.
     if (gesendet) accept();
 }
@@ -341,6 +355,7 @@ bool Form6::setzeUndSende() {
 // A moving bar while the job starts; it measures nothing.
 void Form6::zeigeAnlauf() {
     constexpr int schritte = 4000;
+    fortschritt_->show();
     fortschritt_->setRange(1, schritte);
     for (int i = 1; i <= schritte; ++i) fortschritt_->setValue(i);
     pruefeStopp();

@@ -45,6 +45,7 @@ class Form6 : public Fenster {
     // What the controls say.
     Ausdruck ausdruck() const;
     void zeigeVorschau(QPrinter* drucker);
+    void zeigeSeite();
     // Takes the page number settings over.
     void uebernimmZaehlung();
     void drucke();

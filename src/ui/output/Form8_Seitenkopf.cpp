@@ -14,6 +14,7 @@
 
 #include "report/Seiten.h"
 #include "report/Seitenkopf.h"
+#include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Pfadwahl.h"
 #include "ui/basics/Programm.h"
@@ -377,6 +378,11 @@ void Form8::setzeVoreinstellung() {
 }
 
 void Form8::uebernehmen() {
+    if (!pfadIstSpeicherbar(meldungen_, *pfad_)) return;
+    if (!texte_[0]->isReadOnly()) {
+        ersetzeAnfuehrungszeichen(meldungen_, this, {texte_[0], texte_[1]});
+        uebernimmTexte();
+    }
     Einstellungen& e = programm_.einstellungen;
     e.StandardPfad = pfad_->text().isEmpty() ? std::string(vorgabepfad) : utf8(pfad_->text());
     programm_.DialogOrdner = qtext(e.StandardPfad);

@@ -10,6 +10,7 @@
 #include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
+#include "ui/basics/Zieldatei.h"
 #include "ui/output/Seitenmaler.h"
 
 namespace rippenscheibe {
@@ -78,15 +79,13 @@ Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
 
 std::optional<Druckergebnis> speicherePdf(Programm& programm, Meldungen& meldungen, QWidget* fenster,
                                           const Ausdruck& ausdruck) {
-    const QString position = programm.Dateiname.empty()
-                                 ? qtext(programm.w.Position)
-                                 : QFileInfo(qtext(programm.Dateiname)).completeBaseName();
     const std::optional<QString> ziel =
-        meldungen.sichern(fenster, {.titel = QStringLiteral("Als PDF speichern"),
-                                    .ordner = programm.DialogOrdner,
-                                    .vorschlag = position + QStringLiteral(".pdf"),
-                                    .filter = QStringLiteral("PDF-Datei (*.pdf)"),
-                                    .endung = QStringLiteral("pdf")});
+        waehleZiel(meldungen, fenster,
+                   {.titel = QStringLiteral("Als PDF speichern"),
+                    .ordner = dialogordner(programm),
+                    .vorschlag = dateivorschlag(programm) + QStringLiteral(".pdf"),
+                    .filter = QStringLiteral("PDF-Datei (*.pdf)"),
+                    .endung = QStringLiteral("pdf")});
     if (!ziel) return std::nullopt;
     const Pdf datei = pdf(programm.w, ausdruck);
     if (const auto fehler = schreibeDauerhaft(pfad(*ziel), datei.bytes.toStdString())) {

@@ -20,6 +20,8 @@ class Ergebnisansicht : public Gerechnet {
     Fliesstext erwartet() const { return fliesstext(bericht(programm.w, Form::ansicht)); }
     // The text of the view, with the line end of its last line.
     std::string gezeigt() const { return utf8(text->toPlainText()) + "\n"; }
+    // The line that a bar has lit.
+    std::string beleuchtet() const { return utf8(text->extraSelections().value(0).cursor.block().text()); }
     QByteArray gespeichert() {
         meldungen.dateien = {datei("bericht.rtf")};
         klicke(*fenster, "ComSave");
@@ -78,7 +80,8 @@ TEST_F(Ergebnisansicht, EditsAndThePictureAreSavedWhereTheyAre) {
 
 TEST_F(Ergebnisansicht, ASaveThatFailsIsReportedAndACancelIsNot) {
     oeffne();
-    meldungen.dateien = {datei("nirgends/a.rtf")};
+    ASSERT_TRUE(QDir().mkpath(datei("a.rtf")));  // no file can go there
+    meldungen.dateien = {datei("a.rtf")};
     klicke(*fenster, "ComSave");
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
     klicke(*fenster, "ComSave");
@@ -95,6 +98,27 @@ TEST_F(Ergebnisansicht, ACopyIsTextHtmlAndRtfAndUnlocks) {
     EXPECT_FALSE(text->isReadOnly());
     EXPECT_FALSE(text->textCursor().hasSelection());
     EXPECT_EQ(text->textCursor().position(), 0);
+}
+
+// What HTML names is not fetched from the disk; a picture that it holds is shown.
+TEST_F(Ergebnisansicht, PastedHtmlLoadsNoFiles) {
+    QImage bild(4, 4, QImage::Format_RGB32);
+    bild.fill(Qt::red);
+    ASSERT_TRUE(bild.save(datei("fremd.png")));
+    oeffne();
+    klicke(*fenster, "Command2");
+    QMimeData daten;
+    daten.setHtml(QStringLiteral("<p>neu</p><img src=\"%1\"><img src=\"%2\">")
+                      .arg(QUrl::fromLocalFile(datei("fremd.png")).toString(), datei("fremd.png")));
+    auto* neu = new QMimeData;
+    neu->setHtml(daten.html());
+    QApplication::clipboard()->setMimeData(neu);
+    text->paste();
+    EXPECT_TRUE(text->toPlainText().startsWith(QStringLiteral("neu")));
+    EXPECT_FALSE(gespeichert().contains("pngblip"));
+    text->selectAll();
+    text->copy();
+    EXPECT_FALSE(QApplication::clipboard()->mimeData()->data(QStringLiteral("text/rtf")).contains("pngblip"));
 }
 
 // A picture that is copied with its text is still a picture where it is pasted.
@@ -144,7 +168,8 @@ TEST_F(Ergebnisansicht, BarsStandInTheOrderOfTheReportAndLeadToTheirLines) {
         EXPECT_EQ(anzeige.endsWith(QStringLiteral("nicht erfüllt")), !absatz.ausnutzung->erfuellt);
         if (!absatz.ausnutzung->erfuellt) ++nichtErfuellt;
         liste.setCurrentRow(zeile);
-        EXPECT_EQ(utf8(text->textCursor().selectedText()), absatz.laeufe.at(0).text);
+        EXPECT_EQ(beleuchtet(), absatz.laeufe.at(0).text);
+        EXPECT_FALSE(text->textCursor().hasSelection());
         EXPECT_TRUE(text->viewport()->rect().contains(text->cursorRect().center()));
         ++zeile;
     }
@@ -154,7 +179,7 @@ TEST_F(Ergebnisansicht, BarsStandInTheOrderOfTheReportAndLeadToTheirLines) {
     text->moveCursor(QTextCursor::Start);
     text->textCursor().insertText(QStringLiteral("neu\nneu\n"));
     liste.setCurrentRow(0);
-    EXPECT_TRUE(text->textCursor().selectedText().startsWith(QStringLiteral("Ausnutzung Scheibenschub")));
+    EXPECT_TRUE(beleuchtet().starts_with("Ausnutzung Scheibenschub"));
 }
 
 TEST_F(Ergebnisansicht, AUtilisationWithoutResistanceIsInfinite) {
@@ -173,15 +198,30 @@ TEST_F(Ergebnisansicht, SearchGoesRoundAndEscLeavesItFirst) {
     ASSERT_GT(treffer, 2);
     EXPECT_EQ(zahl.text(), QStringLiteral("1 von %1").arg(treffer));
     EXPECT_EQ(text->textCursor().selectedText(), QStringLiteral("Beplankung 2"));
+    // A picture goes in beside a found text, not over it.
+    const QString vorBild = text->toPlainText();
+    klicke(*fenster, "Command1");
+    EXPECT_EQ(text->toPlainText().remove(QChar::ObjectReplacementCharacter), vorBild);
+    text->moveCursor(QTextCursor::Start);
+    tippe(wort, QStringLiteral("beplankung 2"));
     klicke(*fenster, "Voriger");
     EXPECT_EQ(zahl.text(), QStringLiteral("%1 von %1").arg(treffer));
     QTest::keyClick(&wort, Qt::Key_Return);
     EXPECT_EQ(zahl.text(), QStringLiteral("1 von %1").arg(treffer));
     tippe(wort, QStringLiteral("gibt es nicht"));
     EXPECT_EQ(zahl.text(), QStringLiteral("kein Treffer"));
-    QTest::keyClick(&wort, Qt::Key_Escape);
+    text->setFocus();  // wherever the focus is
+    QTest::keyClick(text, Qt::Key_Escape);
     EXPECT_FALSE(wort.isVisible());
     EXPECT_TRUE(fenster->isVisible());
+    // The picture is an edit: Esc asks before it is lost.
+    QTest::keyClick(text, Qt::Key_Escape);
+    EXPECT_TRUE(fenster->isVisible());
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+    gespeichert();
+    QTest::keyClick(text, Qt::Key_Escape);
+    EXPECT_FALSE(fenster->isVisible());
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
 }
 
 TEST_F(Ergebnisansicht, ThePrintWindowOpensFromHere) {

@@ -156,7 +156,8 @@ TEST_F(Druckfenster, APrinterThatFailsLeavesTheWindowOpen) {
 TEST_F(Druckfenster, APdfIsSavedAsShown) {
     const auto fenster = neu();
     klicke(*fenster, "Option1(0)");
-    meldungen.dateien = {datei("nirgends/a.pdf"), datei("a.pdf")};
+    ASSERT_TRUE(QDir().mkpath(datei("ordner.pdf")));  // no file can go there
+    meldungen.dateien = {datei("ordner.pdf"), datei("a.pdf")};
     klicke(*fenster, "ComPdf");
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
     EXPECT_EQ(meldungen.gezeigt[0].symbol, Symbol::kritisch);
@@ -165,7 +166,7 @@ TEST_F(Druckfenster, APdfIsSavedAsShown) {
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
     EXPECT_EQ(letzteSeite(), int(inhalt(datei("a.pdf")).count("/Type /Page\n")));
     EXPECT_EQ(wert(*fenster, "Textbox1").wert(), 1);  // printing it now begins with the same page
-    EXPECT_EQ(meldungen.gewaehlt[1].vorschlag, QStringLiteral("A 4.pdf"));
+    EXPECT_EQ(meldungen.gewaehlt[1].vorschlag, QStringLiteral("A 4-Außenwand im Sogbereich.pdf"));
     klicke(*fenster, "ComPdf");  // cancelled
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
 }
@@ -177,9 +178,12 @@ TEST_F(Druckfenster, ThePreviewCountsThePagesOfTheChosenForm) {
         QTest::qWait(50);
         return finde<QLabel>(*fenster, "Seitenanzahl").text();
     };
-    EXPECT_EQ(zahl(), QStringLiteral("8 Seiten"));
+    EXPECT_EQ(zahl(), QStringLiteral("Seite 1 von 8"));
+    klicke(*fenster, "NaechsteSeite");
+    EXPECT_EQ(zahl(), QStringLiteral("Seite 2 von 8"));
+    klicke(*fenster, "VorigeSeite");
     klicke(*fenster, "Check4");
-    EXPECT_EQ(zahl(), QStringLiteral("6 Seiten"));
+    EXPECT_EQ(zahl(), QStringLiteral("Seite 1 von 6"));
 }
 
 TEST_F(Druckfenster, AllPagesClearsPagesAndSelectionAndItsFalseDoesNothing) {
