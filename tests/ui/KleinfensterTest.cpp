@@ -17,8 +17,10 @@
 #include "ui/help/Handbuch.h"
 #include "ui/input/Form16_VMKatalog.h"
 #include "ui/input/Form5_Verbindungsmittel.h"
+#include "ui/main/Dateiablauf.h"
 #include "ui/main/Fensterfabrik.h"
 #include "ui/main/Form0_Startbild.h"
+#include "ui/output/Form8_Seitenkopf.h"
 #include "ui/project/Form15_Projektdaten.h"
 #include "ui/project/Form222_Bemerkungen.h"
 #include "ui/project/Form800_Textvorlagen.h"
@@ -198,29 +200,84 @@ TEST_F(Kleinfenster, AnEmptyFolderBecomesTheDefaultOneAfterTheProjectIsStored) {
 }
 
 TEST_F(Kleinfenster, SavingUnderANameProposesPositionAndRemark) {
-    programm->SpeichernUnter = true;
+    Dateiablauf ablauf(*programm, meldungen, nullptr);
     meldungen.dateien = {datei("wand.rsw")};
-    Form15 fenster(*programm, meldungen);
-    setze(fenster, "Text1(1)", "W7");
-    setze(fenster, "Text1(3)", "Giebel");
-    setze(fenster, "Text1(0)", "/projekte/");
-    klick(fenster, "ComEnde");
+    ablauf.projektdaten = [&] {
+        Form15 fenster(*programm, meldungen);
+        setze(fenster, "Text1(1)", "W7");
+        setze(fenster, "Text1(3)", "Giebel");
+        setze(fenster, "Text1(0)", "/projekte/");
+        klick(fenster, "ComEnde");
+        return fenster.result() == QDialog::Accepted;
+    };
+    ablauf.sichernUnter();
     ASSERT_EQ(meldungen.gewaehlt.size(), 1U);
     EXPECT_EQ(meldungen.gewaehlt[0].vorschlag, QStringLiteral("W7-Giebel"));
     EXPECT_EQ(meldungen.gewaehlt[0].ordner, QStringLiteral("/projekte/"));
     EXPECT_TRUE(QFile::exists(datei("wand.rsw")));
-    EXPECT_FALSE(programm->SpeichernUnter);
     EXPECT_TRUE(programm->Gesichert());
 }
 
-TEST_F(Kleinfenster, ClosingTheProjectDataTakesNothingOverAndSavesNothing) {
-    programm->SpeichernUnter = true;
+TEST_F(Kleinfenster, ClosingChangedProjectDataAsks) {
+    for (const Antwort antwort : {Antwort::ja, Antwort::nein, Antwort::abbrechen}) {
+        SCOPED_TRACE(static_cast<int>(antwort));
+        programm->w.Position = "1";
+        meldungen.gezeigt.clear();
+        Form15 fenster(*programm, meldungen);
+        fenster.show();
+        setze(fenster, "Text1(1)", "W7");
+        meldungen.antworten = {antwort};
+        QTest::keyClick(&fenster, Qt::Key_Escape);
+        EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+        EXPECT_EQ(programm->w.Position, antwort == Antwort::ja ? "W7" : "1");
+        EXPECT_EQ(fenster.isVisible(), antwort == Antwort::abbrechen);
+    }
+    Form15 unberuehrt(*programm, meldungen);
+    unberuehrt.reject();
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+}
+
+TEST_F(Kleinfenster, TheDateThatTheWindowFillsInIsNoChange) {
     Form15 fenster(*programm, meldungen);
-    setze(fenster, "Text1(1)", "W7");
-    fenster.reject();
-    EXPECT_EQ(programm->w.Position, "1");
-    EXPECT_FALSE(programm->SpeichernUnter);
-    EXPECT_TRUE(meldungen.gewaehlt.empty());
+    klick(fenster, "ComEnde");
+    EXPECT_FALSE(programm->w.Datum.empty());
+    EXPECT_TRUE(programm->Gesichert());
+}
+
+// Each text that the files hold between double quotes, with one in it.
+TEST_F(Kleinfenster, DoubleQuotesBecomeSingleOnesWithOneNoteAndNothingIsLost) {
+    for (const char* name : {"A", "B", "C"}) programm->projekte.eintraege.push_back({name, "/p/"});
+    {
+        Form15 fenster(*programm, meldungen);
+        feld<QComboBox>(fenster, "Combo1")->setEditText(QStringLiteral("Haus \"Süd\", 2"));
+        setze(fenster, "Text1(3)", "Achse \"B\"");
+        klick(fenster, "ComEnde");
+        EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+    }
+    {
+        Form222 fenster(*programm, meldungen);
+        feld<QPlainTextEdit>(fenster, "Text2")->setPlainText(QStringLiteral("\"a\"\nb"));
+        fenster.reject();  // Esc stores too
+        EXPECT_EQ(meldungen.gezeigt.size(), 2U);
+        EXPECT_EQ(programm->w.Vorbemerkungen[0], "'a'");
+        EXPECT_EQ(programm->w.Vorbemerkungen[1], "b");
+    }
+    {
+        Form8 fenster(*programm, meldungen, nullptr);
+        feld<QListWidget>(fenster, "List1")->setCurrentRow(1);
+        setze(fenster, "Text1", "Büro \"Nord\"");
+        setze(fenster, "Text3", "/da\"ten/");
+        klick(fenster, "Command3");  // a folder with a quote is refused
+        EXPECT_EQ(fenster.result(), QDialog::Rejected);
+        setze(fenster, "Text3", "/daten/");
+        klick(fenster, "Command3");
+        EXPECT_EQ(programm->einstellungen.Kopfzeile1, "Büro 'Nord'");
+        EXPECT_EQ(meldungen.gezeigt.size(), 4U);
+    }
+    neuStart();
+    ASSERT_EQ(programm->projekte.eintraege.size(), 5U);
+    EXPECT_EQ(programm->projekte.eintraege[3].name, "C");
+    EXPECT_EQ(programm->projekte.eintraege[4].name, "Haus 'Süd', 2");
 }
 
 TEST_F(Kleinfenster, PathChooserEndsTheFolderWithASeparatorOnlyWhenItIsTakenOver) {
@@ -252,6 +309,16 @@ TEST_F(Kleinfenster, AFourthLineOfThePreliminaryRemarksIsUndone) {
     text->setPlainText(QStringLiteral("1\n2\n3"));
     text->setPlainText(QStringLiteral("1\n2\n3\n4"));
     EXPECT_EQ(text->toPlainText(), QStringLiteral("1\n2\n3"));
+    // Only the last change is undone: what was typed before it stays, and so do caret and undo.
+    text->setPlainText(QStringLiteral("ab\nzwei\ndrei"));
+    text->moveCursor(QTextCursor::Start);
+    QTest::keyClicks(text, QStringLiteral("x"));
+    text->moveCursor(QTextCursor::Right);
+    text->insertPlainText(QStringLiteral("1\n2"));
+    EXPECT_EQ(text->toPlainText(), QStringLiteral("xab\nzwei\ndrei"));
+    EXPECT_EQ(text->textCursor().position(), 2);
+    EXPECT_TRUE(text->document()->isUndoAvailable());
+    text->setPlainText(QStringLiteral("1\n2\n3"));
     feld<QPlainTextEdit>(fenster, "Text1")->setPlainText(QStringLiteral("eins\n\ndrei"));
     klick(fenster, "ComBem");
     EXPECT_EQ(programm->w.Vorbemerkungen[2], "3");
@@ -308,6 +375,26 @@ TEST_F(Kleinfenster, NoTemplateIsShownBeforeOneIsChosen) {
     EXPECT_EQ(fenster.text(), "");
     QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualItemRect(liste->item(0)).center());
     EXPECT_EQ(fenster.text(), "eins");
+}
+
+TEST_F(Kleinfenster, ATemplateWithoutANameOrWithTooManyLinesIsNotTaken) {
+    Textvorlagen vorlagen;
+    const auto pfadname = programm->datei(vorlagenVorbemerkungen);
+    ASSERT_FALSE(sichereTextvorlage(pfadname, {"kurz", "1\r\n2\r\n3"}, vorlagen));
+    ASSERT_FALSE(sichereTextvorlage(pfadname, {"lang", "1\r\n2\r\n3\r\n4"}, vorlagen));
+    Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::vorbemerkungen);
+    auto* liste = feld<QListWidget>(fenster, "List1");
+    for (const int zeile : {0, 1}) {
+        liste->setCurrentRow(zeile);
+        EXPECT_EQ(fenster.text(), "1\r\n2\r\n3");
+        for (const char* knopf : {"ComBem", "Command3"})
+            EXPECT_EQ(feld(fenster, knopf)->isEnabled(), zeile == 0);
+        EXPECT_EQ(feld(fenster, "VorlageZuLang")->isHidden(), zeile == 0);
+    }
+    klick(fenster, "Command2");
+    klick(fenster, "Command3");
+    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
+    EXPECT_EQ(liesTextvorlagen(pfadname).size(), 2U);
 }
 
 TEST_F(Kleinfenster, ATemplateThatCannotBeWrittenIsReported) {
@@ -369,6 +456,22 @@ TEST_F(EigeneMaterialienFenster, EditingOverwritesTheRowAndValuesOutOfRangeAreHe
     EXPECT_DOUBLE_EQ(tabelle()(2, 1).value(), 4);
     EXPECT_DOUBLE_EQ(tabelle()(7, 1).value(), 5);
     EXPECT_DOUBLE_EQ(tabelle()(20, 1).value(), 42);
+}
+
+TEST_F(EigeneMaterialienFenster, ABegunMaterialIsNotLostUnasked) {
+    Form99 fenster(*programm, meldungen);
+    legeAn(fenster, "A", "1");
+    fenster.show();
+    klick(fenster, "Command2(0)");
+    for (const char* name : {"Combo1", "Command2(0)", "Command2(1)", "Command2(2)"})
+        EXPECT_FALSE(feld(fenster, name)->isEnabled()) << name;
+    QTest::keyClick(&fenster, Qt::Key_Escape);
+    EXPECT_TRUE(fenster.isVisible());
+    meldungen.antworten = {Antwort::ja};
+    fenster.close();
+    EXPECT_FALSE(fenster.isVisible());
+    EXPECT_EQ(meldungen.gezeigt.size(), 2U);
+    EXPECT_EQ(tabelle().zeilen.size(), 1U);
 }
 
 TEST_F(EigeneMaterialienFenster, TheLastMaterialStaysAndDeletingAsks) {

@@ -2,45 +2,34 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
-#include <QTextCursor>
 #include <QVBoxLayout>
 
 #include "files/Positionsdatei.h"
-#include "files/Textvorlagen.h"
 #include "model/Bemerkungen.h"
+#include "ui/basics/Freitext.h"
+#include "ui/basics/Papierschrift.h"
 #include "ui/basics/Programm.h"
+#include "ui/project/Bemerkungsfeld.h"
 #include "ui/project/Form800_Textvorlagen.h"
 
 namespace rippenscheibe {
 
-std::string textAus(const QPlainTextEdit& feld) {
-    return utf8(feld.toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+namespace {
+
+// The printable width: of the preliminary remarks, in Arial 10, and of the 82 characters in Courier New 10
+// that a line of the closing remarks takes.
+constexpr double breiteVorbemerkung = 175;  // mm
+constexpr int zeichenZusatzbemerkung = 82;
+const Schrift schriftZusatzbemerkung{.name = "Courier New"};
+
+double breiteZusatzbemerkung() {
+    return papierbreite(schriftZusatzbemerkung, std::string(zeichenZusatzbemerkung, '0'));
 }
 
-void zeigeText(QPlainTextEdit& feld, std::string_view text) {
-    feld.setPlainText(qtext(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-}
-
-Zeilengrenze::Zeilengrenze(QPlainTextEdit* feld)
-    : QObject(feld), feld_(feld), letzterGuter_(feld->toPlainText()) {
-    connect(feld, &QPlainTextEdit::textChanged, this, &Zeilengrenze::pruefe);
-}
-
-void Zeilengrenze::pruefe() {
-    if (passtInVorbemerkungen(textAus(*feld_))) {
-        letzterGuter_ = feld_->toPlainText();
-        letzteStelle_ = feld_->textCursor().position();
-        return;
-    }
-    const QSignalBlocker still(feld_);
-    feld_->setPlainText(letzterGuter_);
-    QTextCursor marke = feld_->textCursor();
-    marke.setPosition(std::min(letzteStelle_, static_cast<int>(letzterGuter_.size())));
-    feld_->setTextCursor(marke);
-}
+}  // namespace
 
 Form222::Form222(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form222"),
@@ -59,7 +48,7 @@ Form222::Form222(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
     QPushButton* zurueck = schaltflaeche(QStringLiteral("ComBem"), QStringLiteral("Zurück"));
     zurueck->setToolTip(QStringLiteral("Zurück zum Hauptfenster"));
-    connect(zurueck, &QPushButton::clicked, this, &Form222::uebernehmen);
+    connect(zurueck, &QPushButton::clicked, this, &QDialog::accept);
     vor_->setFocus();
 }
 
@@ -68,16 +57,19 @@ QPlainTextEdit* Form222::textfeld(const QString& name, const QString& titel, con
                                   const QString& loeschen, int zeilen) {
     auto* rahmen = new QGroupBox(titel, this);
     auto* spalte = new QVBoxLayout(rahmen);
-    auto* feld = new QPlainTextEdit(rahmen);
+    const bool vor = name == QStringLiteral("Text2");
+    auto* feld = vor ? new Bemerkungsfeld({}, breiteVorbemerkung, rahmen)
+                     : new Bemerkungsfeld(schriftZusatzbemerkung, breiteZusatzbemerkung(), rahmen);
     feld->setObjectName(name);
     feld->setAccessibleName(titel.section(QStringLiteral(" ("), 0, 0));
-    feld->setTabChangesFocus(true);
-    feld->setLineWrapMode(QPlainTextEdit::NoWrap);
-    const int hoehe = feld->fontMetrics().lineSpacing() * zeilen + 16;
-    feld->setMinimumSize(620, hoehe + feld->fontMetrics().lineSpacing());
+    feld->setAccessibleDescription(QStringLiteral("Die gestrichelte Linie zeigt die druckbare Breite"));
+    feld->setMinimumSize(420, feld->fontMetrics().lineSpacing() * (zeilen + 1) + 16);
     spalte->addWidget(feld, 1);
 
     auto* zeile = new QHBoxLayout;
+    auto* breite = new QLabel(QStringLiteral("gestrichelt: druckbare Breite"), rahmen);
+    breite->setForegroundRole(QPalette::PlaceholderText);
+    zeile->addWidget(breite);
     zeile->addStretch(1);
     const auto knopf = [&](const QString& objekt, const QString& text, const QString& hilfe) {
         auto* k = new QPushButton(text, rahmen);
@@ -94,8 +86,7 @@ QPlainTextEdit* Form222::textfeld(const QString& name, const QString& titel, con
     spalte->addLayout(zeile);
     inhalt()->addWidget(rahmen, zeilen);
 
-    const Vorlagenart art =
-        name == QStringLiteral("Text2") ? Vorlagenart::vorbemerkungen : Vorlagenart::zusatzbemerkungen;
+    const Vorlagenart art = vor ? Vorlagenart::vorbemerkungen : Vorlagenart::zusatzbemerkungen;
     connect(laden, &QPushButton::clicked, this, [this, feld, art] {
         Textvorlagenfenster fenster(programm_, meldungen_, this, art);
         if (fenster.exec() == QDialog::Accepted) zeigeText(*feld, fenster.text());
@@ -104,13 +95,18 @@ QPlainTextEdit* Form222::textfeld(const QString& name, const QString& titel, con
     return feld;
 }
 
-void Form222::uebernehmen() {
+void Form222::done(int ergebnis) {
+    uebernimm();
+    Fenster::done(ergebnis);
+}
+
+void Form222::uebernimm() {
+    ersetzeAnfuehrungszeichen(meldungen_, this, {vor_, zusatz_});
     const std::string vorher = positionstext(programm_.w);
     setzeZusatzbemerkungen(programm_.w, textAus(*zusatz_));
     setzeVorbemerkungen(programm_.w, textAus(*vor_));
     if (positionstext(programm_.w) != vorher) programm_.setzeGesichert(false);
     Q_EMIT programm_.geaendert();
-    accept();
 }
 
 }  // namespace rippenscheibe

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "ui/basics/Fenster.h"
 
 class QPlainTextEdit;
@@ -16,32 +14,16 @@ class Form222 : public Fenster {
   public:
     Form222(Programm& programm, Meldungen& meldungen, QWidget* parent = nullptr);
 
+    // However the window is left, its texts are stored.
+    void done(int ergebnis) override;
+
   private:
     QPlainTextEdit* textfeld(const QString& name, const QString& titel, const QString& vorlagen,
                              const QString& loeschen, int zeilen);
-    void uebernehmen();
+    void uebernimm();
 
     QPlainTextEdit* vor_;
     QPlainTextEdit* zusatz_;
 };
-
-// Keeps a text box at three lines: a change that makes a fourth is undone at once, without a message.
-class Zeilengrenze : public QObject {
-    Q_OBJECT
-
-  public:
-    explicit Zeilengrenze(QPlainTextEdit* feld);
-
-  private:
-    void pruefe();
-
-    QPlainTextEdit* feld_;
-    QString letzterGuter_;
-    int letzteStelle_ = 0;
-};
-
-// The text of a box with the line ends of the record, CR LF, and back.
-std::string textAus(const QPlainTextEdit& feld);
-void zeigeText(QPlainTextEdit& feld, std::string_view text);
 
 }  // namespace rippenscheibe

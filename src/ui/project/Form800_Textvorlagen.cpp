@@ -9,9 +9,11 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "model/Bemerkungen.h"
+#include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
-#include "ui/project/Form222_Bemerkungen.h"
+#include "ui/project/Bemerkungsfeld.h"
 
 namespace rippenscheibe {
 
@@ -46,6 +48,7 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
     : Fenster(programm, meldungen, parent, QString::fromUtf8(fassung(art).name),
               QString::fromUtf8(fassung(art).titel), Tippen::aendertNichts),
       datei_(programm.datei(fassung(art).datei)),
+      hoechstensDrei_(art == Vorlagenart::vorbemerkungen),
       liste_(new QListWidget(this)),
       name_(new QLineEdit(this)),
       text_(new QPlainTextEdit(this)),
@@ -81,10 +84,17 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
     grid->addWidget(schild(fassung(art).textschild, text_), 2, 1);
     grid->addWidget(text_, 3, 1);
     grid->addWidget(sichern_, 4, 1, Qt::AlignLeft);
+    zuLang_ = new QLabel(QStringLiteral("⚠ Die Vorlage hat mehr als 3 Zeilen und passt nicht in die "
+                                        "Vorbemerkungen."),
+                         this);
+    zuLang_->setObjectName(QStringLiteral("VorlageZuLang"));
+    zuLang_->setWordWrap(true);
+    zuLang_->hide();
+    grid->addWidget(zuLang_, 5, 1);
     grid->setRowStretch(3, 1);
     inhalt()->addLayout(grid, 1);
 
-    if (art == Vorlagenart::vorbemerkungen) new Zeilengrenze(text_);
+    if (hoechstensDrei_) new Zeilengrenze(text_);
     for (QWidget* feld :
          {static_cast<QWidget*>(name_), static_cast<QWidget*>(text_), static_cast<QWidget*>(sichern_)})
         feld->setEnabled(false);
@@ -116,20 +126,22 @@ void Textvorlagenfenster::fuelleListe() {
     for (const Textvorlage& vorlage : vorlagen_) liste_->addItem(qtext(vorlage.name));
 }
 
-void Textvorlagenfenster::gibFrei() {
-    name_->setEnabled(true);
-    text_->setEnabled(true);
-    sichern_->setEnabled(true);
-    uebernehmen_->setEnabled(true);
+// `text` false shows a template that the box cannot take: it is neither edited nor stored nor taken over.
+void Textvorlagenfenster::gibFrei(bool text) {
+    for (QWidget* feld : {static_cast<QWidget*>(name_), static_cast<QWidget*>(text_),
+                          static_cast<QWidget*>(sichern_), static_cast<QWidget*>(uebernehmen_)})
+        feld->setEnabled(text);
+    zuLang_->setVisible(!text);
 }
 
 void Textvorlagenfenster::zeigeGewaehlte() {
     const QList<QListWidgetItem*> gewaehlt = liste_->selectedItems();
     if (gewaehlt.isEmpty()) return;
     const Textvorlage& vorlage = vorlagen_[static_cast<std::size_t>(liste_->row(gewaehlt.constFirst()))];
-    gibFrei();
+    const bool passt = !hoechstensDrei_ || passtInVorbemerkungen(vorlage.text);
+    gibFrei(passt);
     name_->setText(qtext(vorlage.name));
-    zeigeText(*text_, vorlage.text);
+    if (passt) zeigeText(*text_, vorlage.text);
 }
 
 void Textvorlagenfenster::neu() {
@@ -141,6 +153,13 @@ void Textvorlagenfenster::neu() {
 }
 
 void Textvorlagenfenster::sichern() {
+    if (name_->text().trimmed().isEmpty()) {
+        meldungen_.kritisch(this, QStringLiteral("Fehler"),
+                            QStringLiteral("Bitte einen Namen für die Vorlage eingeben!"));
+        name_->setFocus();
+        return;
+    }
+    ersetzeAnfuehrungszeichen(meldungen_, this, {name_, text_});
     const Textvorlage vorlage = speicherbar({utf8(name_->text()), text()});
     if (const auto fehler = sichereTextvorlage(datei_, vorlage, vorlagen_)) {
         meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));

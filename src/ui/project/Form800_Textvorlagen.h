@@ -6,6 +6,7 @@
 #include "files/Textvorlagen.h"
 #include "ui/basics/Fenster.h"
 
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
@@ -27,19 +28,21 @@ class Textvorlagenfenster : public Fenster {
     std::string text() const;
 
   private:
-    void gibFrei();
+    void gibFrei(bool text = true);
     void zeigeGewaehlte();
     void neu();
     void sichern();
     void fuelleListe();
 
     std::filesystem::path datei_;
+    const bool hoechstensDrei_;
     Textvorlagen vorlagen_;
     QListWidget* liste_;
     QLineEdit* name_;
     QPlainTextEdit* text_;
     QPushButton* sichern_;
     QPushButton* uebernehmen_;
+    QLabel* zuLang_;  // beside the text while a template is chosen that it cannot take
 };
 
 }  // namespace rippenscheibe

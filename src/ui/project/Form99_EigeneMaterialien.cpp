@@ -17,6 +17,7 @@
 #include "files/EigeneMaterialienDatei.h"
 #include "files/Materialverwaltung.h"
 #include "files/Zeichensatz.h"
+#include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Werteingabe.h"
@@ -103,8 +104,8 @@ Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
         return k;
     };
     neu_ = knopf(0, "Neues Material anlegen");
-    QPushButton* loeschen = knopf(1, "Material löschen");
-    QPushButton* bearbeiten = knopf(2, "Material bearbeiten");
+    loeschen_ = knopf(1, "Material löschen");
+    bearbeiten_ = knopf(2, "Material bearbeiten");
     inhalt()->addLayout(kopf);
 
     auto* spalten = new QHBoxLayout;
@@ -132,8 +133,8 @@ Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
         setzeZustand(Zustand::anzeigen);
     });
     connect(neu_, &QPushButton::clicked, this, &Form99::neuesMaterial);
-    connect(loeschen, &QPushButton::clicked, this, &Form99::loescheMaterial);
-    connect(bearbeiten, &QPushButton::clicked, this, &Form99::bearbeite);
+    connect(loeschen_, &QPushButton::clicked, this, &Form99::loescheMaterial);
+    connect(bearbeiten_, &QPushButton::clicked, this, &Form99::bearbeite);
     connect(uebernehmen_, &QPushButton::clicked, this, &Form99::uebernehmen);
     connect(ende, &QPushButton::clicked, this, &Form99::zurueckUndSichern);
     connect(lochleibung_, &QButtonGroup::idToggled, this, &Form99::richteLochleibung);
@@ -207,8 +208,22 @@ void Form99::setzeZustand(Zustand zustand) {
     for (Werteingabe* wert : werte_) wert->setzeAktiv(frei);
     for (QAbstractButton* option : lochleibung_->buttons()) option->setEnabled(frei);
     uebernehmen_->setEnabled(frei);
-    neu_->setEnabled(nimmtWeitereAuf(tabelle_));
+    // What was begun is finished first; otherwise a choice would wipe it out.
+    liste_->setEnabled(!frei);
+    loeschen_->setEnabled(!frei);
+    bearbeiten_->setEnabled(!frei);
+    neu_->setEnabled(!frei && nimmtWeitereAuf(tabelle_));
     richteLochleibung();
+    setzeFarben();
+}
+
+// A material that is only shown is there to be read: its boxes are off, but not dimmed.
+void Form99::setzeFarben() {
+    QPalette farben = palette();
+    if (zustand_ == Zustand::anzeigen)
+        for (const auto rolle : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+            farben.setColor(QPalette::Disabled, rolle, palette().color(QPalette::Active, rolle));
+    for (auto* rahmen : findChildren<QGroupBox*>()) rahmen->setPalette(farben);
 }
 
 // A fixed fh,1,k is entered only where it is chosen.
@@ -281,6 +296,7 @@ void Form99::bearbeite() {
 
 void Form99::uebernehmen() {
     if (!eingabenGueltig(*this, meldungen_)) return;
+    ersetzeAnfuehrungszeichen(meldungen_, this, {name_});
     if (name_->text().trimmed().isEmpty()) {
         meldungen_.kritisch(this, QStringLiteral(" Fehler"),
                             QStringLiteral("Bitte eine Bezeichnung eingeben!"));
@@ -326,6 +342,17 @@ void Form99::zurueckUndSichern() {
 // table goes back to what the file holds, so that the program never works with rows that are not on the disk
 // and the next opening compares with a table that was read.
 void Form99::reject() {
+    if (zustand_ != Zustand::anzeigen) {
+        const Antwort antwort = meldungen_.zeige(
+            this, {Symbol::frage,
+                   QStringLiteral("Eigene Materialien"),
+                   QStringLiteral(
+                       "Das Material in Bearbeitung ist noch nicht übernommen. Soll es verworfen werden ?"),
+                   Knoepfe::jaNein,
+                   {QStringLiteral("Verwerfen"), QStringLiteral("Weiter bearbeiten"), {}},
+                   Antwort::nein});
+        if (antwort != Antwort::ja) return;
+    }
     if (!sichere()) tabelle_ = gelesen_;
     Fenster::reject();
 }

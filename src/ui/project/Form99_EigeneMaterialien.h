@@ -24,6 +24,7 @@ class Form99 : public Fenster {
   public:
     Form99(Programm& programm, Meldungen& meldungen, QWidget* parent = nullptr);
 
+    // Esc and the cross ask before a material is lost that was begun.
     void reject() override;
 
   private:
@@ -34,6 +35,7 @@ class Form99 : public Fenster {
     QGroupBox* baueKmod(const QString& titel, int ersteZeile);
     Werteingabe* werteingabe(std::size_t zeile);
     void setzeZustand(Zustand zustand);
+    void setzeFarben();
     void richteLochleibung();
     void fuelleListe(int auswahl);
     void Werte(int zeile);
@@ -54,6 +56,8 @@ class Form99 : public Fenster {
     std::vector<Werteingabe*> werte_;
     QButtonGroup* lochleibung_;
     QPushButton* neu_;
+    QPushButton* loeschen_;
+    QPushButton* bearbeiten_;
     QPushButton* uebernehmen_;
 };
 
