@@ -139,7 +139,7 @@ Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
     connect(ende, &QPushButton::clicked, this, &Form99::zurueckUndSichern);
     connect(lochleibung_, &QButtonGroup::idToggled, this, &Form99::richteLochleibung);
     // From the name to its values.
-    QWidget::setTabOrder(bearbeiten, name_);
+    QWidget::setTabOrder(bearbeiten_, name_);
     fuelleListe(0);
 }
 
