@@ -26,6 +26,7 @@ enum class Fensterart {
     seitenkopf,           // Form8
     druck,                // Form6
     ergebnisse,           // Form23
+    ueber,                // Ueber
 };
 
 // What a window asks for when it needs another one; the room of the main window fulfils it, so that windows

@@ -6,7 +6,9 @@
 #include <system_error>
 #include <utility>
 
+#include "run/FrischerLauf.h"
 #include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Klartext.h"
 
 // Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.
 static void bindeRessourcenEin() { Q_INIT_RESOURCE(ressourcen); }
@@ -18,6 +20,7 @@ void verbindeRessourcen() { bindeRessourcenEin(); }
 Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {
     verbindeRessourcen();
+    new Klartext(this);
     std::error_code fehler;  // a folder that cannot be made shows when something is saved
     std::filesystem::create_directories(ordner, fehler);
     setzeVorgaben(w);
@@ -71,6 +74,11 @@ void Programm::setzeGesichert(bool gesichert) {
 void Programm::setzeTitel(const QString& titel) {
     titel_ = titel;
     Q_EMIT zustandGeaendert();
+}
+
+void Programm::verwirfErgebnisse() {
+    static_cast<Ergebnisse&>(w) = ergebnisseNachProgrammstart();
+    zuweisen();
 }
 
 void Programm::zuweisen() {

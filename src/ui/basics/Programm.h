@@ -71,6 +71,8 @@ class Programm : public QObject {
     // Takes the three fields into the record, refreshes derived values and design loads, and tells the
     // windows. Dialogs call it on accept, after they have written their fields.
     void zuweisen();
+    // Results as after program start, inputs untouched; Zuweisen follows.
+    void verwirfErgebnisse();
     // A file of the program's folder.
     std::filesystem::path datei(std::string_view name) const { return ordner / name; }
 

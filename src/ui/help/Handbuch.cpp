@@ -1,9 +1,13 @@
 #include "ui/help/Handbuch.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QImage>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QResizeEvent>
@@ -11,7 +15,9 @@
 #include <QSignalBlocker>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace rippenscheibe {
@@ -68,6 +74,12 @@ constexpr std::array<std::pair<const char*, const char*>, 22> fensterkapitel{{
     {"Form10", "hauptfenster"},
 }};
 
+// The text of a chapter, as it is searched.
+QString kapiteltext(const QString& kapitel) {
+    QFile datei(QStringLiteral(":/handbuch/%1.md").arg(kapitel));
+    return datei.open(QIODevice::ReadOnly) ? QString::fromUtf8(datei.readAll()) : QString();
+}
+
 QUrl ort(const QString& kapitel) { return QUrl(QStringLiteral("qrc:/handbuch/%1.md").arg(kapitel)); }
 
 }  // namespace
@@ -103,7 +115,32 @@ QVariant Handbuchseite::loadResource(int type, const QUrl& name) {
     const int rand = static_cast<int>(document()->documentMargin());
     const int breite = viewport()->width() - 2 * rand - 8;
     if (bild.isNull() || bild.width() <= breite || breite <= 0) return bild;
-    return bild.scaledToWidth(breite, Qt::SmoothTransformation);
+    // As many dots as the screen has there, but never more than the picture.
+    const int punkte = std::min(bild.width(), static_cast<int>(std::lround(breite * devicePixelRatioF())));
+    QImage passend = bild.scaledToWidth(punkte, Qt::SmoothTransformation);
+    passend.setDevicePixelRatio(static_cast<double>(punkte) / breite);
+    return passend;
+}
+
+int Handbuchseite::suche(const QString& worte) {
+    QList<ExtraSelection> marken;
+    QColor farbe = palette().color(QPalette::Highlight);
+    farbe.setAlphaF(0.35F);
+    QTextCursor stelle(document());
+    while (!worte.isEmpty()) {
+        stelle = document()->find(worte, stelle);
+        if (stelle.isNull()) break;
+        marken.push_back({stelle, {}});
+        marken.back().format.setBackground(farbe);
+    }
+    setExtraSelections(marken);
+    return static_cast<int>(marken.size());
+}
+
+void Handbuchseite::springe(const QString& worte) {
+    if (worte.isEmpty() || find(worte)) return;
+    moveCursor(QTextCursor::Start);
+    find(worte);
 }
 
 // The pictures are scaled when the page is read: a new width reads it again at the same place, once the
@@ -121,7 +158,11 @@ void Handbuchseite::liesNeu() {
 }
 
 Handbuch::Handbuch(QWidget* parent)
-    : QDialog(parent), inhalt_(new QListWidget(this)), seite_(new Handbuchseite(this)) {
+    : QDialog(parent),
+      suchwort_(new QLineEdit(this)),
+      trefferzahl_(new QLabel(this)),
+      inhalt_(new QListWidget(this)),
+      seite_(new Handbuchseite(this)) {
     setObjectName(QStringLiteral("Handbuch"));
     setWindowTitle(QStringLiteral("Handbuch"));
     setAccessibleName(windowTitle());
@@ -133,35 +174,51 @@ Handbuch::Handbuch(QWidget* parent)
     inhalt_->setObjectName(QStringLiteral("Handbuchinhalt"));
     inhalt_->setAccessibleName(QStringLiteral("Kapitel"));
     for (const Kapitel& kapitel : kapitelliste) inhalt_->addItem(QString::fromUtf8(kapitel.titel));
-    inhalt_->setMaximumWidth(inhalt_->sizeHintForColumn(0) + 32);
+    const int breite = inhalt_->sizeHintForColumn(0) + 32;
+    inhalt_->setMaximumWidth(breite);
+
+    suchwort_->setObjectName(QStringLiteral("Handbuchsuche"));
+    suchwort_->setAccessibleName(QStringLiteral("Suchen im Handbuch"));
+    suchwort_->setPlaceholderText(QStringLiteral("Suchen (Strg+F)"));
+    suchwort_->setClearButtonEnabled(true);
+    suchwort_->setMaximumWidth(breite);
+    trefferzahl_->setForegroundRole(QPalette::PlaceholderText);
+    trefferzahl_->hide();
+    auto* strgF = new QAction(this);
+    strgF->setShortcut(QKeySequence::Find);
+    connect(strgF, &QAction::triggered, suchwort_, [this] { suchwort_->setFocus(Qt::ShortcutFocusReason); });
+    addAction(strgF);
+    connect(suchwort_, &QLineEdit::textChanged, this, &Handbuch::suche);
+    connect(suchwort_, &QLineEdit::returnPressed, this, &Handbuch::sucheWeiter);
 
     auto* aussen = new QVBoxLayout(this);
     auto* spalten = new QHBoxLayout;
-    spalten->addWidget(inhalt_);
+    auto* links = new QVBoxLayout;
+    links->addWidget(suchwort_);
+    links->addWidget(trefferzahl_);
+    links->addWidget(inhalt_, 1);
+    spalten->addLayout(links);
     spalten->addWidget(seite_, 1);
     aussen->addLayout(spalten, 1);
     auto* knoepfe = new QHBoxLayout;
-    const auto knopf = [&](const QString& text) {
+    const auto knopf = [&](const QString& name, const QString& text) {
         auto* k = new QPushButton(text, this);
-        k->setAccessibleName(text);
+        k->setObjectName(name);
         k->setAutoDefault(false);
         knoepfe->addWidget(k);
         return k;
     };
-    QPushButton* rueckwaerts = knopf(QStringLiteral("Vorige Seite"));
-    QPushButton* vorwaerts = knopf(QStringLiteral("Nächste Seite"));
+    vorige_ = knopf(QStringLiteral("VorigeSeite"), QStringLiteral("&Vorige Seite"));
+    naechste_ = knopf(QStringLiteral("NaechsteSeite"), QStringLiteral("&Nächste Seite"));
     knoepfe->addStretch(1);
-    QPushButton* schliessen = knopf(QStringLiteral("Schließen"));
+    QPushButton* schliessen = knopf(QStringLiteral("Schliessen"), QStringLiteral("&Schließen"));
     aussen->addLayout(knoepfe);
 
-    rueckwaerts->setEnabled(false);
-    vorwaerts->setEnabled(false);
-    connect(rueckwaerts, &QPushButton::clicked, seite_, &QTextBrowser::backward);
-    connect(vorwaerts, &QPushButton::clicked, seite_, &QTextBrowser::forward);
-    connect(seite_, &QTextBrowser::backwardAvailable, rueckwaerts, &QWidget::setEnabled);
-    connect(seite_, &QTextBrowser::forwardAvailable, vorwaerts, &QWidget::setEnabled);
+    connect(vorige_, &QPushButton::clicked, this, [this] { blaettere(-1); });
+    connect(naechste_, &QPushButton::clicked, this, [this] { blaettere(1); });
     connect(schliessen, &QPushButton::clicked, this, &QWidget::close);
     connect(inhalt_, &QListWidget::currentRowChanged, this, [this](int zeile) {
+        if (zeile < 0) return;
         const QUrl ziel = ort(QLatin1String(kapitelliste[static_cast<std::size_t>(zeile)].datei));
         if (seite_->source() != ziel) seite_->setSource(ziel, QTextDocument::MarkdownResource);
     });
@@ -172,7 +229,63 @@ Handbuch::Handbuch(QWidget* parent)
             const QSignalBlocker still(inhalt_);
             inhalt_->setCurrentRow(static_cast<int>(i));
         }
+        zeigeKnoepfe();
     });
+    // Read again for another width the page has lost its marks.
+    connect(seite_, &QTextBrowser::textChanged, this, [this] { seite_->suche(suchwort_->text()); });
+    suchwort_->setFocus();
+}
+
+// Only the chapters that hold the words stay in the list; the first of them is shown.
+void Handbuch::suche(const QString& worte) {
+    int kapitelzahl = 0;
+    int erstes = -1;
+    for (std::size_t i = 0; i < kapitelliste.size(); ++i) {
+        const bool enthalten =
+            worte.isEmpty() ||
+            kapiteltext(QLatin1String(kapitelliste[i].datei)).contains(worte, Qt::CaseInsensitive);
+        inhalt_->item(static_cast<int>(i))->setHidden(!enthalten);
+        if (!enthalten) continue;
+        ++kapitelzahl;
+        if (erstes < 0) erstes = static_cast<int>(i);
+    }
+    trefferzahl_->setVisible(!worte.isEmpty());
+    trefferzahl_->setText(kapitelzahl == 0   ? QStringLiteral("kein Treffer")
+                          : kapitelzahl == 1 ? QStringLiteral("in 1 Kapitel")
+                                             : QStringLiteral("in %1 Kapiteln").arg(kapitelzahl));
+    if (erstes >= 0 && inhalt_->item(std::max(inhalt_->currentRow(), 0))->isHidden())
+        inhalt_->setCurrentRow(erstes);
+    seite_->suche(worte);
+    if (erstes >= 0) seite_->springe(worte);
+    zeigeKnoepfe();
+}
+
+// Enter: the next place in the chapter, then the next chapter that holds the words.
+void Handbuch::sucheWeiter() {
+    const int vorher = seite_->textCursor().position();
+    if (seite_->find(suchwort_->text()) && seite_->textCursor().position() > vorher) return;
+    const int zeile = inhalt_->currentRow();
+    blaettere(1);
+    if (inhalt_->currentRow() == zeile)
+        seite_->springe(suchwort_->text());
+    else
+        seite_->find(suchwort_->text());
+}
+
+// The neighbour in the list, of the chapters that are shown; -1 without one.
+int Handbuch::nachbar(int schritt) const {
+    int zeile = inhalt_->currentRow() + schritt;
+    while (zeile >= 0 && zeile < inhalt_->count() && inhalt_->item(zeile)->isHidden()) zeile += schritt;
+    return zeile < inhalt_->count() ? zeile : -1;
+}
+
+void Handbuch::blaettere(int schritt) {
+    if (const int zeile = nachbar(schritt); zeile >= 0) inhalt_->setCurrentRow(zeile);
+}
+
+void Handbuch::zeigeKnoepfe() {
+    vorige_->setEnabled(nachbar(-1) >= 0);
+    naechste_->setEnabled(nachbar(1) >= 0);
 }
 
 void Handbuch::zeigeKapitel(const QString& datei) {

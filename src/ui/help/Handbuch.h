@@ -5,7 +5,10 @@
 #include <QTextBrowser>
 #include <QTimer>
 
+class QLabel;
+class QLineEdit;
 class QListWidget;
+class QPushButton;
 
 namespace rippenscheibe {
 
@@ -13,13 +16,17 @@ namespace rippenscheibe {
 // contents for a window that has none.
 QString handbuchkapitel(const QString& fenstername);
 
-// Shows Markdown with its pictures no wider than the view.
+// Shows Markdown with its pictures no wider than the view and sharp on every screen.
 class Handbuchseite : public QTextBrowser {
     Q_OBJECT
 
   public:
     explicit Handbuchseite(QWidget* parent);
     QVariant loadResource(int type, const QUrl& name) override;
+    // Lights all places of the words; returns their number.
+    int suche(const QString& worte);
+    // Goes to the next place of the words, behind the last one to the first.
+    void springe(const QString& worte);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -30,8 +37,8 @@ class Handbuchseite : public QTextBrowser {
     QTimer neuLesen_;
 };
 
-// The viewer of the user's handbook, with its chapters at the left. It does not hold up the window that
-// opened it.
+// The viewer of the user's handbook, with its chapters at the left and a search over all of them. It does not
+// hold up the window that opened it.
 class Handbuch : public QDialog {
     Q_OBJECT
 
@@ -42,8 +49,18 @@ class Handbuch : public QDialog {
     QString kapitel() const;
 
   private:
+    void suche(const QString& worte);
+    void sucheWeiter();
+    int nachbar(int schritt) const;
+    void blaettere(int schritt);
+    void zeigeKnoepfe();
+
+    QLineEdit* suchwort_;
+    QLabel* trefferzahl_;
     QListWidget* inhalt_;
     Handbuchseite* seite_;
+    QPushButton* vorige_;
+    QPushButton* naechste_;
 };
 
 // F1 in any window opens the handbook at the chapter of the window in front. Installed on the application.

@@ -6,6 +6,7 @@
 #include "ui/help/Form11_Ueberstaende.h"
 #include "ui/help/Form13_Systemkonfiguration.h"
 #include "ui/help/Form3_Taschenrechner.h"
+#include "ui/help/Ueber.h"
 #include "ui/input/Form12_Bemessungsparameter.h"
 #include "ui/input/Form2_Rippen.h"
 #include "ui/input/Form4_Beplankung.h"
@@ -67,6 +68,8 @@ bool Fensterfabrik::oeffne(Fensterart art, Programm& programm, Meldungen& meldun
             return zeige<Form6>(programm, meldungen, fenster);
         case Fensterart::ergebnisse:
             return zeige<Form23>(programm, meldungen, fenster);
+        case Fensterart::ueber:
+            return zeige<Ueber>(programm, meldungen, fenster);
     }
     return false;
 }

@@ -1,6 +1,8 @@
 #include "ui/output/Form23_Ausnutzungen.h"
 
 #include <QPainter>
+#include <QStyledItemDelegate>
+#include <algorithm>
 #include <cmath>
 
 #include "basis/Zahlenformat.h"
@@ -11,85 +13,200 @@ namespace rippenscheibe {
 
 namespace {
 
-enum Rolle { Eta = Qt::UserRole, Erfuellt, Name, Wert };
+enum Rolle { Eta = Qt::UserRole, Urteilsart, Name, Wert, Zeilennummer, Abschnittsnummer };
 
-constexpr int rand = 8;  // px
+constexpr int rand = 6;  // px
 constexpr int balkenhoehe = 8;
 
-class Balkenmaler : public QStyledItemDelegate {
+// "5.1 Scheibenschub parallel | bar | 0,61  ✓ erfüllt"; a row without a bar is a heading.
+class Balkenzeile : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
-        return {160, 2 * option.fontMetrics.height() + balkenhoehe + 2 * rand};
+        return {360, option.fontMetrics.height() + rand};
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         painter->save();
-        const bool gewaehlt = option.state & QStyle::State_Selected;
-        if (gewaehlt) {
+        if (option.state & (QStyle::State_Selected | QStyle::State_HasFocus)) {
             QColor grund = option.palette.color(QPalette::Highlight);
             grund.setAlphaF(0.18F);
             painter->fillRect(option.rect, grund);
         }
-        const Balkenurteil urteil =
-            index.data(Erfuellt).toBool() ? Balkenurteil::erfuellt : Balkenurteil::ueberschritten;
-        const QRect flaeche = option.rect.adjusted(rand, rand / 2, -rand, -rand / 2);
-        const int zeile = option.fontMetrics.height();
-
-        painter->setPen(option.palette.color(QPalette::Text));
-        painter->drawText(
-            QRect(flaeche.left(), flaeche.top(), flaeche.width(), zeile), Qt::AlignLeft,
-            option.fontMetrics.elidedText(index.data(Name).toString(), Qt::ElideRight, flaeche.width()));
-        const QRect balken(flaeche.left(), flaeche.top() + zeile + 2, flaeche.width(), balkenhoehe);
-        maleBalken(*painter, balken, index.data(Eta).toDouble(), urteil, option.palette);
-
-        const QRect unten(flaeche.left(), balken.bottom() + 2, flaeche.width(), zeile);
-        painter->setPen(option.palette.color(QPalette::PlaceholderText));
-        painter->drawText(unten, Qt::AlignLeft, index.data(Wert).toString());
-        painter->setPen(urteilsfarbe(option.palette, urteil));
-        QFont fett = option.font;
-        fett.setBold(true);
-        painter->setFont(fett);
-        painter->drawText(unten, Qt::AlignRight,
-                          urteilszeichen(urteil) + QLatin1Char(' ') + urteilswort(urteil));
+        const bool ganzerAbschnitt = !index.data(Zeilennummer).isValid();
+        QFont schrift = option.font;
+        schrift.setWeight(ganzerAbschnitt ? QFont::DemiBold : QFont::Normal);
+        painter->setFont(schrift);
+        const QRect flaeche = option.rect.adjusted(rand, 0, -rand, 0);
+        if (!index.data(Urteilsart).isValid()) {
+            painter->setPen(option.palette.color(QPalette::PlaceholderText));
+            painter->drawText(flaeche, Qt::AlignVCenter, index.data(Name).toString());
+        } else {
+            maleZeile(*painter, flaeche, option, index);
+        }
         painter->restore();
     }
+
+  private:
+    static void maleZeile(QPainter& painter, const QRect& flaeche, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) {
+        const auto urteil = static_cast<Balkenurteil>(index.data(Urteilsart).toInt());
+        const QFontMetrics masse(painter.font());
+        const int rechts = masse.horizontalAdvance(QStringLiteral("00,000  ✗ nicht erfüllt "));
+        // The columns of all rows stand below each other, whatever their indent.
+        const int anfang = std::max(flaeche.left(), option.widget->width() * 2 / 5);
+        const QRect name(flaeche.left(), flaeche.top(), anfang - rand - flaeche.left(), flaeche.height());
+        const QRect balken(anfang, flaeche.center().y() - balkenhoehe / 2,
+                           std::max(flaeche.right() - rechts - anfang, 0), balkenhoehe);
+        painter.setPen(option.palette.color(QPalette::Text));
+        painter.drawText(name, Qt::AlignVCenter,
+                         masse.elidedText(index.data(Name).toString(), Qt::ElideRight, name.width()));
+        maleBalken(painter, balken, index.data(Eta).toDouble(), urteil, option.palette);
+        const QRect worte(flaeche.right() - rechts + rand, flaeche.top(), rechts - rand, flaeche.height());
+        painter.drawText(worte, Qt::AlignVCenter, index.data(Wert).toString());
+        painter.setPen(urteilsfarbe(option.palette, urteil));
+        painter.drawText(worte.adjusted(masse.horizontalAdvance(QStringLiteral("00,000 ")), 0, 0, 0),
+                         Qt::AlignVCenter, urteilszeichen(urteil) + QLatin1Char(' ') + urteilswort(urteil));
+    }
 };
+
+Balkenurteil balkenurteil(const Abschnittsurteil& abschnitt) {
+    if (abschnitt.groesster > 1) return Balkenurteil::ueberschritten;
+    if (abschnitt.stand == Nachweisstand::offen) return Balkenurteil::ohneNachweis;
+    return abschnitt.stand == Nachweisstand::gefuehrt ? Balkenurteil::erfuellt : Balkenurteil::ohneBedarf;
+}
+
+struct Zeileninhalt {
+    QString name;
+    double eta = 0.0;
+    Balkenurteil urteil = Balkenurteil::erfuellt;
+    QString wert;
+    QString zusatz;  // behind the verdict in the tip
+};
+
+QTreeWidgetItem* fuegeHinzu(QTreeWidgetItem* eltern, const Zeileninhalt& inhalt) {
+    auto* eintrag = new QTreeWidgetItem(eltern);
+    eintrag->setData(0, Eta, inhalt.eta);
+    eintrag->setData(0, Urteilsart, static_cast<int>(inhalt.urteil));
+    eintrag->setData(0, Name, inhalt.name);
+    eintrag->setData(0, Wert, inhalt.wert);
+    QString ganz = QStringLiteral("%1: %2, %3").arg(inhalt.name, inhalt.wert, urteilswort(inhalt.urteil));
+    if (!inhalt.zusatz.isEmpty()) ganz += QStringLiteral(" (%1)").arg(inhalt.zusatz);
+    eintrag->setText(0, ganz);
+    eintrag->setToolTip(0, ganz);
+    return eintrag;
+}
+
+// The place of rows without demand; made with the first of them.
+QTreeWidgetItem* ohneBedarf(QTreeWidgetItem* eltern, QTreeWidgetItem*& falte) {
+    if (falte == nullptr) {
+        falte = new QTreeWidgetItem;
+        eltern->addChild(falte);
+    }
+    return falte;
+}
+
+void beschrifteFalte(QTreeWidgetItem* falte) {
+    if (falte == nullptr) return;
+    const QString text = QStringLiteral("ohne Beanspruchung (%1)").arg(falte->childCount());
+    falte->setText(0, text);
+    falte->setData(0, Name, text);
+    // It stays the last, whatever came behind it.
+    QTreeWidgetItem* eltern = falte->parent();
+    QTreeWidgetItem* wurzel = eltern != nullptr ? eltern : falte->treeWidget()->invisibleRootItem();
+    wurzel->addChild(wurzel->takeChild(wurzel->indexOfChild(falte)));
+}
 
 }  // namespace
 
 QString ausnutzungstext(double eta, char dezimalzeichen) {
-    return std::isfinite(eta) ? qtext(formatiere("0.00", eta, dezimalzeichen)) : QStringLiteral("∞");
+    if (!std::isfinite(eta)) return QStringLiteral("∞");
+    constexpr std::string_view maske = "0.000000000000000";
+    std::size_t laenge = std::string_view("0.00").size();
+    while (eta > 1 && laenge < maske.size() &&
+           std::round(eta * std::pow(10, laenge - 2)) == std::pow(10, laenge - 2))
+        ++laenge;
+    return qtext(formatiere(maske.substr(0, laenge), eta, dezimalzeichen));
 }
 
-Ausnutzungsliste::Ausnutzungsliste(QWidget* parent) : QListWidget(parent) {
-    setItemDelegate(new Balkenmaler(this));
+Ausnutzungsbaum::Ausnutzungsbaum(QWidget* parent) : QTreeWidget(parent) {
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setIndentation(16);
+    setItemDelegate(new Balkenzeile(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    setUniformItemSizes(true);
-    connect(this, &QListWidget::currentRowChanged, this, &Ausnutzungsliste::gewaehlt);
-    connect(this, &QListWidget::itemClicked, this,
-            [this](const QListWidgetItem* zeile) { Q_EMIT gewaehlt(row(zeile)); });
+    connect(this, &QTreeWidget::currentItemChanged, this, &Ausnutzungsbaum::melde);
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* eintrag) {
+        melde(eintrag);
+        if (eintrag->childCount() > 0 && !eintrag->isExpanded()) eintrag->setExpanded(true);
+    });
 }
 
-void Ausnutzungsliste::zeige(const std::vector<Ausnutzung>& ausnutzungen, char dezimalzeichen) {
+void Ausnutzungsbaum::zeige(const std::vector<Abschnittsurteil>& abschnitte,
+                            const std::vector<Ausnutzung>& zeilen, char dezimalzeichen) {
+    abschnitte_ = abschnitte;
+    zeilen_ = zeilen;
+    dezimalzeichen_ = dezimalzeichen;
+    baue();
+}
+
+void Ausnutzungsbaum::ordne(Reihenfolge reihenfolge) {
+    reihenfolge_ = reihenfolge;
+    baue();
+}
+
+void Ausnutzungsbaum::melde(const QTreeWidgetItem* eintrag) {
+    if (eintrag == nullptr) return;
+    if (eintrag->data(0, Zeilennummer).isValid())
+        Q_EMIT zeileGewaehlt(eintrag->data(0, Zeilennummer).toInt());
+    else if (eintrag->data(0, Abschnittsnummer).isValid())
+        Q_EMIT abschnittGewaehlt(eintrag->data(0, Abschnittsnummer).toInt());
+}
+
+void Ausnutzungsbaum::baue() {
     const QSignalBlocker ruhe(this);
     clear();
-    for (const Ausnutzung& a : ausnutzungen) {
-        const QString name = qtext(a.name);
-        const QString wert = ausnutzungstext(a.eta, dezimalzeichen);
-        const QString urteil = a.erfuellt ? QStringLiteral("erfüllt") : QStringLiteral("nicht erfüllt");
-        auto* zeile = new QListWidgetItem(this);
-        zeile->setData(Eta, a.eta);
-        zeile->setData(Erfuellt, a.erfuellt);
-        zeile->setData(Name, name);
-        zeile->setData(Wert, wert);
-        const QString ganz = QStringLiteral("%1: %2, %3").arg(name, wert, urteil);
-        zeile->setText(ganz);
-        zeile->setToolTip(ganz);
+    // The indices of a list in the order that is chosen.
+    const auto geordnet = [this](const auto& liste, const auto& eta) {
+        std::vector<std::size_t> folge(liste.size());
+        for (std::size_t i = 0; i < folge.size(); ++i) folge[i] = i;
+        if (reihenfolge_ == Reihenfolge::groesse)
+            std::stable_sort(folge.begin(), folge.end(),
+                             [&](std::size_t a, std::size_t b) { return eta(liste[a]) > eta(liste[b]); });
+        return folge;
+    };
+    const auto zeilenfolge = geordnet(zeilen_, [](const Ausnutzung& z) { return z.eta; });
+    QTreeWidgetItem* leereAbschnitte = nullptr;
+    for (const std::size_t i : geordnet(abschnitte_, [](const Abschnittsurteil& a) { return a.groesster; })) {
+        const Abschnittsurteil& a = abschnitte_[i];
+        const Balkenurteil urteil = balkenurteil(a);
+        const bool leer = urteil == Balkenurteil::ohneBedarf;
+        QString zusatz = qtext(a.luecke);
+        if (a.entfaelltImBericht) zusatz = QStringLiteral("zählt, obwohl der Bericht \"entfällt\" sagt");
+        QTreeWidgetItem* abschnitt =
+            fuegeHinzu(leer ? ohneBedarf(invisibleRootItem(), leereAbschnitte) : invisibleRootItem(),
+                       {qtext(a.name), a.groesster, urteil,
+                        leer ? QStringLiteral("–") : ausnutzungstext(a.groesster, dezimalzeichen_), zusatz});
+        abschnitt->setData(0, Abschnittsnummer, static_cast<int>(i));
+        const std::string nummer = std::string(a.name.substr(0, a.name.find(' ') + 1));
+        QTreeWidgetItem* leereZeilen = nullptr;
+        for (const std::size_t j : zeilenfolge) {
+            const Ausnutzung& z = zeilen_[j];
+            if (!z.name.starts_with(nummer)) continue;
+            QTreeWidgetItem* eltern = z.eta == 0 && !leer ? ohneBedarf(abschnitt, leereZeilen) : abschnitt;
+            fuegeHinzu(eltern, {qtext(z.name),
+                                z.eta,
+                                z.erfuellt ? Balkenurteil::erfuellt : Balkenurteil::ueberschritten,
+                                ausnutzungstext(z.eta, dezimalzeichen_),
+                                {}})
+                ->setData(0, Zeilennummer, static_cast<int>(j));
+        }
+        beschrifteFalte(leereZeilen);
     }
+    beschrifteFalte(leereAbschnitte);
 }
 
 }  // namespace rippenscheibe

@@ -1,28 +1,44 @@
 #pragma once
 
-#include <QListWidget>
-#include <QStyledItemDelegate>
+#include <QTreeWidget>
 #include <vector>
 
 #include "report/Fliesstext.h"
+#include "run/Urteil.h"
 
 namespace rippenscheibe {
 
-// All utilisations of a report as horizontal bars against 1,00, in the order of the report. A bar beyond the
-// mark breaks there and goes on in the colour of failure; each row says its verdict by colour, sign and word.
-class Ausnutzungsliste : public QListWidget {
+// The utilisations of a run as bars against 1,00: one a section, which unfolds to the lines of the report
+// with its ribs. Rows without demand are folded away at the end of their list. Each row says its verdict by
+// colour, sign and word.
+class Ausnutzungsbaum : public QTreeWidget {
     Q_OBJECT
 
   public:
-    explicit Ausnutzungsliste(QWidget* parent);
+    enum class Reihenfolge { bericht, groesse };
 
-    void zeige(const std::vector<Ausnutzung>& ausnutzungen, char dezimalzeichen);
+    explicit Ausnutzungsbaum(QWidget* parent);
+
+    // `zeilen` are the proof lines of the report; their names begin with the number of their section.
+    void zeige(const std::vector<Abschnittsurteil>& abschnitte, const std::vector<Ausnutzung>& zeilen,
+               char dezimalzeichen);
+    void ordne(Reihenfolge reihenfolge);
 
   Q_SIGNALS:
-    void gewaehlt(int index);  // the user chose a row, by mouse or key
+    void zeileGewaehlt(int zeile);          // the user chose a line of the report, from 0
+    void abschnittGewaehlt(int abschnitt);  // or a whole section, from 0
+
+  private:
+    void baue();
+    void melde(const QTreeWidgetItem* eintrag);
+
+    std::vector<Abschnittsurteil> abschnitte_;
+    std::vector<Ausnutzung> zeilen_;
+    char dezimalzeichen_ = ',';
+    Reihenfolge reihenfolge_ = Reihenfolge::bericht;
 };
 
-// "0,73"; "∞" when there is no resistance.
+// "0,73"; above 1 as many places as it takes to tell it from 1; "∞" when there is no resistance.
 QString ausnutzungstext(double eta, char dezimalzeichen);
 
 }  // namespace rippenscheibe

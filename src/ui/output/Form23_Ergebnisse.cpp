@@ -24,6 +24,7 @@
 #include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Form23_Text.h"
 #include "ui/output/PdfAusgabe.h"
+#include "ui/output/Urteilsstreifen.h"
 
 namespace rippenscheibe {
 
@@ -36,13 +37,19 @@ constexpr double aufloesungBild = 200;  // dots per inch of an inserted picture
 Form23::Form23(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form23"), QStringLiteral("  Ergebnisse "),
               Tippen::aendertNichts) {
-    auto* teiler = new QSplitter(Qt::Horizontal, this);
+    streifen_ = new Urteilsstreifen(programm.w, dezimalzeichen(), this);
+    auto* teiler = new QSplitter(Qt::Vertical, this);
+    teiler->setObjectName(QStringLiteral("Teiler"));
     teiler->setChildrenCollapsible(false);
+    teiler->addWidget(streifen_);
     teiler->addWidget(baueText());
-    teiler->addWidget(baueListe());
-    teiler->setStretchFactor(0, 1);
-    teiler->setSizes({740, 280});
+    teiler->setStretchFactor(1, 1);
+    teiler->setSizes({170, 480});
     inhalt()->addWidget(teiler, 1);
+    connect(streifen_->baum(), &Ausnutzungsbaum::zeileGewaehlt, this,
+            [this](int zeile) { zeigeZeile(zeilen_, zeile); });
+    connect(streifen_->baum(), &Ausnutzungsbaum::abschnittGewaehlt, this,
+            [this](int abschnitt) { zeigeZeile(abschnitte_, abschnitt); });
     baueSchaltflaechen();
     lade();
     resize(1060, 720);
@@ -109,22 +116,6 @@ QWidget* Form23::baueSuchzeile() {
     return suchzeile_;
 }
 
-QWidget* Form23::baueListe() {
-    auto* spalte = new QWidget(this);
-    auto* reihe = new QVBoxLayout(spalte);
-    reihe->setContentsMargins(0, 0, 0, 0);
-    reihe->setSpacing(raster / 2);
-    liste_ = new Ausnutzungsliste(spalte);
-    liste_->setObjectName(QStringLiteral("Ausnutzungen"));
-    liste_->setAccessibleName(QStringLiteral("Ausnutzungen"));
-    auto* schild = new QLabel(QStringLiteral("Ausnutzungen (Marke bei 1,00)"), spalte);
-    schild->setBuddy(liste_);
-    reihe->addWidget(schild);
-    reihe->addWidget(liste_, 1);
-    connect(liste_, &Ausnutzungsliste::gewaehlt, this, &Form23::zeigeZeile);
-    return spalte;
-}
-
 void Form23::baueSchaltflaechen() {
     const auto knopf = [this](const QString& name, const QString& text, const QString& hinweis,
                               void (Form23::*tue)(), const QKeySequence& taste = {}) {
@@ -157,10 +148,13 @@ void Form23::lade() {
     const bool dunkel = palette().color(QPalette::Base).lightness() < 128;
     for (const int block : fuelleDokument(*text_->document(), text, dunkel))
         zeilen_.emplace_back(text_->document()->findBlockByNumber(block));
-    std::vector<Ausnutzung> ausnutzungen;
-    for (const Absatz& absatz : text)
-        if (absatz.ausnutzung) ausnutzungen.push_back(*absatz.ausnutzung);
-    liste_->zeige(ausnutzungen, zeichen);
+    // The headings of the proofs, "5.1 ..." on, in their order.
+    QTextBlock zeile = text_->document()->begin();
+    for (int abschnitt = 1; zeile.isValid(); zeile = zeile.next()) {
+        if (!zeile.text().startsWith(QStringLiteral("5.%1 ").arg(abschnitt))) continue;
+        abschnitte_.emplace_back(zeile);
+        ++abschnitt;
+    }
     text_->setReadOnly(true);
     text_->moveCursor(QTextCursor::Start);
 }
@@ -300,10 +294,11 @@ void Form23::zeigeMarken() {
     text_->setExtraSelections(marken);
 }
 
-// Lights the line of a utilisation, puts the caret before it and brings it to the upper third.
-void Form23::zeigeZeile(int ausnutzung) {
-    if (ausnutzung < 0 || ausnutzung >= static_cast<int>(zeilen_.size())) return;
-    zeile_ = zeilen_[static_cast<std::size_t>(ausnutzung)];
+// Lights the line of a utilisation or of its heading, puts the caret before it and brings it to the upper
+// third.
+void Form23::zeigeZeile(const std::vector<QTextCursor>& zeilen, int welche) {
+    if (welche < 0 || welche >= static_cast<int>(zeilen.size())) return;
+    zeile_ = zeilen[static_cast<std::size_t>(welche)];
     zeile_.movePosition(QTextCursor::StartOfBlock);
     zeigeMarken();
     text_->setTextCursor(zeile_);

@@ -11,11 +11,12 @@ class QLineEdit;
 
 namespace rippenscheibe {
 
-class Ausnutzungsliste;
 class Ergebnisfeld;
+class Urteilsstreifen;
 
-// "  Ergebnisse ": the report as rich text, to read, to save, to copy, and beside it all utilisations as
-// bars. The text is locked until it is copied or a picture is inserted; from then on it can be edited.
+// "  Ergebnisse ": the report as rich text, to read, to save, to copy, and above it the verdict with all
+// utilisations as bars. The text is locked until it is copied or a picture is inserted; from then on it can
+// be edited.
 class Form23 : public Fenster {
     Q_OBJECT
 
@@ -28,7 +29,6 @@ class Form23 : public Fenster {
   private:
     QWidget* baueText();
     QWidget* baueSuchzeile();
-    QWidget* baueListe();
     void baueSchaltflaechen();
 
     void lade();
@@ -42,12 +42,13 @@ class Form23 : public Fenster {
     void verbirgSuche();
     void suche(const QString& worte);
     void springe(int schritt);
-    void zeigeZeile(int ausnutzung);
+    void zeigeZeile(const std::vector<QTextCursor>& zeilen, int welche);
     void zeigeMarken();
 
     Ergebnisfeld* text_;
-    Ausnutzungsliste* liste_;
-    std::vector<QTextCursor> zeilen_;  // of the utilisations; they move along with edits
+    Urteilsstreifen* streifen_;
+    std::vector<QTextCursor> zeilen_;      // of the utilisations; they move along with edits
+    std::vector<QTextCursor> abschnitte_;  // and of the headings 5.1 on
 
     QTextCursor zeile_;  // the one that is lit
 

@@ -157,34 +157,83 @@ TEST_F(Ergebnisansicht, PicturesAndLineBreaksSplitAParagraphInOrder) {
 TEST_F(Ergebnisansicht, BarsStandInTheOrderOfTheReportAndLeadToTheirLines) {
     rechne("nicht_erfuellt");
     oeffne();
-    auto& liste = finde<QListWidget>(*fenster, "Ausnutzungen");
-    int zeile = 0;
+    auto& baum = finde<QTreeWidget>(*fenster, "Ausnutzungen");
+    // Every proof line of the report stands once in the tree, below its section.
     int nichtErfuellt = 0;
+    int zeilen = 0;
     for (const Absatz& absatz : erwartet()) {
         if (!absatz.ausnutzung) continue;
-        ASSERT_LT(zeile, liste.count());
-        const QString anzeige = liste.item(zeile)->text();
-        EXPECT_TRUE(anzeige.startsWith(qtext(absatz.ausnutzung->name)));
-        EXPECT_EQ(anzeige.endsWith(QStringLiteral("nicht erfüllt")), !absatz.ausnutzung->erfuellt);
+        ++zeilen;
+        const auto treffer = baum.findItems(qtext(absatz.ausnutzung->name) + QLatin1Char(':'),
+                                            Qt::MatchStartsWith | Qt::MatchRecursive);
+        ASSERT_EQ(treffer.size(), 1) << absatz.ausnutzung->name;
+        EXPECT_EQ(treffer[0]->text(0).endsWith(QStringLiteral("nicht erfüllt")),
+                  !absatz.ausnutzung->erfuellt);
         if (!absatz.ausnutzung->erfuellt) ++nichtErfuellt;
-        liste.setCurrentRow(zeile);
+        baum.setCurrentItem(treffer[0]);
         EXPECT_EQ(beleuchtet(), absatz.laeufe.at(0).text);
         EXPECT_FALSE(text->textCursor().hasSelection());
         EXPECT_TRUE(text->viewport()->rect().contains(text->cursorRect().center()));
-        ++zeile;
     }
-    EXPECT_EQ(zeile, liste.count());
+    EXPECT_GT(zeilen, 5);
     EXPECT_GT(nichtErfuellt, 0);
     // An edit above moves the lines, and the bars still find them.
     text->moveCursor(QTextCursor::Start);
     text->textCursor().insertText(QStringLiteral("neu\nneu\n"));
-    liste.setCurrentRow(0);
+    baum.setCurrentItem(
+        baum.findItems(QStringLiteral("5.1 Scheibenschub parallel"), Qt::MatchStartsWith | Qt::MatchRecursive)
+            .at(0));
     EXPECT_TRUE(beleuchtet().starts_with("Ausnutzung Scheibenschub"));
+    baum.setCurrentItem(baum.findItems(QStringLiteral("5.2 "), Qt::MatchStartsWith).at(0));  // a section
+    EXPECT_TRUE(beleuchtet().starts_with("5.2 "));
+}
+
+// Sections by size, those without demand folded away behind them.
+TEST_F(Ergebnisansicht, BarsAreSortedBySizeOnDemand) {
+    oeffne();
+    auto& baum = finde<QTreeWidget>(*fenster, "Ausnutzungen");
+    const int rest = baum.topLevelItemCount() - 1;
+    waehle(*fenster, "Reihenfolge", 1);
+    double vorher = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < rest; ++i) {
+        const double eta = baum.topLevelItem(i)->data(0, Qt::UserRole).toDouble();
+        EXPECT_LE(eta, vorher);
+        vorher = eta;
+    }
+    EXPECT_TRUE(baum.topLevelItem(rest)->text(0).startsWith(QStringLiteral("ohne Beanspruchung")));
+    EXPECT_FALSE(baum.topLevelItem(rest)->isExpanded());
+}
+
+// The exact distribution compounds from run to run: the strip says so, and discarding the results ends it.
+TEST_F(Ergebnisansicht, TheStripTellsWhereAFreshRunSaysSomethingElse) {
+    rechne("decke_und_wind");
+    programm.verwirfErgebnisse();
+    const auto ursache = [&] {
+        programm.zuweisen();
+        EXPECT_EQ(starte(programm.w), Laufergebnis::gerechnet);
+        oeffne();
+        const auto* zeile = fenster->findChild<QLabel*>(QStringLiteral("FrischUrsache"));
+        return zeile == nullptr ? QString() : zeile->text();
+    };
+    EXPECT_EQ(ursache(), QString());
+    EXPECT_TRUE(ursache().startsWith(QStringLiteral("Dies ist der 2. Lauf")));
+    EXPECT_TRUE(finde<QLabel>(*fenster, "Frisch").text().contains(QStringLiteral("maßgebend")));
+    EXPECT_TRUE(finde<QLabel>(*fenster, "Massgebend").text().startsWith(QStringLiteral("maßgebend")));
+    programm.verwirfErgebnisse();
+    EXPECT_EQ(ursache(), QString());
+    // Another wall before this one.
+    rechne("windsog");
+    rechne("decke_und_wind");
+    EXPECT_TRUE(ursache().startsWith(QStringLiteral("Ergebnisse wirken nach")));
 }
 
 TEST_F(Ergebnisansicht, AUtilisationWithoutResistanceIsInfinite) {
     EXPECT_EQ(ausnutzungstext(std::numeric_limits<double>::infinity(), ','), QStringLiteral("∞"));
-    EXPECT_EQ(ausnutzungstext(1.004, ','), QStringLiteral("1,00"));
+    EXPECT_EQ(ausnutzungstext(1.0, ','), QStringLiteral("1,00"));
+    EXPECT_EQ(ausnutzungstext(0.999, ','), QStringLiteral("1,00"));
+    EXPECT_EQ(ausnutzungstext(1.004, ','), QStringLiteral("1,004"));
+    EXPECT_EQ(ausnutzungstext(1.00004, ','), QStringLiteral("1,00004"));
+    EXPECT_EQ(ausnutzungstext(1.2345, ','), QStringLiteral("1,23"));
 }
 
 TEST_F(Ergebnisansicht, SearchGoesRoundAndEscLeavesItFirst) {

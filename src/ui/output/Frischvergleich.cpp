@@ -1,0 +1,64 @@
+#include "ui/output/Frischvergleich.h"
+
+#include <algorithm>
+#include <string>
+
+#include "report/Bericht.h"
+#include "report/Textausgabe.h"
+#include "run/FrischerLauf.h"
+#include "ui/basics/Programm.h"
+#include "ui/output/Form23_Ausnutzungen.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+// All that is shown or printed of a wall, in words.
+std::string gedruckt(const Wand& w) {
+    return alsText(fliesstext(bericht(w, Form::ansicht))) + alsText(fliesstext(bericht(w, Form::lang)));
+}
+
+// After so many runs of one wall in a row its passes have done what they do.
+constexpr int meisteLaeufe = 5;
+
+QString ursache(const Wand& w, const std::string& text) {
+    for (int lauf = 2; lauf <= meisteLaeufe; ++lauf)
+        if (gedruckt(frischerLauf(w, w.eigeneMaterialien, lauf).wand) == text)
+            return QStringLiteral("Dies ist der %1. Lauf derselben Wand; der Lauf davor wirkt nach.")
+                .arg(lauf);
+    return QStringLiteral("Ergebnisse wirken nach, die zuvor mit anderen Eingaben gerechnet wurden.");
+}
+
+}  // namespace
+
+QString urteilssatz(const Wand& w, Laufergebnis ergebnis) {
+    if (ergebnis == Laufergebnis::hinweise)
+        return w.Hinweise.size() == 1 ? QStringLiteral("! 1 Hinweis")
+                                      : QStringLiteral("! %1 Hinweise").arg(w.Hinweise.size());
+    if (urteil(w).erfuellt()) return QStringLiteral("✓ Alle Nachweise erfüllt");
+    const auto werte = nachweiswerte(w);
+    const auto anzahl =
+        std::count_if(werte.begin(), werte.end(), [](const Nachweiswert& n) { return n.eta > 1; });
+    return anzahl == 1 ? QStringLiteral("✗ 1 Nachweis überschritten")
+                       : QStringLiteral("✗ %1 Nachweise überschritten").arg(anzahl);
+}
+
+QString massgebendsatz(const Wand& w, Laufergebnis ergebnis) {
+    const Urteil u = urteil(w, ergebnis);
+    if (!u.maxEta)
+        return qtext(w.Hinweise.empty() ? std::string_view() : std::string_view(w.Hinweise.front()));
+    if (!u.massgebend) return QStringLiteral("keine Beanspruchung");
+    return QStringLiteral("maßgebend %1 · %2")
+        .arg(ausnutzungstext(*u.maxEta, dezimalzeichen()), qtext(*u.massgebend));
+}
+
+std::optional<Frischvergleich> frischvergleich(const Wand& w) {
+    const std::string text = gedruckt(w);
+    const FrischeWand frisch = frischerLauf(w, w.eigeneMaterialien);
+    if (frisch.ergebnis == Laufergebnis::gerechnet && gedruckt(frisch.wand) == text) return std::nullopt;
+    return Frischvergleich{urteilssatz(frisch.wand, frisch.ergebnis) + QStringLiteral(", ") +
+                               massgebendsatz(frisch.wand, frisch.ergebnis),
+                           ursache(w, text)};
+}
+
+}  // namespace rippenscheibe
