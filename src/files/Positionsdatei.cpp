@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <system_error>
 #include <utility>
+
+#include "files/Pfad.h"
 
 namespace rippenscheibe {
 
