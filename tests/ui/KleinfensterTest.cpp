@@ -394,7 +394,7 @@ TEST_F(Kleinfenster, ATemplateWithoutANameOrWithTooManyLinesIsNotTaken) {
     klick(fenster, "Command2");
     klick(fenster, "Command3");
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
-    EXPECT_EQ(liesTextvorlagen(pfadname).size(), 2U);
+    EXPECT_EQ(liesTextvorlagen(pfadname).wert.size(), 2U);
 }
 
 TEST_F(Kleinfenster, ATemplateThatCannotBeWrittenIsReported) {
