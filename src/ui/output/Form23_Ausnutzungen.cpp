@@ -13,7 +13,8 @@ namespace rippenscheibe {
 
 namespace {
 
-enum Rolle { Eta = Qt::UserRole, Urteilsart, Name, Wert, Zeilennummer, Abschnittsnummer };
+constexpr int Zeilennummer = Ausnutzungsbaum::rolleZeile;
+enum Rolle { Abschnittsnummer = Zeilennummer + 1, Eta, Urteilsart, Name, Wert };
 
 constexpr int rand = 6;  // px
 constexpr int balkenhoehe = 8;
@@ -138,7 +139,11 @@ Ausnutzungsbaum::Ausnutzungsbaum(QWidget* parent) : QTreeWidget(parent) {
     setItemDelegate(new Balkenzeile(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    connect(this, &QTreeWidget::currentItemChanged, this, &Ausnutzungsbaum::melde);
+    // Not the current row: the tree makes its first row current when it gets the focus, and that is no
+    // choice.
+    connect(this, &QTreeWidget::itemSelectionChanged, this, [this] {
+        if (const auto gewaehlt = selectedItems(); !gewaehlt.isEmpty()) melde(gewaehlt.constFirst());
+    });
     connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* eintrag) {
         melde(eintrag);
         if (eintrag->childCount() > 0 && !eintrag->isExpanded()) eintrag->setExpanded(true);

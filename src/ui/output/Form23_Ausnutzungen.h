@@ -17,6 +17,8 @@ class Ausnutzungsbaum : public QTreeWidget {
   public:
     enum class Reihenfolge { bericht, groesse };
 
+    static constexpr int rolleZeile = Qt::UserRole;  // data of a row: its line in the report, from 0
+
     explicit Ausnutzungsbaum(QWidget* parent);
 
     // `zeilen` are the proof lines of the report; their names begin with the number of their section.

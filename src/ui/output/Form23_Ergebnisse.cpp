@@ -52,6 +52,7 @@ Form23::Form23(Programm& programm, Meldungen& meldungen, QWidget* parent)
             [this](int abschnitt) { zeigeZeile(abschnitte_, abschnitt); });
     baueSchaltflaechen();
     lade();
+    text_->setFocus();
     resize(1060, 720);
 }
 

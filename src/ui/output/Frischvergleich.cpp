@@ -24,7 +24,8 @@ constexpr int meisteLaeufe = 5;
 QString ursache(const Wand& w, const std::string& text) {
     for (int lauf = 2; lauf <= meisteLaeufe; ++lauf)
         if (gedruckt(frischerLauf(w, w.eigeneMaterialien, lauf).wand) == text)
-            return QStringLiteral("Dies ist der %1. Lauf derselben Wand; der Lauf davor wirkt nach.")
+            return QStringLiteral(
+                       "Ein früherer Lauf wirkt nach: so rechnet auch der %1. Lauf derselben Wand.")
                 .arg(lauf);
     return QStringLiteral("Ergebnisse wirken nach, die zuvor mit anderen Eingaben gerechnet wurden.");
 }
