@@ -8,6 +8,7 @@
 #include "design/Stabilitaet.h"
 #include "design/Verbindungsmittelabstaende.h"
 #include "materials/Querschnittswerte.h"
+#include "materials/Teilsicherheitsbeiwerte.h"
 
 namespace rippenscheibe {
 
@@ -145,12 +146,12 @@ void zugInRippe(Wand& w, int i) {
 }  // namespace
 
 void bemessungslasten(Wand& w) {
-    w.Fvd = 1.5 * w.Fvk;
-    w.Fcgd = 1.35 * w.Fcgk;
-    w.Fcqd = 1.5 * w.Fcqk;
-    w.gd = 1.35 * (w.gk + w.gkWand);
-    w.qd = 1.5 * w.qk;
-    w.wd = 1.5 * w.wk;
+    w.Fvd = gammaQ * w.Fvk;
+    w.Fcgd = gammaG * w.Fcgk;
+    w.Fcqd = gammaQ * w.Fcqk;
+    w.gd = gammaG * (w.gk + w.gkWand);
+    w.qd = gammaQ * w.qk;
+    w.wd = gammaQ * w.wk;
 }
 
 void verbindungsmittelanzahl(Wand& w) {

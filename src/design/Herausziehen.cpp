@@ -2,7 +2,6 @@
 
 #include "design/Rippen.h"
 #include "fasteners/Ausziehen.h"
-#include "model/Kataloge.h"
 
 namespace rippenscheibe {
 
@@ -96,7 +95,7 @@ void widerstandSchraubenMitZulassung(Wand& w) {
 }
 
 void ausziehwiderstand(Wand& w) {
-    switch (static_cast<Art>(w.VMArt[S1].value())) {
+    switch (vmArt(w, S1)) {
         case Art::naegel:
             widerstandNaegel(w);
             break;

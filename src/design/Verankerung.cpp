@@ -1,18 +1,17 @@
 #include "design/Verankerung.h"
 
-#include <array>
-
 #include "design/Rippen.h"
+#include "materials/Teilsicherheitsbeiwerte.h"
+#include "materials/kmod.h"
+#include "model/Anker.h"
 
 namespace rippenscheibe {
 
 namespace {
 
-constexpr double gammaM = 1.3;
-// Takes the permanent factor 1.35 out and the one for stabilising actions (0.9) or destabilising ones
-// (1.5) in.
-constexpr double stabilisierend = 0.9 / 1.35;
-constexpr double destabilisierend = 1.5 / 1.35;
+// Takes the permanent factor out and the one for stabilising or for destabilising actions in.
+constexpr double stabilisierend = gammaGStabilisierend / gammaG;
+constexpr double destabilisierend = gammaQ / gammaG;
 
 // Only the permanent compression directly above the tension edge stabilises.
 void zugkraftVereinfacht(Wand& w) {
@@ -60,61 +59,22 @@ void zugkraftGenau(Wand& w) {
     }
 }
 
-enum class Nagelzahl { wieEingegeben, sechzehnOderAcht };
+// kN, from nails, load duration and cap.
+Zahl tragfaehigkeit(const Wand& w, const Anker& typ, const Kammnagel& nagel) {
+    const Zahl k = kmodHolz(w.KLED.value());
+    if (typ.gruppe == Ankergruppe::HTT)
+        return Min((w.AnzahlAnkerNaegel - 3.5) * nagel.fHTT * k / gammaM, k * nagel.deckelHTT / gammaM);
+    const Zahl naegel = typ.gruppe != Ankergruppe::HD2PSG ? Zahl(w.AnzahlAnkerNaegel)
+                        : w.Teilausnagelung == 1          ? Zahl(naegelVoll)
+                                                          : Zahl(naegelTeilweise);
+    return Min(nagel.f * naegel * k / gammaM, typ.deckel / gammaM);
+}
 
-struct Ankerzeile {
-    double deckel;  // kN, the cap of the anchor itself
-    double beton;   // factor of Fbd
-    Nagelzahl naegel;
-};
-
-constexpr int ersterLochplattenanker = 6;  // types 6 and 7 have values of their own
-constexpr int letzterLochplattenanker = 7;
-constexpr int freierAnker = 13;
-
-// clang-format off
-// Catalogue anchors 1 to 12 by type; 6 and 7 are limited by their nails and the load duration.
-constexpr std::array<Ankerzeile, 12> anker{{
-    {17,   1.19, Nagelzahl::wieEingegeben},
-    {25.5, 1.31, Nagelzahl::wieEingegeben},
-    {25.5, 1.22, Nagelzahl::wieEingegeben},
-    {25.5, 1.78, Nagelzahl::wieEingegeben},
-    {31.9, 1.47, Nagelzahl::wieEingegeben},
-    {0,    1,    Nagelzahl::wieEingegeben},
-    {0,    1,    Nagelzahl::wieEingegeben},
-    {19.2, 1.4,  Nagelzahl::wieEingegeben},
-    {12.8, 1.55, Nagelzahl::wieEingegeben},
-    {12.8, 1.28, Nagelzahl::wieEingegeben},
-    {12.8, 1.55, Nagelzahl::sechzehnOderAcht},
-    {12.8, 1.28, Nagelzahl::sechzehnOderAcht},
-}};
-
-struct Kammnagelzeile {
-    double f;               // kN per nail
-    double fLochplatte;     // kN per nail, types 6 and 7
-    double deckelLochplatte;  // kN, types 6 and 7
-};
-
-// Ring-shank nails 4.0 x 40, 50, 60 and 75.
-constexpr std::array<Kammnagelzeile, 4> kammnaegel{{
-    {1.83, 1.84, 18.52},
-    {2.22, 2.22, 24.7},
-    {2.36, 2.36, 30.87},
-    {2.5,  2.36, 30.87},
-}};
-
-// Timber factor by load duration.
-constexpr std::array<double, 5> kmodHolz{0.6, 0.7, 0.8, 0.9, 1.1};
-// clang-format on
-
-bool katalogtyp(int typ) { return typ >= 1 && typ <= static_cast<int>(anker.size()); }
-bool lochplatte(int typ) { return typ >= ersterLochplattenanker && typ <= letzterLochplattenanker; }
-
-// Element `index` (from 1) of a table, a row of zeros outside of it.
-template <class Zeile, std::size_t N>
-Zeile zeileOderNull(const std::array<Zeile, N>& tabelle, int index) {
-    return index >= 1 && index <= static_cast<int>(N) ? tabelle[static_cast<std::size_t>(index) - 1]
-                                                      : Zeile{};
+// The nail of the record; one outside the catalogue carries nothing.
+Kammnagel kammnagel(const Wand& w) {
+    const int nummer = w.Kammnagel.value();
+    const bool vorhanden = nummer >= 1 && nummer <= static_cast<int>(Kammnaegel().size());
+    return vorhanden ? Kammnaegel()[static_cast<std::size_t>(nummer) - 1] : Kammnagel{};
 }
 
 }  // namespace
@@ -128,27 +88,15 @@ void ankerzugkraft(Wand& w) {
 }
 
 void ankertragfaehigkeit(Wand& w) {
-    const int typ = w.Ankertyp.value();
-    if (!katalogtyp(typ)) return;
-    const Ankerzeile& zeile = anker[static_cast<std::size_t>(typ) - 1];
-    const Zahl k = zeileOderNull(kmodHolz, w.KLED.value());
-    const Kammnagelzeile nagel = zeileOderNull(kammnaegel, w.Kammnagel.value());
-    if (lochplatte(typ)) {
-        w.RdAnker = Min((w.AnzahlAnkerNaegel - 3.5) * nagel.fLochplatte * k / gammaM,
-                        k * nagel.deckelLochplatte / gammaM);
-        return;
-    }
-    const Zahl naegel = zeile.naegel == Nagelzahl::wieEingegeben ? Zahl(w.AnzahlAnkerNaegel)
-                        : w.Teilausnagelung == 1                 ? Zahl(16)
-                                                                 : Zahl(8);
-    w.RdAnker = Min(nagel.f * naegel * k / gammaM, zeile.deckel / gammaM);
+    const Anker* typ = anker(w.Ankertyp.value());
+    if (typ == nullptr || typ->gruppe == Ankergruppe::frei) return;
+    w.RdAnker = tragfaehigkeit(w, *typ, kammnagel(w));
 }
 
 void nachweisVerankerung(Wand& w) {
     ankertragfaehigkeit(w);
-    const int typ = w.Ankertyp.value();
-    if (katalogtyp(typ)) w.Fbd = anker[static_cast<std::size_t>(typ) - 1].beton * w.Ftdst;
-    if (typ == freierAnker) w.Fbd = w.Ftdst;
+    const Anker* typ = anker(w.Ankertyp.value());
+    if (typ != nullptr) w.Fbd = typ->beton * w.Ftdst;
 }
 
 }  // namespace rippenscheibe

@@ -4,10 +4,7 @@ namespace rippenscheibe {
 
 namespace {
 
-bool nagelartig(const Wand& w, Seite n) {
-    const int art = w.VMArt[n].value();
-    return (art >= 1 && art <= 7) && art != 3;
-}
+bool nagelartig(const Wand& w, Seite n) { return istNagel(vmArt(w, n)) || istSchraube(vmArt(w, n)); }
 
 struct Vielfache {
     double a1;
@@ -53,24 +50,24 @@ void rippeNagelartig(Wand& w, Seite n) {
 }
 
 void plattenrandNagelartig(Wand& w, Seite n) {
-    const int material = w.Material[n].value();
+    const Platte p = plattenmaterial(w, n);
     const auto setze = [&](double unbelastet, double belastet) {
         w.aPlatteUnbelastet[n] = unbelastet * w.d[n];
         w.aPlatte[n] = belastet * w.d[n];
     };
-    // Material 12 is among those above 7, although gypsum-like distances exist for it.
-    if (material == 1 || material == 2 || material > 7) {
+    // Chipboard with approval is among them, although gypsum-like distances exist for it.
+    if (istOsb(p) || istSpanplatteOderWeiter(p)) {
         setze(3, 7);
-    } else if (material >= 3 && material <= 6) {
+    } else if (istGipskarton(p)) {
         setze(7, 10);
-    } else if (material == 7) {
+    } else if (istGipsfaser(p)) {
         setze(4, 7);
     }
 }
 
 void klammern(Wand& w, Seite n) {
     const Zahl d = w.d[n];
-    if (w.Material[n] == 7) {
+    if (istGipsfaser(plattenmaterial(w, n))) {
         w.aPlatteUnbelastet[n] = 9 * d;
         w.aPlatte[n] = 12 * d;
         return;

@@ -1,6 +1,7 @@
 #include "design/Verformungen.h"
 
 #include "design/Rippen.h"
+#include "materials/Teilsicherheitsbeiwerte.h"
 
 namespace rippenscheibe {
 
@@ -24,9 +25,8 @@ void verschiebungsmoduln(Wand& w) {
         w.rhoM[n] = sqrt(w.rhok * w.rhokBeplankung[n]);
         w.kser[n] = 0;
         w.kser[n] = verschiebungsmodul(w, n);
-        const int material = w.Material[n].value();
-        if (material >= 3 && material <= 6) w.kser[n] = 0.6 * w.kser[n];
-        if (material == 7) w.kser[n] = 545;
+        if (istGipskarton(plattenmaterial(w, n))) w.kser[n] = 0.6 * w.kser[n];
+        if (istGipsfaser(plattenmaterial(w, n))) w.kser[n] = 545;
         if (w.Zweireihig[n]) w.kser[n] = 2 * w.kser[n];
     }
 }
@@ -131,7 +131,7 @@ Zahl summe(const Wand& w, const Anteile& u) {
 // Divisor that takes a design load back to its characteristic value.
 double lastteiler(const Wand& w) {
     const bool veraenderlich = w.Fcqd != 0 || w.qd != 0 || w.wd != 0;
-    return w.Lastfall == 3 && veraenderlich ? 1.35 : 1.5;
+    return w.Lastfall == 3 && veraenderlich ? gammaG : gammaQ;
 }
 
 void gebrauchstauglichkeit(Wand& w) {
@@ -158,7 +158,6 @@ void gebrauchstauglichkeit(Wand& w) {
 }
 
 void tragfaehigkeit(Wand& w) {
-    constexpr double gammaM = 1.3;
     const auto abgemindert = [](Zahl kser) { return kser * 2 / 3 / gammaM; };
     const Anteile u = anteileTragfaehigkeit(w);
     berechne(w,

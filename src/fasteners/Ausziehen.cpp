@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "materials/Teilsicherheitsbeiwerte.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -55,6 +57,6 @@ void begrenzeEinbindelaenge(Wand& w, Seite n) {
     if (w.lef[n] > groessteEinbindung * w.d[n]) w.lef[n] = groessteEinbindung * w.d[n];
 }
 
-void setzeRxd(Wand& w, Seite n) { w.Rxd[n] = w.kmodVM[n] * w.Rxk[n] / gammaAusziehen; }
+void setzeRxd(Wand& w, Seite n) { w.Rxd[n] = w.kmodVM[n] * w.Rxk[n] / gammaM; }
 
 }  // namespace rippenscheibe

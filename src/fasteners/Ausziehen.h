@@ -32,7 +32,6 @@ inline constexpr int mindesteinbindungSchraube = 4;
 inline constexpr int groessteEinbindung = 20;
 
 inline constexpr double beiwertVorgebohrt = 0.7;  // of f1k of predrilled special nails
-inline constexpr double gammaAusziehen = 1.3;
 
 // Bands of the sheathing thickness: below 12 mm Rxk is a fixed value, up to 20 mm f2k is.
 enum class Dickenband { unter12, bis20, ueber20 };

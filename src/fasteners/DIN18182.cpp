@@ -40,9 +40,9 @@ bool istEigenesMaterialUngebohrt(const Wand& w, Seite n) {
     return istEigenesMaterial(w, n) && !w.Vorgebohrt[n];
 }
 
-// The group of wood-based boards of the staples; Kronoply (12) is not in it on either side. Meant.
+// The group of wood-based boards of the staples; chipboard with approval is not in it on either side. Meant.
 bool istKlammerHolzwerkstoff(const Wand& w, Seite n) {
-    return istOsb(w, n) || (w.Material[n] >= 8 && w.Material[n] <= 11);
+    return istOsb(w, n) || istSpanplatte(plattenmaterial(w, n));
 }
 
 // All other materials of side 2 have A = 0; their embedment strength, formed with d2 and t2, is written to

@@ -47,12 +47,6 @@ void setzeVerhaeltnis(Wand& w, Seite n) {
 
 }  // namespace
 
-bool istOsb(const Wand& w, Seite n) { return w.Material[n] == 1 || w.Material[n] == 2; }
-bool istGipskarton(const Wand& w, Seite n) { return w.Material[n] >= 3 && w.Material[n] <= 6; }
-bool istGipsfaser(const Wand& w, Seite n) { return w.Material[n] == 7; }
-bool istSpanplatteOderWeiter(const Wand& w, Seite n) { return w.Material[n] > 7; }
-bool istEigenesMaterial(const Wand& w, Seite n) { return w.Material[n] == 13; }
-
 Zahl fliessmoment(double c, Zahl fuk, Zahl d) { return c * fuk * pow(d, 2.6); }
 
 Zahl lochleibung(const Wand& w, Seite n, Lochleibung formel) {

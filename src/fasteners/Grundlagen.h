@@ -14,14 +14,15 @@ namespace rippenscheibe {
 
 enum class Verfahren { vereinfacht, genau };
 
-// Groups of sheathing materials by their number in Plattenmaterialien. Only a file can hold a number
-// outside 1 to 13; each family says where such a number falls. Gypsum fibre board (7) has a family of its
-// own, so that no other family carries a row for it.
-bool istOsb(const Wand& w, Seite n);                   // 1, 2
-bool istGipskarton(const Wand& w, Seite n);            // 3 to 6
-bool istGipsfaser(const Wand& w, Seite n);             // 7
-bool istSpanplatteOderWeiter(const Wand& w, Seite n);  // above 7: chipboard, Kronoply, own material
-bool istEigenesMaterial(const Wand& w, Seite n);       // 13
+// Groups of the sheathing of side n. Each family says where a number outside the catalogue falls. Gypsum
+// fibre board has a family of its own, so that no other family carries a row for it.
+inline bool istOsb(const Wand& w, Seite n) { return istOsb(plattenmaterial(w, n)); }
+inline bool istGipskarton(const Wand& w, Seite n) { return istGipskarton(plattenmaterial(w, n)); }
+inline bool istGipsfaser(const Wand& w, Seite n) { return istGipsfaser(plattenmaterial(w, n)); }
+inline bool istSpanplatteOderWeiter(const Wand& w, Seite n) {
+    return istSpanplatteOderWeiter(plattenmaterial(w, n));
+}
+inline bool istEigenesMaterial(const Wand& w, Seite n) { return istEigenesMaterial(plattenmaterial(w, n)); }
 
 // --- Yield moment ---
 

@@ -17,7 +17,7 @@ bool dickeKlammerZuKurz(const Wand& w, Seite n) { return w.ln[n] < 35 && w.d[n] 
 constexpr std::array<Ausschluss, 3> ausschluesse{duenneKlammerZuKurz, dickeKlammerZuKurz, einbindungUnter8d};
 
 bool istHolzwerkstoff(const Wand& w, Seite n) {
-    return istOsb(w, n) || (w.Material[n] >= 8 && w.Material[n] <= 12);
+    return istOsb(w, n) || istSpanplatteMitZulassung(plattenmaterial(w, n));
 }
 
 Zahl winkelbeiwert(const Wand& w) {

@@ -15,11 +15,11 @@ void setzeFliessmoment(Wand& w, Seite n) {
     w.Myk[n] = zulaessig ? fliessmoment(fliessmomentNagel, w.fuk[n], w.d[n]) : Zahl(0);
 }
 
-// Side 1: everything outside 3 to 7 is wood-based, numbers outside the list too.
+// Side 1: everything but gypsum is wood-based, numbers outside the catalogue too.
 void setzeGruppeSeite1(Wand& w) {
     constexpr Seite n = Seite::eins;
     const Zahl d = w.d[n];
-    if (w.Material[n] < 3 || istSpanplatteOderWeiter(w, n)) {
+    if (!istGips(plattenmaterial(w, n))) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
     } else if (istGipskarton(w, n)) {
         setzeGruppe(w, n, Lochleibung::gipskarton, {1.1, 10 * d, 9 * d});
@@ -30,21 +30,21 @@ void setzeGruppeSeite1(Wand& w) {
 void setzeGruppeSeite2(Wand& w) {
     constexpr Seite n = Seite::zwei;
     const Zahl d = w.d[n];
-    if (w.Material[n] < 3 || (w.Material[n] >= 8 && w.Material[n] <= 12)) {
+    if (plattenmaterial(w, n) < Platte::GKB || istSpanplatteMitZulassung(plattenmaterial(w, n))) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
     } else {
         setzeBeiwerte(w, n, {0, 7 * d, 9 * d});
     }
 }
 
-// Both sides alike. Chipboard P4 (8) takes the formula of gypsum fibre board here, P5 to P7 do not: meant.
+// Both sides alike. Chipboard P4 takes the formula of gypsum fibre board here, P5 to P7 do not: meant.
 void setzeLochleibungGenau(Wand& w, Seite n) {
-    if (istOsb(w, n) || (w.Material[n] >= 9 && w.Material[n] <= 12)) {
+    if (plattenmaterial(w, n) == Platte::P4) {
+        setzeLochleibung(w, n, Lochleibung::gipsfaser);
+    } else if (istOsb(w, n) || istSpanplatteMitZulassung(plattenmaterial(w, n))) {
         setzeLochleibung(w, n, Lochleibung::holzwerkstoff);
     } else if (istGipskarton(w, n)) {
         setzeLochleibung(w, n, Lochleibung::gipskarton);
-    } else if (w.Material[n] == 8) {
-        setzeLochleibung(w, n, Lochleibung::gipsfaser);
     } else if (istEigenesMaterial(w, n)) {
         setzeLochleibungEigen(w, n);
     }

@@ -38,7 +38,9 @@ void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
 
 bool istGipskartonGenau(const Wand& w, Seite n) {
     // Side difference: side 1 takes its upper bound from the material of side 2. Meant.
-    if (n == Seite::eins) return w.Material[Seite::eins] >= 3 && w.Material[Seite::zwei] <= 6;
+    if (n == Seite::eins)
+        return plattenmaterial(w, Seite::eins) >= Platte::GKB &&
+               plattenmaterial(w, Seite::zwei) <= Platte::GKFI;
     return istGipskarton(w, n);
 }
 

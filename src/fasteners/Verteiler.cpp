@@ -54,8 +54,7 @@ constexpr double erhoehung = 1.2;           // DIN 1052 (2008), 10.6 (4)
 void berechneFamilie(Wand& w, Seite n) {
     const std::span<const Familie> auswahl =
         istGipsfaser(w, n) ? std::span<const Familie>(familienGipsfaser) : std::span<const Familie>(familien);
-    const auto familie = std::ranges::find(auswahl, w.VMArt[n].value(),
-                                           [](const Familie& f) { return static_cast<std::int16_t>(f.art); });
+    const auto familie = std::ranges::find(auswahl, vmArt(w, n), &Familie::art);
     if (familie == auswahl.end()) return;
     (w.GenauesVerfahren == 1 ? familie->vereinfacht : familie->genau)(w, n);
 }

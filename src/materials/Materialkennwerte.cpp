@@ -3,11 +3,11 @@
 #include <array>
 #include <span>
 
+#include "materials/Teilsicherheitsbeiwerte.h"
+
 namespace rippenscheibe {
 
 namespace {
-
-constexpr double gammaM = 1.3;  // partial factor of timber and sheathing
 
 struct Holzklasse {
     double rhok;  // kg/m³, all others N/mm²
@@ -151,7 +151,7 @@ void setze(Wand& w, Seite n, const Festigkeiten& f) {
 }
 
 void osb(Wand& w, Seite n, std::span<const Dickenband> baender, double Gmean) {
-    const bool isOSB4 = w.Material[n] == 2;
+    const bool isOSB4 = plattenmaterial(w, n) == Platte::OSB4;
     const Dickenband* band = bandZu(baender, w.t[n]);
     if (band != nullptr) {
         setze(w, n, band->festigkeiten);
@@ -183,12 +183,12 @@ void gipsplatte(Wand& w, Seite n, std::span<const Plattendickenwert> dicken, dou
 void gipskarton(Wand& w, Seite n, std::span<const Plattendickenwert> dicken, double rhok) {
     gipsplatte(w, n, dicken, rhok, 700);
     // Meant: the shear strength of 12.5 mm GKB is 2 on side 2, against 1 on side 1.
-    if (n == Seite::zwei && w.Material[n] == 3 && w.t[n] == 12.5) w.fvk[n] = 2;
+    if (n == Seite::zwei && plattenmaterial(w, n) == Platte::GKB && w.t[n] == 12.5) w.fvk[n] = 2;
 }
 
 void spanplatte(Wand& w, Seite n, std::span<const Spanplattenband> baender) {
-    const bool isP4 = w.Material[n] == 8;
-    const bool isP7 = w.Material[n] == 11;
+    const bool isP4 = plattenmaterial(w, n) == Platte::P4;
+    const bool isP7 = plattenmaterial(w, n) == Platte::P7;
     const Spanplattenband* band = bandZu(baender, w.t[n]);
     setze(w, n, band != nullptr ? band->festigkeiten : keine);
     w.rhokBeplankung[n] = band != nullptr ? band->rhok : 0;
@@ -256,40 +256,40 @@ void holzwerte(Wand& w) {
 }
 
 void beplankungswerte(Wand& w, Seite n) {
-    switch (w.Material[n].value()) {
-        case 1:
+    switch (plattenmaterial(w, n)) {
+        case Platte::OSB3:
             osb(w, n, OSB3, 1080);
             break;
-        case 2:
+        case Platte::OSB4:
             osb(w, n, OSB4, 1090);
             break;
-        case 3:
-        case 4:
+        case Platte::GKB:
+        case Platte::GKBI:
             gipskarton(w, n, GKB, 680);
             break;
-        case 5:
-        case 6:
+        case Platte::GKF:
+        case Platte::GKFI:
             gipskarton(w, n, GKF, 800);
             break;
-        case 7:
+        case Platte::gipsfaser:
             gipsplatte(w, n, gipsfaser, 680, 1600);
             break;
-        case 8:
+        case Platte::P4:
             spanplatte(w, n, P4);
             break;
-        case 9:
+        case Platte::P5:
             spanplatte(w, n, P5);
             break;
-        case 10:
+        case Platte::P6:
             spanplatte(w, n, P6);
             break;
-        case 11:
+        case Platte::P7:
             spanplatte(w, n, P7);
             break;
-        case 12:
+        case Platte::spanplatteZulassung:
             spanplatteMitZulassung(w, n);
             break;
-        case 13:
+        case Platte::frei:
             eigenesMaterial(w, n);
             break;
         default:

@@ -11,39 +11,46 @@ enum class Nutzungsklasse { eins, zwei };
 struct KmodZeile {
     Nutzungsklasse nkl;
     int KLED;
-    float rippen;
     float OSB;
     float gips;
     float span;
     int eigeneSpalte;  // column of the own-material table
 };
 
-// kmod by service class and load duration (DIN 1052 (2008), table F.1). The timber factor is the same
-// in both classes.
+// kmod of the sheathing by service class and load duration (DIN 1052 (2008), table F.1).
 // clang-format off
 constexpr std::array<KmodZeile, 10> kmodTabelle{{
-    // class             KLED  ribs   OSB    gypsum  chipb.  own
-    {Nutzungsklasse::eins, 1,  0.6F,  0.4F,  0.2F,   0.3F,   12},
-    {Nutzungsklasse::eins, 2,  0.7F,  0.5F,  0.4F,   0.45F,  13},
-    {Nutzungsklasse::eins, 3,  0.8F,  0.7F,  0.6F,   0.65F,  14},
-    {Nutzungsklasse::eins, 4,  0.9F,  0.9F,  0.8F,   0.85F,  15},
-    {Nutzungsklasse::eins, 5,  1.1F,  1.1F,  1.1F,   1.1F,   21},
-    {Nutzungsklasse::zwei, 1,  0.6F,  0.3F,  0.15F,  0.2F,   16},
-    {Nutzungsklasse::zwei, 2,  0.7F,  0.4F,  0.3F,   0.3F,   17},
-    {Nutzungsklasse::zwei, 3,  0.8F,  0.55F, 0.45F,  0.45F,  18},
-    {Nutzungsklasse::zwei, 4,  0.9F,  0.7F,  0.6F,   0.6F,   19},
-    {Nutzungsklasse::zwei, 5,  1.1F,  0.9F,  0.8F,   0.8F,   22},
+    // class             KLED  OSB    gypsum  chipb.  own
+    {Nutzungsklasse::eins, 1,  0.4F,  0.2F,   0.3F,   12},
+    {Nutzungsklasse::eins, 2,  0.5F,  0.4F,   0.45F,  13},
+    {Nutzungsklasse::eins, 3,  0.7F,  0.6F,   0.65F,  14},
+    {Nutzungsklasse::eins, 4,  0.9F,  0.8F,   0.85F,  15},
+    {Nutzungsklasse::eins, 5,  1.1F,  1.1F,   1.1F,   21},
+    {Nutzungsklasse::zwei, 1,  0.3F,  0.15F,  0.2F,   16},
+    {Nutzungsklasse::zwei, 2,  0.4F,  0.3F,   0.3F,   17},
+    {Nutzungsklasse::zwei, 3,  0.55F, 0.45F,  0.45F,  18},
+    {Nutzungsklasse::zwei, 4,  0.7F,  0.6F,   0.6F,   19},
+    {Nutzungsklasse::zwei, 5,  0.9F,  0.8F,   0.8F,   22},
 }};
 // clang-format on
 
+// Solid and glued laminated timber, the same in both classes.
+constexpr std::array<double, 5> kmodVollholz{0.6, 0.7, 0.8, 0.9, 1.1};
+
 }  // namespace
+
+double kmodHolz(int KLED) {
+    return KLED >= 1 && KLED <= static_cast<int>(kmodVollholz.size())
+               ? kmodVollholz[static_cast<std::size_t>(KLED) - 1]
+               : 0;
+}
 
 void modifikationsbeiwerte(Wand& w, Seite n) {
     // Every value but 1 takes the rows of class 2: there is no third class. NKLRippen is not consulted.
     const auto nkl = w.NKLBeplankung[n] == 1 ? Nutzungsklasse::eins : Nutzungsklasse::zwei;
     for (const auto& zeile : kmodTabelle) {
         if (zeile.nkl != nkl || w.KLED != zeile.KLED) continue;
-        w.kmodRippen = zeile.rippen;
+        w.kmodRippen = kmodHolz(w.KLED.value());
         w.kmodOSB[n] = zeile.OSB;
         w.kmodGips[n] = zeile.gips;
         w.kmodSpan[n] = zeile.span;
@@ -51,11 +58,11 @@ void modifikationsbeiwerte(Wand& w, Seite n) {
         w.kmodEigen[n] = w.eigeneMaterialien(zeile.eigeneSpalte, w.EigenesMaterial[n]);
     }
 
-    const int material = w.Material[n].value();
-    if (material == 1 || material == 2) w.kmod[n] = w.kmodOSB[n];
-    if (material >= 3 && material <= 7) w.kmod[n] = w.kmodGips[n];
-    if (material >= 8 && material <= 12) w.kmod[n] = w.kmodSpan[n];
-    if (material == 13) w.kmod[n] = w.kmodEigen[n];
+    const Platte p = plattenmaterial(w, n);
+    if (istOsb(p)) w.kmod[n] = w.kmodOSB[n];
+    if (istGips(p)) w.kmod[n] = w.kmodGips[n];
+    if (istSpanplatteMitZulassung(p)) w.kmod[n] = w.kmodSpan[n];
+    if (istEigenesMaterial(p)) w.kmod[n] = w.kmodEigen[n];
 
     w.kmodVM[n] = sqrt(w.kmodRippen * w.kmod[n]);
 }

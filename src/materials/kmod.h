@@ -8,4 +8,7 @@ namespace rippenscheibe {
 // and load duration (DIN 1052 (2008), table F.1). Single precision throughout.
 void modifikationsbeiwerte(Wand& w, Seite n);
 
+// kmod of timber by load duration, in double precision; 0 for a number outside 1 to 5.
+double kmodHolz(int KLED);
+
 }  // namespace rippenscheibe

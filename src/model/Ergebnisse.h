@@ -3,13 +3,16 @@
 #include "model/Feldgruppe.h"
 
 // The results of a run, in groups by the routine that owns them. Each field once, with type, default,
-// unit and meaning. Numbers of clauses are those of DIN 1052 (2008).
+// unit and meaning. Numbers of clauses are those of DIN 1052 (2008). What is marked "JSON only" neither a
+// calculation nor a report nor a window reads.
 
 namespace rippenscheibe {
 
 // clang-format off
-#define RS_ABGELEITETE_WERTE(FELD, PAAR) \
-    PAAR(Feld, t, "t1", "t2", 0.0, "mm", "Beplankungsdicke der Berechnung") \
+#define RS_BEPLANKUNGSDICKEN(FELD, PAAR) \
+    PAAR(Feld, t, "t1", "t2", 0.0, "mm", "Beplankungsdicke der Berechnung")
+
+#define RS_BEMESSUNGSLASTEN(FELD, PAAR) \
     FELD(Feld, Fvd,  0.0, "kN",    "Horizontallast, Bemessungswert") \
     FELD(Feld, Fcgd, 0.0, "kN",    "Einzellast je Rippe, ständig, Bemessungswert") \
     FELD(Feld, Fcqd, 0.0, "kN",    "Einzellast je Rippe, veränderlich, Bemessungswert") \
@@ -22,15 +25,15 @@ namespace rippenscheibe {
     FELD(Feld, AInnenrippe,         0.0, "cm²", "Fläche der Innenrippe") \
     FELD(Feld, AefLinks,            0.0, "cm²", "wirksame Querdruckfläche unter der linken Randrippe") \
     FELD(Feld, AefRechts,           0.0, "cm²", "wirksame Querdruckfläche unter der rechten Randrippe") \
-    FELD(Feld, AefRandrippe,        0.0, "cm²", "größere der beiden Querdruckflächen") \
+    FELD(Feld, AefRandrippe,        0.0, "cm²", "größere der beiden Querdruckflächen") /* JSON only */ \
     FELD(Feld, AefInnenrippe,       0.0, "cm²", "wirksame Querdruckfläche unter einer Innenrippe") \
     FELD(Feld, WzRandrippe,         0.0, "cm³", "Widerstandsmoment der Randrippe, schwache Achse") \
     FELD(Feld, WzInnenrippe,        0.0, "cm³", "Widerstandsmoment der Innenrippe, schwache Achse") \
     FELD(Feld, WyRandrippe,         0.0, "cm³", "Widerstandsmoment der Randrippe, starke Achse") \
     FELD(Feld, WyInnenrippe,        0.0, "cm³", "Widerstandsmoment der Innenrippe, starke Achse") \
-    FELD(Feld, ARandrippeGerundet,  0.0, "cm²", "Fläche der Randrippe, auf 0,1 gerundet") \
-    FELD(Feld, WzRandrippeGerundet, 0.0, "cm³", "WzRandrippe, auf 0,1 gerundet") \
-    FELD(Feld, WyRandrippeGerundet, 0.0, "cm³", "WyRandrippe, auf 0,1 gerundet") \
+    FELD(Feld, ARandrippeGerundet,  0.0, "cm²", "Fläche der Randrippe, auf 0,1 gerundet") /* JSON only */ \
+    FELD(Feld, WzRandrippeGerundet, 0.0, "cm³", "WzRandrippe, auf 0,1 gerundet") /* JSON only */ \
+    FELD(Feld, WyRandrippeGerundet, 0.0, "cm³", "WyRandrippe, auf 0,1 gerundet") /* JSON only */ \
     FELD(Feld32, AnzahlRippen,     0.0F, "",    "Zahl der Rippen, 1 ist die linke Randrippe") \
     FELD(Feld, RippenabstandRest,   0.0, "mm",  "Breite des letzten Feldes, 0 wenn der Abstand aufgeht") \
     FELD(Feld, WBeplankung1,        0.0, "mm³/m", "Widerstandsmoment der Beplankung 1")
@@ -60,10 +63,10 @@ namespace rippenscheibe {
     FELD(Feld, fc90k,     0.0, "N/mm²", "charakteristische Druckfestigkeit quer zur Faser") \
     FELD(Feld, E0mean,    0.0, "N/mm²", "mittlerer E-Modul in Faserrichtung") \
     FELD(Feld, E005,      0.0, "N/mm²", "5-%-Fraktile des E-Moduls in Faserrichtung") \
-    FELD(Feld, GmeanHolz, 0.0, "N/mm²", "mittlerer Schubmodul der Rippen") \
+    FELD(Feld, GmeanHolz, 0.0, "N/mm²", "mittlerer Schubmodul der Rippen") /* JSON only */ \
     FELD(Feld, G05Holz,   0.0, "N/mm²", "5-%-Fraktile des Schubmoduls der Rippen") \
     FELD(Feld, E90mean,   0.0, "N/mm²", "mittlerer E-Modul quer zur Faser") \
-    FELD(Feld, E9005,     0.0, "N/mm²", "5-%-Fraktile des E-Moduls quer zur Faser") \
+    FELD(Feld, E9005,     0.0, "N/mm²", "5-%-Fraktile des E-Moduls quer zur Faser") /* JSON only */ \
     FELD(Feld, betac,     0.0, "-",     "Imperfektionsbeiwert") \
     FELD(Feld, fmd,       0.0, "N/mm²", "Biegefestigkeit, Bemessungswert") \
     FELD(Feld, fc0d,      0.0, "N/mm²", "Druckfestigkeit in Faserrichtung, Bemessungswert") \
@@ -85,15 +88,21 @@ namespace rippenscheibe {
 #define RS_TRAGFAEHIGKEITEN(FELD, PAAR) \
     PAAR(Feld, Rd,        "Rd1",        "Rd2",        0.0, "N",     "Tragfähigkeit eines Verbindungsmittels, Bemessungswert") \
     PAAR(Feld, tvorh,     "tvorh1",     "tvorh2",     0.0, "-",     "Abminderung wegen der Beplankungsdicke, höchstens 1") \
-    PAAR(Feld, treq,      "treq1",      "treq2",      0.0, "-",     "Abminderung wegen der Einbindetiefe, höchstens 1") \
+    PAAR(Feld, treq,      "treq1",      "treq2",      0.0, "-",     "Abminderung wegen der Einbindetiefe, höchstens 1")
+
+#define RS_ANSCHLUSSWERTE(FELD, PAAR) \
     PAAR(Feld, Myk,       "Myk1",       "Myk2",       0.0, "Nmm",   "charakteristisches Fließmoment") \
     PAAR(Feld, fhkPlatte, "fhkPlatte1", "fhkPlatte2", 0.0, "N/mm²", "Lochleibungsfestigkeit der Beplankung") \
     PAAR(Feld, fhkRippe,  "fhkRippe1",  "fhkRippe2",  0.0, "N/mm²", "Lochleibungsfestigkeit der Rippe") \
-    PAAR(Feld, betaFh,    "betaFh1",    "betaFh2",    0.0, "-",     "Verhältnis fhkRippe zu fhkPlatte") \
+    PAAR(Feld, betaFh,    "betaFh1",    "betaFh2",    0.0, "-",     "Verhältnis fhkRippe zu fhkPlatte")
+
+#define RS_VEREINFACHTES_VERFAHREN(FELD, PAAR) \
     PAAR(Feld, AFaktor,   "AFaktor1",   "AFaktor2",   0.0, "-",     "Beiwert A des vereinfachten Verfahrens") \
     PAAR(Feld, treqPlatte, "treqPlatte1", "treqPlatte2", 0.0, "mm", "erforderliche Beplankungsdicke") \
     PAAR(Feld, treqRippe, "treqRippe1", "treqRippe2", 0.0, "mm",    "erforderliche Einbindetiefe in die Rippe") \
-    PAAR(Feld, Rk,        "Rk1",        "Rk2",        0.0, "N",     "charakteristische Tragfähigkeit, vereinfacht") \
+    PAAR(Feld, Rk,        "Rk1",        "Rk2",        0.0, "N",     "charakteristische Tragfähigkeit, vereinfacht")
+
+#define RS_VERSAGENSARTEN(FELD, PAAR) \
     PAAR(Feld, RkA, "RkA1", "RkA2", 0.0, "N", "Versagensart A, charakteristisch") \
     PAAR(Feld, RkB, "RkB1", "RkB2", 0.0, "N", "Versagensart B, charakteristisch") \
     PAAR(Feld, RkC, "RkC1", "RkC2", 0.0, "N", "Versagensart C, charakteristisch") \
@@ -105,14 +114,20 @@ namespace rippenscheibe {
     PAAR(Feld, RdC, "RdC1", "RdC2", 0.0, "N", "Versagensart C, Bemessungswert") \
     PAAR(Feld, RdD, "RdD1", "RdD2", 0.0, "N", "Versagensart D, Bemessungswert") \
     PAAR(Feld, RdE, "RdE1", "RdE2", 0.0, "N", "Versagensart E, Bemessungswert") \
-    PAAR(Feld, RdF, "RdF1", "RdF2", 0.0, "N", "Versagensart F, Bemessungswert") \
+    PAAR(Feld, RdF, "RdF1", "RdF2", 0.0, "N", "Versagensart F, Bemessungswert")
+
+#define RS_EINHAENGEEFFEKT(FELD, PAAR) \
     PAAR(Feld, deltaRk, "deltaRk1", "deltaRk2", 0.0, "N", "Zuwachs aus dem Einhängeeffekt, vereinfacht") \
-    PAAR(Feld, deltaRd, "deltaRd1", "deltaRd2", 0.0, "N", "Zuwachs aus dem Einhängeeffekt, genau") \
+    PAAR(Feld, deltaRd, "deltaRd1", "deltaRd2", 0.0, "N", "Zuwachs aus dem Einhängeeffekt, genau")
+
+#define RS_AUSZIEHWERTE(FELD, PAAR) \
     PAAR(Feld, lef, "lef1", "lef2", 0.0, "mm",    "wirksame Gewinde- oder Schaftlänge in der Rippe") \
     PAAR(Feld, f1k, "f1k1", "f1k2", 0.0, "N/mm²", "Ausziehparameter") \
     PAAR(Feld, f2k, "f2k1", "f2k2", 0.0, "N/mm²", "Kopfdurchziehparameter") \
     PAAR(Feld, Rxk, "Rxk1", "Rxk2", 0.0, "N",     "charakteristischer Ausziehwiderstand") \
-    PAAR(Feld, Rxd, "Rxd",  "Rxd2", 0.0, "N",     "Ausziehwiderstand, Bemessungswert") \
+    PAAR(Feld, Rxd, "Rxd",  "Rxd2", 0.0, "N",     "Ausziehwiderstand, Bemessungswert")
+
+#define RS_GIPSFASERBEIWERTE(FELD, PAAR) \
     PAAR(Feld, kFaser, "kFaser1", "kFaser2", 0.0, "-", "Abminderung für Gipsfaserplatten")
 
 #define RS_BEANSPRUCHBARKEITEN(FELD, PAAR) \
@@ -150,8 +165,10 @@ namespace rippenscheibe {
     FELD(Rippenfeld, RdRippe,          , "N",    "Tragfähigkeit der Rippe für die Verteilung der Vertikallast") \
     FELD(Rippenfeld, RdRippenSumme,    , "N",    "laufende Summe von RdRippe")
 
-#define RS_STABILITAET(FELD, PAAR) \
-    FELD(Feld, kc90,              0.0, "-", "Querdruckbeiwert") \
+#define RS_QUERDRUCKBEIWERT(FELD, PAAR) \
+    FELD(Feld, kc90,              0.0, "-", "Querdruckbeiwert")
+
+#define RS_KNICKEN_UND_KIPPEN(FELD, PAAR) \
     FELD(Feld, iRandrippe,        0.0, "m", "Trägheitsradius der Randrippe") \
     FELD(Feld, lambda,            0.0, "-", "Schlankheit") \
     FELD(Feld, lambdaRel,         0.0, "-", "bezogene Schlankheit") \
@@ -160,35 +177,47 @@ namespace rippenscheibe {
     FELD(Feld, lambdaMRandrippe,  0.0, "-", "bezogene Kippschlankheit der Randrippe") \
     FELD(Feld, lambdaMInnenrippe, 0.0, "-", "bezogene Kippschlankheit der Innenrippe") \
     FELD(Feld, kmRandrippe,       0.0, "-", "Kippbeiwert der Randrippe") \
-    FELD(Feld, kmInnenrippe,      0.0, "-", "Kippbeiwert der Innenrippe") \
+    FELD(Feld, kmInnenrippe,      0.0, "-", "Kippbeiwert der Innenrippe")
+
+#define RS_SCHWELLENPRESSUNG(FELD, PAAR) \
     FELD(Rippenfeld, SigmaC90d,             , "N/mm²", "Schwellenpressung") \
-    FELD(Rippenfeld, etaC90,                , "-",     "Ausnutzung der Schwellenpressung") \
+    FELD(Rippenfeld, etaC90,                , "-",     "Ausnutzung der Schwellenpressung")
+
+#define RS_STABILITAET(FELD, PAAR) \
     FELD(Rippenfeld, SigmaC0d,              , "N/mm²", "Druckspannung in der Rippe") \
     FELD(Rippenfeld, SigmaMd,               , "N/mm²", "Biegespannung in der Rippe") \
     FELD(Rippenfeld, etaStabilitaetDruck,   , "-",     "Ausnutzung der Stabilität, Anteil Druck") \
     FELD(Rippenfeld, etaStabilitaetBiegung, , "-",     "Ausnutzung der Stabilität, Anteil Biegung") \
     FELD(Rippenfeld, etaStabilitaet,        , "-",     "Ausnutzung der Stabilität")
 
-#define RS_NACHWEISE(FELD, PAAR) \
+#define RS_SCHUBNACHWEIS(FELD, PAAR) \
     FELD(Feld, etaSv0,      0.0, "-",    "Ausnutzung Scheibenschub parallel") \
     FELD(Feld, etaSv90,     0.0, "-",    "Ausnutzung Scheibenschub senkrecht") \
     FELD(Feld, etaKombi,    0.0, "-",    "Ausnutzung Scheibenschub kombiniert") \
-    FELD(Feld, sv0dKombi,   0.0, "N/mm", "sv0d des kombinierten Nachweises") \
-    FELD(Feld, sv90dKombi,  0.0, "N/mm", "sv90d des kombinierten Nachweises") \
+    FELD(Feld, sv0dKombi,   0.0, "N/mm", "sv0d des kombinierten Nachweises") /* JSON only */ \
+    FELD(Feld, sv90dKombi,  0.0, "N/mm", "sv90d des kombinierten Nachweises") /* JSON only */ \
     FELD(Feld, fv0dKombi,   0.0, "N/mm", "0,7-fache Schubfestigkeit parallel") \
-    FELD(Feld, fv90dKombi,  0.0, "N/mm", "0,7-fache Festigkeit senkrecht") \
+    FELD(Feld, fv90dKombi,  0.0, "N/mm", "0,7-fache Festigkeit senkrecht") /* JSON only */
+
+#define RS_ZUGNACHWEIS(FELD, PAAR) \
     FELD(Rippenfeld, SigmaT0d, , "N/mm²", "Zugspannung in der Rippe") \
-    FELD(Rippenfeld, etaT0,    , "-",     "Ausnutzung der Rippe auf Zug") \
-    FELD(Feld, etaBiegung,  0.0, "-",    "Ausnutzung der Beplankung 1 auf Biegung") \
-    FELD(Rippenfeld, etaHerausziehenRippe, , "-", "Ausnutzung der Verbindungsmittel auf Herausziehen") \
+    FELD(Rippenfeld, etaT0,    , "-",     "Ausnutzung der Rippe auf Zug")
+
+#define RS_BIEGENACHWEIS(FELD, PAAR) \
+    FELD(Feld, etaBiegung,  0.0, "-",    "Ausnutzung der Beplankung 1 auf Biegung")
+
+#define RS_HERAUSZIEHNACHWEIS(FELD, PAAR) \
+    FELD(Rippenfeld, etaHerausziehenRippe, , "-", "Ausnutzung der Verbindungsmittel auf Herausziehen")
+
+#define RS_ZUSAMMENFASSUNG(FELD, PAAR) \
     FELD(Feld, maxEtaStabilitaet, 0.0, "-",     "größte Ausnutzung der Stabilität") \
     FELD(Feld, maxEtaC90,         0.0, "-",     "größte Ausnutzung der Schwellenpressung") \
     FELD(Feld, maxEtaT0,          0.0, "-",     "größte Ausnutzung der Rippen auf Zug") \
     FELD(Feld, etaHerausziehen,   0.0, "-",     "größte Ausnutzung auf Herausziehen") \
-    FELD(Feld, maxSigmaC0d,       0.0, "N/mm²", "größte Druckspannung") \
-    FELD(Feld, maxSigmaMd,        0.0, "N/mm²", "größte Biegespannung") \
-    FELD(Feld, maxSigmaC90d,      0.0, "N/mm²", "größte Schwellenpressung") \
-    FELD(Feld, maxSigmaT0d,       0.0, "N/mm²", "größte Zugspannung") \
+    FELD(Feld, maxSigmaC0d,       0.0, "N/mm²", "größte Druckspannung") /* JSON only */ \
+    FELD(Feld, maxSigmaMd,        0.0, "N/mm²", "größte Biegespannung") /* JSON only */ \
+    FELD(Feld, maxSigmaC90d,      0.0, "N/mm²", "größte Schwellenpressung") /* JSON only */ \
+    FELD(Feld, maxSigmaT0d,       0.0, "N/mm²", "größte Zugspannung") /* JSON only */ \
     FELD(Feld, maxMyd,            0.0, "kNm",   "größtes Moment aus Wind") \
     FELD(Feld, maxFcdSchwelle,    0.0, "kN",    "größte Druckkraft für die Schwellenpressung") \
     FELD(Feld, maxFcdStabilitaet, 0.0, "kN",    "größte Druckkraft für die Stabilität") \
@@ -218,52 +247,79 @@ namespace rippenscheibe {
     FELD(Feld, uGesGebrauch,           0.0, "mm", "Kopfverschiebung, Gebrauchstauglichkeit") \
     FELD(Feld, uZulGebrauch,           0.0, "mm", "zulässige Kopfverschiebung, Gebrauchstauglichkeit") \
     FELD(Feld, uGesTragfaehigkeit,     0.0, "mm", "Kopfverschiebung, Tragfähigkeit") \
-    FELD(Feld, uZulTragfaehigkeit,     0.0, "mm", "zulässige Kopfverschiebung, Tragfähigkeit") \
+    FELD(Feld, uZulTragfaehigkeit,     0.0, "mm", "zulässige Kopfverschiebung, Tragfähigkeit")
+
+#define RS_WANDSTEIFIGKEIT(FELD, PAAR) \
     FELD(Feld, uVMSteifigkeit,         0.0, "mm", "Anteil der Verbindungsmittel, Wandsteifigkeit") \
     FELD(Feld, uRippeSteifigkeit,      0.0, "mm", "Anteil der Randrippen, Wandsteifigkeit") \
     FELD(Feld, uSchubSteifigkeit,      0.0, "mm", "Anteil des Schubs der Beplankung, Wandsteifigkeit") \
     FELD(Feld, uSchwelleSteifigkeit,   0.0, "mm", "Anteil der Schwellenpressung, Wandsteifigkeit") \
     FELD(Feld, uAnkerSteifigkeit,      0.0, "mm", "Anteil des Ankers, Wandsteifigkeit") \
-    FELD(Feld, SteifigkeitGesamt,      0.0, "kNm³/mm", "Schubsteifigkeit der Wand aus allen Anteilen") \
-    FELD(Feld, SteifigkeitOhneVM,      0.0, "kNm³/mm", "Schubsteifigkeit der Wand ohne Verbindungsmittel und Anker")
+    FELD(Feld, SteifigkeitGesamt,      0.0, "kNm³/mm", "Schubsteifigkeit der Wand aus allen Anteilen") /* JSON only */ \
+    FELD(Feld, SteifigkeitOhneVM,      0.0, "kNm³/mm", "Schubsteifigkeit der Wand ohne Verbindungsmittel und Anker") /* JSON only */
+
+#define RS_ANKERZUGKRAFT(FELD, PAAR) \
+    FELD(Feld, Ftdst,      0.0, "kN",  "zu verankernde Zugkraft")
+
+#define RS_BETONANKER(FELD, PAAR) \
+    FELD(Feld, Fbd,        0.0, "kN",  "durch den Betonanker aufzunehmende Kraft")
 
 #define RS_LAGESICHERHEIT(FELD, PAAR) \
-    FELD(Feld, Ftdst,      0.0, "kN",  "zu verankernde Zugkraft") \
-    FELD(Feld, Fbd,        0.0, "kN",  "durch den Betonanker aufzunehmende Kraft") \
     FELD(Feld, MStabSumme, 0.0, "kNm", "Summe der stabilisierenden Momente") \
     FELD(Feld, MDstSumme,  0.0, "kNm", "Summe der destabilisierenden Momente") \
     FELD(Feld, FStab,      0.0, "kN",  "stabilisierende Kraft am Wandende") \
-    FELD(Feld, FDst,       0.0, "kN",  "destabilisierende Kraft am Wandende") \
+    FELD(Feld, FDst,       0.0, "kN",  "destabilisierende Kraft am Wandende") /* JSON only */ \
     FELD(Rippenfeld, MStab,  , "kNm", "stabilisierende Momente, laufende Summe") \
     FELD(Rippenfeld, MDst,   , "kNm", "destabilisierende Momente, laufende Summe")
 
 #define RS_ABSTAENDE(FELD, PAAR) \
-    PAAR(Feld, a1, "a11", "a12", 0.0, "mm", "Mindestabstand in Faserrichtung") \
-    PAAR(Feld, a2, "a21", "a22", 0.0, "mm", "Mindestabstand quer zur Faser") \
-    PAAR(Feld, a3, "a31", "a32", 0.0, "mm", "Mindestabstand zum unbeanspruchten Hirnholzende") \
-    PAAR(Feld, a4, "a41", "a42", 0.0, "mm", "Mindestabstand zum beanspruchten Hirnholzende") \
+    PAAR(Feld, a1, "a11", "a12", 0.0, "mm", "Mindestabstand in Faserrichtung") /* JSON only */ \
+    PAAR(Feld, a2, "a21", "a22", 0.0, "mm", "Mindestabstand quer zur Faser") /* JSON only */ \
+    PAAR(Feld, a3, "a31", "a32", 0.0, "mm", "Mindestabstand zum unbeanspruchten Hirnholzende") /* JSON only */ \
+    PAAR(Feld, a4, "a41", "a42", 0.0, "mm", "Mindestabstand zum beanspruchten Hirnholzende") /* JSON only */ \
     PAAR(Feld, aRand, "aRand1", "aRand2", 0.0, "mm", "Mindestabstand zum Rand der Rippe") \
-    PAAR(Feld, aPlatteUnbelastet, "aPlatteUnbelastet1", "aPlatteUnbelastet2", 0.0, "mm", "Mindestabstand zum unbeanspruchten Plattenrand") \
+    PAAR(Feld, aPlatteUnbelastet, "aPlatteUnbelastet1", "aPlatteUnbelastet2", 0.0, "mm", "Mindestabstand zum unbeanspruchten Plattenrand") /* JSON only */ \
     PAAR(Feld, aPlatte, "aPlatte1", "aPlatte2", 0.0, "mm", "Mindestabstand zum beanspruchten Plattenrand")
 // clang-format on
 
-RS_GRUPPE(AbgeleiteteWerte, RS_ABGELEITETE_WERTE)
+RS_GRUPPE(Beplankungsdicken, RS_BEPLANKUNGSDICKEN)
+RS_GRUPPE(Bemessungslasten, RS_BEMESSUNGSLASTEN)
 RS_GRUPPE(Querschnitte, RS_QUERSCHNITTSWERTE)
 RS_GRUPPE(Eigengewicht, RS_EIGENGEWICHT)
 RS_GRUPPE(Modifikationsbeiwerte, RS_MODIFIKATIONSBEIWERTE)
 RS_GRUPPE(Holzwerte, RS_HOLZWERTE)
 RS_GRUPPE(Beplankungswerte, RS_BEPLANKUNGSWERTE)
 RS_GRUPPE(Tragfaehigkeiten, RS_TRAGFAEHIGKEITEN)
+RS_GRUPPE(Anschlusswerte, RS_ANSCHLUSSWERTE)
+RS_GRUPPE(VereinfachtesVerfahren, RS_VEREINFACHTES_VERFAHREN)
+RS_GRUPPE(Versagensarten, RS_VERSAGENSARTEN)
+RS_GRUPPE(Einhaengeeffekt, RS_EINHAENGEEFFEKT)
+RS_GRUPPE(Ausziehwerte, RS_AUSZIEHWERTE)
+RS_GRUPPE(Gipsfaserbeiwerte, RS_GIPSFASERBEIWERTE)
 RS_GRUPPE(Beanspruchbarkeiten, RS_BEANSPRUCHBARKEITEN)
 RS_GRUPPE(Beanspruchungen, RS_BEANSPRUCHUNGEN)
+RS_GRUPPE(Querdruckbeiwert, RS_QUERDRUCKBEIWERT)
+RS_GRUPPE(KnickenUndKippen, RS_KNICKEN_UND_KIPPEN)
+RS_GRUPPE(Schwellenpressung, RS_SCHWELLENPRESSUNG)
 RS_GRUPPE(Stabilitaet, RS_STABILITAET)
-RS_GRUPPE(Nachweise, RS_NACHWEISE)
+RS_GRUPPE(Schubnachweis, RS_SCHUBNACHWEIS)
+RS_GRUPPE(Zugnachweis, RS_ZUGNACHWEIS)
+RS_GRUPPE(Biegenachweis, RS_BIEGENACHWEIS)
+RS_GRUPPE(Herausziehnachweis, RS_HERAUSZIEHNACHWEIS)
+RS_GRUPPE(Zusammenfassung, RS_ZUSAMMENFASSUNG)
 RS_GRUPPE(Verformungen, RS_VERFORMUNGEN)
+RS_GRUPPE(Wandsteifigkeit, RS_WANDSTEIFIGKEIT)
+RS_GRUPPE(Ankerzugkraft, RS_ANKERZUGKRAFT)
+RS_GRUPPE(Betonanker, RS_BETONANKER)
 RS_GRUPPE(Lagesicherheit, RS_LAGESICHERHEIT)
 RS_GRUPPE(Abstaende, RS_ABSTAENDE)
 
-struct Ergebnisse : Gruppen<AbgeleiteteWerte, Querschnitte, Eigengewicht, Modifikationsbeiwerte, Holzwerte,
-                            Beplankungswerte, Tragfaehigkeiten, Beanspruchbarkeiten, Beanspruchungen,
-                            Stabilitaet, Nachweise, Verformungen, Lagesicherheit, Abstaende> {};
+struct Ergebnisse
+    : Gruppen<Beplankungsdicken, Bemessungslasten, Querschnitte, Eigengewicht, Modifikationsbeiwerte,
+              Holzwerte, Beplankungswerte, Tragfaehigkeiten, Anschlusswerte, VereinfachtesVerfahren,
+              Versagensarten, Einhaengeeffekt, Ausziehwerte, Gipsfaserbeiwerte, Beanspruchbarkeiten,
+              Beanspruchungen, Querdruckbeiwert, KnickenUndKippen, Schwellenpressung, Stabilitaet,
+              Schubnachweis, Zugnachweis, Biegenachweis, Herausziehnachweis, Zusammenfassung, Verformungen,
+              Wandsteifigkeit, Ankerzugkraft, Betonanker, Lagesicherheit, Abstaende> {};
 
 }  // namespace rippenscheibe

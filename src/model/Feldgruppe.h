@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "basis/Seite.h"
@@ -33,6 +34,15 @@ struct Gruppen : G... {
     static void jedesFeld(W& w, Besucher& besucher) {
         (G::felder(w, besucher), ...);
     }
+    // Calls the visitor for each group: besucher(name, group).
+    template <class W, class Besucher>
+    static void jedeGruppe(W& w, Besucher&& besucher) {
+        (besucher(G::gruppenname, static_cast<ebensoKonstant<W, G>&>(w)), ...);
+    }
+
+  private:
+    template <class W, class T>
+    using ebensoKonstant = std::conditional_t<std::is_const_v<W>, const T, T>;
 };
 
 }  // namespace rippenscheibe
@@ -49,6 +59,7 @@ struct Gruppen : G... {
 
 #define RS_GRUPPE(Name, LISTE)                                    \
     struct Name {                                                 \
+        static constexpr std::string_view gruppenname = #Name;    \
         LISTE(RS_FELD_DECLARE, RS_PAAR_DECLARE)                   \
         template <class Gruppe, class Besucher>                   \
         static void felder(Gruppe& gruppe, Besucher&& besucher) { \

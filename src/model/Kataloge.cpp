@@ -13,50 +13,6 @@ constexpr std::array<std::string_view, 13> holzarten{
     "Brettschichtholz GL36c",
 };
 
-// 3 to 6 are the gypsum boards, 7 is the gypsum fibre board, 13 the own material.
-constexpr std::array<std::string_view, 13> plattenmaterialien{
-    "OSB/3",
-    "OSB/4",
-    "Gipskartonplatte GKB",
-    "Gipskartonplatte GKBI",
-    "Gipskartonplatte GKF",
-    "Gipskartonplatte GKFI",
-    "Fermacell Gipsfaserplatte",
-    "Spanplatte P4",
-    "Spanplatte P5",
-    "Spanplatte P6",
-    "Spanplatte P7",
-    "Kronoply F****",
-    "freies Material",
-};
-
-constexpr std::array<std::string_view, 8> vmArten{
-    "Nägel",
-    "Sondernägel",
-    "Klammern",
-    "Schrauben DIN 7997",
-    "Schrauben mit Zulassung",
-    "Schnellbauschrauben DIN 18182-2",
-    "Nägel DIN 18182-2",
-    "Klammern DIN 18182-2",
-};
-
-constexpr std::array<std::string_view, 13> ankernamen{
-    "SIMPSON / Strong-Tie© Zuganker, HD340-M12G-B",
-    "SIMPSON / Strong-Tie© Zuganker, HD400-M16G-B",
-    "SIMPSON / Strong-Tie© Zuganker, HD420-M16G-B",
-    "SIMPSON / Strong-Tie© Zuganker, HD420-M20G-B",
-    "SIMPSON / Strong-Tie© Zuganker, HD480-M20G-B",
-    "SIMPSON / Strong-Tie© Zuganker HTT5",
-    "SIMPSON / Strong-Tie© Zuganker HTT22",
-    "SIMPSON / Strong-Tie© Zuganker 2-teilig, HD2P60G-B",
-    "SIMPSON / Strong-Tie© Zuganker 2-teilig, HD2P40G",
-    "SIMPSON / Strong-Tie© Zuganker 2-teilig, HD2PL40G",
-    "SIMPSON / Strong-Tie© Zuganker 2-teilig, HD2PSG",
-    "SIMPSON / Strong-Tie© Zuganker 2-teilig, HD2PLSG",
-    "frei gewählter Anker: ",
-};
-
 constexpr std::array<std::string_view, 9> vmKlassen{"1A", "1B", "1C", "2A", "2B", "2C", "3A", "3B", "3C"};
 
 constexpr std::array<std::string_view, 5> kledNamen{"ständig", "lang", "mittel", "kurz", "sehr kurz"};
@@ -102,10 +58,7 @@ constexpr std::array<Nageltyp, 31> vmTypen{{
 }  // namespace
 
 std::span<const std::string_view> Holzarten() { return holzarten; }
-std::span<const std::string_view> Plattenmaterialien() { return plattenmaterialien; }
-std::span<const std::string_view> VMArten() { return vmArten; }
 std::span<const std::string_view> VMKlassen() { return vmKlassen; }
-std::span<const std::string_view> Ankernamen() { return ankernamen; }
 std::span<const std::string_view> KLEDNamen() { return kledNamen; }
 std::span<const Nageltyp> VMTypen() { return vmTypen; }
 

@@ -3,22 +3,14 @@
 #include <span>
 #include <string_view>
 
+#include "model/Anker.h"
+#include "model/Platten.h"
+#include "model/VMArten.h"
+
 // The catalogues, filled at program start and never changed. Indices count from 1; a combo box counts
 // from 0, so a stored index is its list index + 1.
 
 namespace rippenscheibe {
-
-// Fastener kinds by their number in VMArten.
-enum class Art {
-    naegel = 1,
-    sondernaegel = 2,
-    klammern = 3,
-    schrauben = 4,
-    schraubenMitZulassung = 5,
-    schnellbauschrauben = 6,
-    naegelDin18182 = 7,
-    klammernDin18182 = 8,
-};
 
 // One row of the nail table: name, diameter, length and head diameter in mm.
 struct Nageltyp {
@@ -28,13 +20,10 @@ struct Nageltyp {
     double dk;
 };
 
-std::span<const std::string_view> Holzarten();           // 13
-std::span<const std::string_view> Plattenmaterialien();  // 13
-std::span<const std::string_view> VMArten();             // 8
-std::span<const std::string_view> VMKlassen();           // 9, "1A" to "3C"
-std::span<const std::string_view> Ankernamen();          // 13
-std::span<const std::string_view> KLEDNamen();           // 5
-std::span<const Nageltyp> VMTypen();                     // 31
+std::span<const std::string_view> Holzarten();  // 13
+std::span<const std::string_view> VMKlassen();  // 9, "1A" to "3C"
+std::span<const std::string_view> KLEDNamen();  // 5
+std::span<const Nageltyp> VMTypen();            // 31
 
 // Entry `index` (from 1) of a catalogue, "" outside of it.
 std::string_view eintrag(std::span<const std::string_view> katalog, int index);

@@ -5,6 +5,8 @@
 #include "model/EigeneMaterialien.h"
 #include "model/Eingaben.h"
 #include "model/Ergebnisse.h"
+#include "model/Platten.h"
+#include "model/VMArten.h"
 
 namespace rippenscheibe {
 
@@ -27,8 +29,10 @@ inline Zahl Plattendicke(const Wand& w, Seite n) {
     return n == Seite::eins ? Zahl(w.Plattendicke1) : Zahl(w.Plattendicke2);
 }
 
-// Whether the fastener of side n is a staple (kinds 3 and 8).
-inline bool istKlammer(const Wand& w, Seite n) { return w.VMArt[n] == 3 || w.VMArt[n] == 8; }
+// Sheathing and fastener kind of side n.
+inline Platte plattenmaterial(const Wand& w, Seite n) { return static_cast<Platte>(w.Material[n].value()); }
+inline Art vmArt(const Wand& w, Seite n) { return static_cast<Art>(w.VMArt[n].value()); }
+inline bool istKlammer(const Wand& w, Seite n) { return istKlammer(vmArt(w, n)); }
 
 // Sets the defaults of program start and of a new file: one routine serves both. Projekt, the
 // own-material table and every result keep their values.

@@ -14,38 +14,25 @@ namespace {
 
 // ---- groups of the catalogues -------------------------------------------------------------------
 
-using Gruppe = bool (*)(int);
+using Plattengruppe = bool (*)(Platte);
+using Artgruppe = bool (*)(Art);
 
-constexpr bool jedes(int) { return true; }
+constexpr bool jedePlatte(Platte) { return true; }
+constexpr bool jedeArt(Art) { return true; }
 
-// Sheathing materials.
-constexpr bool osb(int m) { return m == 1 || m == 2; }
-constexpr bool gipskarton(int m) { return m >= 3 && m <= 6; }
-constexpr bool gipsfaser(int m) { return m == 7; }
-constexpr bool keineGipsfaser(int m) { return m != 7; }
-constexpr bool spanplatte(int m) { return m >= 8 && m <= 11; }
-constexpr bool holzwerkstoff(int m) { return osb(m) || m >= 8; }
+constexpr bool keineGipsfaser(Platte p) { return !istGipsfaser(p); }
+constexpr bool holzwerkstoff(Platte p) { return istOsb(p) || istSpanplatteOderWeiter(p); }
 
-// Fastener kinds.
-constexpr bool naegel(int a) { return a == 1 || a == 2; }
-constexpr bool sondernaegel(int a) { return a == 2; }
-constexpr bool klammern(int a) { return a == 3; }
-constexpr bool schraubenDIN7997(int a) { return a == 4; }
-constexpr bool schraubenZulassung(int a) { return a == 5; }
-constexpr bool schrauben(int a) { return a == 4 || a == 5; }
-constexpr bool schnellbauschrauben(int a) { return a == 6; }
-constexpr bool naegelDIN18182(int a) { return a == 7; }
-constexpr bool klammernDIN18182(int a) { return a == 8; }
-constexpr bool jedeNaegel(int a) { return naegel(a) || naegelDIN18182(a); }
-constexpr bool jedeKlammern(int a) { return klammern(a) || klammernDIN18182(a); }
-constexpr bool jedeSchrauben(int a) { return schrauben(a) || schnellbauschrauben(a); }
-constexpr bool mitGewinde(int a) { return sondernaegel(a) || schrauben(a); }
+template <Art gesucht>
+constexpr bool nur(Art a) {
+    return a == gesucht;
+}
 
 // ---- what the checks of one side look at --------------------------------------------------------
 
 struct Angaben {
-    int Material;
-    int VMArt;
+    Platte Material;
+    Art VMArt;
     Zahl t;           // mm, like all lengths here
     Zahl d;           // nominal diameter
     Zahl ln;          // length
@@ -57,15 +44,7 @@ struct Angaben {
 };
 
 Angaben angaben(const Wand& w, Seite n) {
-    return {w.Material[n].value(),
-            w.VMArt[n].value(),
-            w.t[n],
-            w.d[n],
-            w.ln[n],
-            w.fuk[n],
-            w.dk[n],
-            w.lg[n],
-            w.lef[n],
+    return {plattenmaterial(w, n), vmArt(w, n), w.t[n], w.d[n], w.ln[n], w.fuk[n], w.dk[n], w.lg[n], w.lef[n],
             w.hRandrippe};
 }
 
@@ -97,8 +76,8 @@ constexpr Bereich genau(double wert) { return {.von = wert, .bis = wert}; }
 
 // The range that a value has to keep, for some sheathings, fasteners and diameters.
 struct Grenze {
-    Gruppe Material;
-    Gruppe VMArt;
+    Plattengruppe Material;
+    Artgruppe VMArt;
     Bereich d;
     Bereich zulaessig;
     std::string_view zuKlein;
@@ -120,7 +99,7 @@ struct Verstoss {
 
 // The only thicknesses in which a board is made, mm.
 struct Plattendicken {
-    Gruppe Material;
+    Plattengruppe Material;
     std::array<double, 4> dicken;
     std::string_view text;
 
@@ -129,7 +108,7 @@ struct Plattendicken {
 
 // Least penetration depth as a multiple of d.
 struct Einschlagtiefe {
-    Gruppe VMArt;
+    Artgruppe VMArt;
     double vielfaches;
     std::string_view text;
 
@@ -147,127 +126,127 @@ constexpr std::string_view paarungEnde = " nicht zulässig! Bitte ändern!";
 // The general check of one side. The last row allows the 8 mm screw that the check of the diameter
 // refuses: that is meant.
 constexpr std::array<Verstoss, 8> allgemein{{
-    {[](const Angaben& a) { return mitGewinde(a.VMArt) && a.ln <= a.lg; },
+    {[](const Angaben& a) { return hatGewinde(a.VMArt) && a.ln <= a.lg; },
      "Die Gewinde-/Rillenlänge lg muss kleiner sein als die Länge l! Bitte ändern!"},
-    {[](const Angaben& a) { return !jedeKlammern(a.VMArt) && a.dk <= a.d; },
+    {[](const Angaben& a) { return !istKlammer(a.VMArt) && a.dk <= a.d; },
      "Der Kopfdurchmesser dk muss größer sein als der Durchmesser d! Bitte ändern!"},
     {[](const Angaben& a) { return a.hRandrippe + a.t < a.ln; },
      "Die Länge l des VM ist größer als die Wanddicke + Beplankung 1! Bitte ändern!"},
-    {[](const Angaben& a) { return holzwerkstoff(a.Material) && a.VMArt >= 6; }, paarung},
-    {[](const Angaben& a) { return gipskarton(a.Material)    && a.VMArt <  6; }, paarung},
-    {[](const Angaben& a) { return gipsfaser(a.Material)     && a.VMArt >= 4; }, paarung},
-    {[](const Angaben& a) { return schnellbauschrauben(a.VMArt) && a.d < 4; },
+    {[](const Angaben& a) { return holzwerkstoff(a.Material) && a.VMArt >= Art::schnellbauschrauben; }, paarung},
+    {[](const Angaben& a) { return istGipskarton(a.Material)    && a.VMArt <  Art::schnellbauschrauben; }, paarung},
+    {[](const Angaben& a) { return istGipsfaser(a.Material)     && a.VMArt >= Art::schrauben; }, paarung},
+    {[](const Angaben& a) { return a.VMArt == Art::schnellbauschrauben && a.d < 4; },
      "Durchmesser der Schnellbauschrauben muss >= 4 mm sein! Bitte ändern!"},
-    {[](const Angaben& a) { return schraubenZulassung(a.VMArt) && a.d > 8; },
+    {[](const Angaben& a) { return a.VMArt == Art::schraubenMitZulassung && a.d > 8; },
      "Durchmesser der Schrauben darf max. 8 mm betragen! Bitte ändern!"},
 }};
 
 // Boards of fixed thicknesses, mm; a thickness that stands twice only fills the row.
 constexpr std::array<Plattendicken, 2> festeDicken{{
-    {gipsfaser,  {10.0, 12.5, 15.0, 18.0}, "Keine Plattendicke nach bauaufsichtlicher Zulassung Z-9.1-434! Bitte benutzen Sie die vorgeschlagenen Plattendicken!"},
-    {gipskarton, {12.5, 12.5, 15.0, 18.0}, "Keine Plattendicke nach DIN 1052(2008)! Bitte benutzen Sie die vorgeschlagenen Plattendicken!"},
+    {istGipsfaser,  {10.0, 12.5, 15.0, 18.0}, "Keine Plattendicke nach bauaufsichtlicher Zulassung Z-9.1-434! Bitte benutzen Sie die vorgeschlagenen Plattendicken!"},
+    {istGipskarton, {12.5, 12.5, 15.0, 18.0}, "Keine Plattendicke nach DIN 1052(2008)! Bitte benutzen Sie die vorgeschlagenen Plattendicken!"},
 }};
 
 // Thickness of the wood-based boards, mm.
 constexpr std::array<Grenze, 2> dicken{{
-    {osb,        jedes, alle, vonBis(6.0, 25.0), "Keine Plattendicke nach DIN 1052(2008)! OSB-Platten müssen mindestens 6mm dick sein!",
+    {istOsb,        jedeArt, alle, vonBis(6.0, 25.0), "Keine Plattendicke nach DIN 1052(2008)! OSB-Platten müssen mindestens 6mm dick sein!",
                                                  "Keine Plattendicke nach DIN 1052(2008)! OSB-Platten dürfen höchstens 25mm dick sein!"},
-    {spanplatte, jedes, alle, vonBis(6.0, 50.0), "Keine Plattendicke nach DIN 1052(2008)! Kunstharzgebundene Spanplatten müssen mindestens 6mm dick sein!",
+    {istSpanplatte, jedeArt, alle, vonBis(6.0, 50.0), "Keine Plattendicke nach DIN 1052(2008)! Kunstharzgebundene Spanplatten müssen mindestens 6mm dick sein!",
                                                  "Keine Plattendicke nach DIN 1052(2008)! Kunstharzgebundene Spanplatten dürfen höchstens 50mm dick sein!"},
 }};
 
 // Diameter of the fastener, mm. A nail of exactly 8 mm passes though its text says smaller, a screw of
 // exactly 8 mm fails, a staple of 1.6 mm to DIN 18182-2 passes: all three are meant.
 constexpr std::array<Grenze, 6> durchmesser{{
-    {gipsfaser,      naegel,           alle, vonBis(2.0, 3.0),      "Nageldurchmesser zu klein! Laut bauaufsichtlicher Zulassung Z-9.1-434 Nageldurchmesser zwischen 2,0 und 3,0mm!",
+    {istGipsfaser,      istHolznagel,           alle, vonBis(2.0, 3.0),      "Nageldurchmesser zu klein! Laut bauaufsichtlicher Zulassung Z-9.1-434 Nageldurchmesser zwischen 2,0 und 3,0mm!",
                                                                     "Nageldurchmesser zu groß! Laut bauaufsichtlicher Zulassung Z-9.1-434 Nageldurchmesser zwischen 2,0 und 3,0mm!"},
-    {gipsfaser,      klammern,         alle, vonBis(1.5, 2.111),    "Durchmesser der Klammer zu klein! Laut bauaufsichtlicher Zulassung Z-9.1-434 Klammerdurchmesser mindestens 1,5mm!",
+    {istGipsfaser,      nur<Art::klammern>,         alle, vonBis(1.5, 2.111),    "Durchmesser der Klammer zu klein! Laut bauaufsichtlicher Zulassung Z-9.1-434 Klammerdurchmesser mindestens 1,5mm!",
                                                                     "Durchmesser der Klammer zu groß! Laut DIN 1052(2008) höchstens 2,11mm!"},
-    {keineGipsfaser, naegel,           alle, hoechstens(8.0),       "",
+    {keineGipsfaser, istHolznagel,           alle, hoechstens(8.0),       "",
                                                                     "Nageldurchmesser zu groß! Muss kleiner als 8mm sein!"},
-    {keineGipsfaser, klammern,         alle, vonBis(1.47, 2.111),   "Durchmesser der Klammer zu klein!",
+    {keineGipsfaser, nur<Art::klammern>,         alle, vonBis(1.47, 2.111),   "Durchmesser der Klammer zu klein!",
                                                                     "Durchmesser der Klammer zu groß!"},
-    {keineGipsfaser, schrauben,        alle, abBisUnter(4.0, 8.0),  "Schraubendurchmesser zu klein! Laut DIN 1052(2008) mindestens 4,0mm!",
+    {keineGipsfaser, istHolzschraube,        alle, abBisUnter(4.0, 8.0),  "Schraubendurchmesser zu klein! Laut DIN 1052(2008) mindestens 4,0mm!",
                                                                     "Schraube zu groß! Laut DIN 1052(2008) kleiner als 8,0mm!"},
-    {keineGipsfaser, klammernDIN18182, alle, vonBis(1.0, 1.6),      "Kein Klammerdurchmesser nach DIN 18182-3! Durchmesser der Klammer zu klein! Mindestens 1,0mm!",
+    {keineGipsfaser, nur<Art::klammernDin18182>, alle, vonBis(1.0, 1.6),      "Kein Klammerdurchmesser nach DIN 18182-3! Durchmesser der Klammer zu klein! Mindestens 1,0mm!",
                                                                     "Kein Klammerdurchmesser nach DIN 18182-3! Durchmesser der Klammer zu groß! Muss kleiner als 1,6mm sein!"},
 }};
 
 // Penetration depth ln - t, DIN 1052 (2008), 12.5 to 12.7.
 constexpr std::array<Einschlagtiefe, 3> einschlagtiefen{{
-    {jedeKlammern,  8.0, "Laut DIN 1052(2008) 12.7 (7) dürfen Klammern mit einer Einschlagtiefe kleiner als 8*d nicht in Rechnung gestellt werden!"},
-    {jedeNaegel,    4.0, "Laut DIN 1052(2008) 12.5.2 (8) dürfen Nägel mit einer Einschlagtiefe kleiner als 4*d nicht in Rechnung gestellt werden!"},
-    {jedeSchrauben, 4.0, "Laut DIN 1052(2008) 12.6 (9) dürfen Schrauben mit einer Einschlagtiefe kleiner als 4*d nicht in Rechnung gestellt werden!"},
+    {istKlammer,  8.0, "Laut DIN 1052(2008) 12.7 (7) dürfen Klammern mit einer Einschlagtiefe kleiner als 8*d nicht in Rechnung gestellt werden!"},
+    {istNagel,    4.0, "Laut DIN 1052(2008) 12.5.2 (8) dürfen Nägel mit einer Einschlagtiefe kleiner als 4*d nicht in Rechnung gestellt werden!"},
+    {istSchraube, 4.0, "Laut DIN 1052(2008) 12.6 (9) dürfen Schrauben mit einer Einschlagtiefe kleiner als 4*d nicht in Rechnung gestellt werden!"},
 }};
 
 // Tensile strength fu,k, N/mm². The texts say Fließmoment and end in three different ways: both are
 // meant.
 constexpr std::array<Grenze, 7> zugfestigkeit{{
-    {keineGipsfaser, naegelDIN18182,      alle,              ab(600.0), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 600 N/mm²!", ""},
-    {keineGipsfaser, schnellbauschrauben, alle,              ab(400.0), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 400 N/mm² ", ""},
-    {jedes,          naegel,              alle,              ab(600.0), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 600 N/mm²", ""},
-    {jedes,          klammern,            alle,              ab(800.0), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 800 N/mm²", ""},
-    {keineGipsfaser, schrauben,           alle,              ab(400.0), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 400 N/mm²", ""},
-    {keineGipsfaser, klammernDIN18182,    vonBis(1.0, 1.25), ab(950.0), "Fließmoment zu klein! Laut DIN 18182-3 bei Durchmessern von 1,0 bis 1,25mm mindestens 950 N/mm²!", ""},
-    {keineGipsfaser, klammernDIN18182,    ueber(1.25),       ab(680.0), "Fließmoment zu klein! Laut DIN 18182-3 bei Durchmessern über 1,25mm mindestens 680 N/mm²!", ""},
+    {keineGipsfaser, nur<Art::naegelDin18182>,      alle,              ab(600.0), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 600 N/mm²!", ""},
+    {keineGipsfaser, nur<Art::schnellbauschrauben>, alle,              ab(400.0), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 400 N/mm² ", ""},
+    {jedePlatte,          istHolznagel,              alle,              ab(600.0), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 600 N/mm²", ""},
+    {jedePlatte,          nur<Art::klammern>,            alle,              ab(800.0), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 800 N/mm²", ""},
+    {keineGipsfaser, istHolzschraube,           alle,              ab(400.0), "Fließmoment zu klein! Laut DIN 1052(2008) mindestens 400 N/mm²", ""},
+    {keineGipsfaser, nur<Art::klammernDin18182>,    vonBis(1.0, 1.25), ab(950.0), "Fließmoment zu klein! Laut DIN 18182-3 bei Durchmessern von 1,0 bis 1,25mm mindestens 950 N/mm²!", ""},
+    {keineGipsfaser, nur<Art::klammernDin18182>,    ueber(1.25),       ab(680.0), "Fließmoment zu klein! Laut DIN 18182-3 bei Durchmessern über 1,25mm mindestens 680 N/mm²!", ""},
 }};
 
 // Thread or groove length as it was put in.
 constexpr std::array<Verstoss, 2> gewindelaenge{{
-    {[](const Angaben& a) { return schraubenDIN7997(a.VMArt) && a.lg < 0.6 * a.d; },
+    {[](const Angaben& a) { return a.VMArt == Art::schrauben && a.lg < 0.6 * a.d; },
      "Gewindelänge nicht nach DIN7997! Muss größer als 0,6*d sein!"},
-    {[](const Angaben& a) { return sondernaegel(a.VMArt) && a.lg == 0; },
+    {[](const Angaben& a) { return a.VMArt == Art::sondernaegel && a.lg == 0; },
      "Keine Gewindelänge eingegeben! Es kann keine erhöhte Tragfähigkeit aufgrund des Einhängeeffektes berücksichtigt werden!"},
 }};
 
 // Effective length of thread or groove in the rib.
 constexpr std::array<Verstoss, 2> wirksameLaenge{{
-    {[](const Angaben& a) { return sondernaegel(a.VMArt) && 8 * a.d >= a.lef; },
+    {[](const Angaben& a) { return a.VMArt == Art::sondernaegel && 8 * a.d >= a.lef; },
      "lef zu klein! Muss größer als 8*d sein! Es kann keine erhöhte Tragfähigkeit aufgrund des Einhängeeffektes berücksichtigt werden!"},
-    {[](const Angaben& a) { return schrauben(a.VMArt) && 4 * a.d >= a.lef; },
+    {[](const Angaben& a) { return istHolzschraube(a.VMArt) && 4 * a.d >= a.lef; },
      "Einschraubtiefe zu klein! Muss größer als 4*d sein!"},
 }};
 
 // Head diameter of screws to DIN 7997, mm.
 constexpr std::array<Grenze, 3> kopfdurchmesser{{
-    {jedes, schraubenDIN7997, genau(4.0), ab(7.5), "Kopfdurchmesser nicht nach DIN7997! Bei Durchmesser 4,0 mm muss der Kopfdurchmesser min. 7,5mm sein!", ""},
-    {jedes, schraubenDIN7997, genau(4.5), ab(8.3), "Kopfdurchmesser nicht nach DIN7997! Bei Durchmesser 4,5 mm muss der Kopfdurchmesser min. 8,3mm sein!", ""},
-    {jedes, schraubenDIN7997, genau(5.0), ab(9.2), "Kopfdurchmesser nicht nach DIN7997! Bei Durchmesser 5,0 mm muss der Kopfdurchmesser min. 9,2mm sein!", ""},
+    {jedePlatte, nur<Art::schrauben>, genau(4.0), ab(7.5), "Kopfdurchmesser nicht nach DIN7997! Bei Durchmesser 4,0 mm muss der Kopfdurchmesser min. 7,5mm sein!", ""},
+    {jedePlatte, nur<Art::schrauben>, genau(4.5), ab(8.3), "Kopfdurchmesser nicht nach DIN7997! Bei Durchmesser 4,5 mm muss der Kopfdurchmesser min. 8,3mm sein!", ""},
+    {jedePlatte, nur<Art::schrauben>, genau(5.0), ab(9.2), "Kopfdurchmesser nicht nach DIN7997! Bei Durchmesser 5,0 mm muss der Kopfdurchmesser min. 9,2mm sein!", ""},
 }};
 
 constexpr std::array<Verstoss, 1> fehlenderKopf{{
-    {[](const Angaben& a) { return sondernaegel(a.VMArt) && a.dk == 0; },
+    {[](const Angaben& a) { return a.VMArt == Art::sondernaegel && a.dk == 0; },
      "Kein Kopfdurchmesser eingegeben! Es kann keine erhöhte Tragfähigkeit aufgrund des Einhängeeffektes berücksichtigt werden!"},
 }};
 
 // Length of the fastener, mm. Only the listed diameters have limits. The nail of 2.5 mm may be 30 mm
 // long though its text says 40: that is meant.
 constexpr std::array<Grenze, 11> laenge{{
-    {keineGipsfaser, klammernDIN18182,    vonBis(1.0, 1.3),   vonBis(29.0, 40.0),  "Keine Klammer nach DIN 18182-3! Länge der Klammer zu klein!",
+    {keineGipsfaser, nur<Art::klammernDin18182>,    vonBis(1.0, 1.3),   vonBis(29.0, 40.0),  "Keine Klammer nach DIN 18182-3! Länge der Klammer zu klein!",
                                                                                    "Keine Klammer nach DIN 18182-3! Länge der Klammer zu groß!"},
-    {keineGipsfaser, klammernDIN18182,    zwischen(1.3, 1.6), vonBis(35.0, 65.0),  "Keine Klammer nach DIN 18182-3! Länge der Klammer zu klein!",
+    {keineGipsfaser, nur<Art::klammernDin18182>,    zwischen(1.3, 1.6), vonBis(35.0, 65.0),  "Keine Klammer nach DIN 18182-3! Länge der Klammer zu klein!",
                                                                                    "Keine Klammer nach DIN 18182-3! Länge der Klammer zu groß!"},
-    {keineGipsfaser, naegelDIN18182,      genau(2.2),         vonBis(28.0, 50.0),  "Nagellänge zu klein! Laut DIN 18182-4 min 28mm!",
+    {keineGipsfaser, nur<Art::naegelDin18182>,      genau(2.2),         vonBis(28.0, 50.0),  "Nagellänge zu klein! Laut DIN 18182-4 min 28mm!",
                                                                                    "Nagellänge zu groß! Laut DIN 18182-4 max 50mm!"},
-    {keineGipsfaser, naegelDIN18182,      genau(2.5),         vonBis(30.0, 70.0),  "Nagellänge zu klein! Laut DIN 18182-4 min 40mm!",
+    {keineGipsfaser, nur<Art::naegelDin18182>,      genau(2.5),         vonBis(30.0, 70.0),  "Nagellänge zu klein! Laut DIN 18182-4 min 40mm!",
                                                                                    "Nagellänge zu groß! Laut DIN 18182-4 max 70mm!"},
-    {keineGipsfaser, naegelDIN18182,      genau(2.8),         vonBis(41.0, 70.0),  "Nagellänge zu klein! Laut DIN 18182-4 min 41mm!",
+    {keineGipsfaser, nur<Art::naegelDin18182>,      genau(2.8),         vonBis(41.0, 70.0),  "Nagellänge zu klein! Laut DIN 18182-4 min 41mm!",
                                                                                    "Nagellänge zu groß! Laut DIN 18182-4 max 70mm!"},
-    {keineGipsfaser, naegel,              alle,               ab(10.0),            "Nagel zu kurz!", ""},
+    {keineGipsfaser, istHolznagel,              alle,               ab(10.0),            "Nagel zu kurz!", ""},
     // Staples, at most 65 d, have a table of their own.
-    {keineGipsfaser, schraubenZulassung,  alle,               ab(10.0),            "Schraube zu kurz!", ""},
-    {keineGipsfaser, schnellbauschrauben, genau(4.0),         vonBis(25.0, 55.0),  "Schraubenlänge zu klein! Bei Durchmesser 4,0mm laut DIN 18182-2 min 25mm!",
+    {keineGipsfaser, nur<Art::schraubenMitZulassung>,  alle,               ab(10.0),            "Schraube zu kurz!", ""},
+    {keineGipsfaser, nur<Art::schnellbauschrauben>, genau(4.0),         vonBis(25.0, 55.0),  "Schraubenlänge zu klein! Bei Durchmesser 4,0mm laut DIN 18182-2 min 25mm!",
                                                                                    "Schraubenlänge zu groß! Bei Durchmesser 4,0mm laut DIN 18182-2 max 55mm!"},
-    {keineGipsfaser, schnellbauschrauben, genau(4.3),         vonBis(25.0, 55.0),  "Schraubenlänge zu klein! Bei Durchmesser 4,3mm laut DIN 18182-2 min 25mm!",
+    {keineGipsfaser, nur<Art::schnellbauschrauben>, genau(4.3),         vonBis(25.0, 55.0),  "Schraubenlänge zu klein! Bei Durchmesser 4,3mm laut DIN 18182-2 min 25mm!",
                                                                                    "Schraubenlänge zu groß! Bei Durchmesser 4,3mm laut DIN 18182-2 max 55mm!"},
-    {keineGipsfaser, schnellbauschrauben, genau(5.1),         vonBis(70.0, 130.0), "Schraubenlänge zu klein! Bei Durchmesser 5,1mm laut DIN 18182-2 min 70mm!",
+    {keineGipsfaser, nur<Art::schnellbauschrauben>, genau(5.1),         vonBis(70.0, 130.0), "Schraubenlänge zu klein! Bei Durchmesser 5,1mm laut DIN 18182-2 min 70mm!",
                                                                                    "Schraubenlänge zu groß! Bei Durchmesser 5,1mm laut DIN 18182-2 max 130mm!"},
-    {keineGipsfaser, schnellbauschrauben, genau(5.5),         vonBis(70.0, 130.0), "Schraubenlänge zu klein! Bei Durchmesser 5,5mm laut DIN 18182-2 min 70mm!",
+    {keineGipsfaser, nur<Art::schnellbauschrauben>, genau(5.5),         vonBis(70.0, 130.0), "Schraubenlänge zu klein! Bei Durchmesser 5,5mm laut DIN 18182-2 min 70mm!",
                                                                                    "Schraubenlänge zu groß! Bei Durchmesser 5,5mm laut DIN 18182-2 max 130mm!"},
 }};
 
 constexpr std::array<Verstoss, 1> klammerlaenge{{
-    {[](const Angaben& a) { return keineGipsfaser(a.Material) && klammern(a.VMArt) && a.ln > 65 * a.d; },
+    {[](const Angaben& a) { return keineGipsfaser(a.Material) && a.VMArt == Art::klammern && a.ln > 65 * a.d; },
      "Länge der Klammer zu groß! Maximal 65*d!"},
 }};
 
@@ -288,8 +267,8 @@ void ersetze(std::string& text, std::string_view platzhalter, std::string_view w
 // Fills in the names of fastener and sheathing where the text asks for them.
 std::string ausgefuellt(std::string_view text, const Angaben& a) {
     std::string ergebnis(text);
-    ersetze(ergebnis, "{VMArt}", eintrag(VMArten(), a.VMArt));
-    ersetze(ergebnis, "{Material}", eintrag(Plattenmaterialien(), a.Material));
+    ersetze(ergebnis, "{VMArt}", eintrag(VMArten(), static_cast<int>(a.VMArt)));
+    ersetze(ergebnis, "{Material}", eintrag(Plattenmaterialien(), static_cast<int>(a.Material)));
     return ergebnis;
 }
 
@@ -338,16 +317,17 @@ struct Ablehnung {
 
 // Boards that must not be used in service class 2.
 bool unzulaessigInNKL2(const Wand& w, Seite n) {
-    const int m = w.Material[n].value();
-    return w.NKLBeplankung[n].value() == 2 && (m == 3 || m == 5 || m == 8 || m == 9);
+    const Platte p = plattenmaterial(w, n);
+    return w.NKLBeplankung[n].value() == 2 &&
+           (p == Platte::GKB || p == Platte::GKF || p == Platte::P4 || p == Platte::P5);
 }
-bool gipsfaserGegenueberDuenner(const Wand& w, Gruppe material1) {
-    return gipsfaser(w.Material[Seite::zwei].value()) && w.Plattendicke1 < mindestdickeGegenueberGipsfaser &&
-           material1(w.Material[Seite::eins].value());
+bool gipsfaserGegenueberDuenner(const Wand& w, Plattengruppe material1) {
+    return istGipsfaser(plattenmaterial(w, Seite::zwei)) &&
+           w.Plattendicke1 < mindestdickeGegenueberGipsfaser && material1(plattenmaterial(w, Seite::eins));
 }
 bool gipsfaserGegenueberGipskarton(const Wand& w, Seite gipsfaserseite) {
-    return gipsfaser(w.Material[gipsfaserseite].value()) &&
-           gipskarton(w.Material[gegenueber(gipsfaserseite)].value());
+    return istGipsfaser(plattenmaterial(w, gipsfaserseite)) &&
+           istGipskarton(plattenmaterial(w, gegenueber(gipsfaserseite)));
 }
 
 constexpr std::string_view duenneGegenseite =
@@ -364,10 +344,10 @@ constexpr std::array<Ablehnung, 6> ablehnungen{{
      "Das gewählte Plattenmaterial für Beplankung 1 ist bei NKL 2 unzulässig! Bitte ändern!"},
     {[](const Wand& w) { return unzulaessigInNKL2(w, Seite::zwei); },
      "Das gewählte Plattenmaterial für Beplankung 2 ist bei NKL 2 unzulässig! Bitte ändern!"},
-    {[](const Wand& w) { return gipsfaserGegenueberDuenner(w, osb); }, duenneGegenseite},
+    {[](const Wand& w) { return gipsfaserGegenueberDuenner(w, istOsb); }, duenneGegenseite},
     {[](const Wand& w) { return gipsfaserGegenueberGipskarton(w, Seite::zwei); }, gipskartonGegenseite},
     {[](const Wand& w) { return gipsfaserGegenueberGipskarton(w, Seite::eins); }, gipskartonGegenseite},
-    {[](const Wand& w) { return gipsfaserGegenueberDuenner(w, spanplatte); }, duenneGegenseite},
+    {[](const Wand& w) { return gipsfaserGegenueberDuenner(w, istSpanplatte); }, duenneGegenseite},
 }};
 
 template <class... Tabelle>
@@ -408,7 +388,7 @@ void pruefeBeplankungUndVerbindungsmittel(Wand& w, Seite n) {
 void pruefeGegenseiteDerGipsfaserplatte(Wand& w) {
     const auto zuDuennGegenueber = [&w](Seite n) {
         const Seite m = gegenueber(n);
-        return gipsfaser(w.Material[n].value()) && !gipsfaser(w.Material[m].value()) &&
+        return istGipsfaser(plattenmaterial(w, n)) && !istGipsfaser(plattenmaterial(w, m)) &&
                w.t[m] < mindestdickeGegenueberGipsfaser;
     };
     if (zuDuennGegenueber(Seite::eins) || zuDuennGegenueber(Seite::zwei))

@@ -90,11 +90,9 @@ void pruefeRippenhoehe(Wand& w, Seite n) {
 // Fasteners of the two sides that reach past each other in the rib, 12.5.2 (12). One side that is
 // free of the rule frees both; side 2 counts on a one-sided wall too.
 void pruefeUebergreifen(Wand& w) {
-    constexpr int schnellbauschrauben = 6;
-    constexpr int klammernDIN18182 = 8;
     for (const Seite n : beideSeiten) {
-        const int art = w.VMArt[n].value();
-        if (art == schnellbauschrauben || art == klammernDIN18182 || w.Vorgebohrt[n]) return;
+        const Art art = vmArt(w, n);
+        if (art == Art::schnellbauschrauben || art == Art::klammernDin18182 || w.Vorgebohrt[n]) return;
     }
     const auto genugHolz = [&w](Seite n) { return 4 * w.d[n] <= w.hRandrippe - (w.ln[n] - w.t[n]); };
     if (genugHolz(Seite::eins) && genugHolz(Seite::zwei)) return;
@@ -107,9 +105,9 @@ void pruefeVerbindungsmittelabstand(Wand& w, Seite n) {
     if (w.av[n] < 20 * w.d[n]) {
         melde(w, Bedingung::abstandZuKlein, n);
     } else if (w.av[n] > 80 * w.d[n]) {
-        const int art = w.VMArt[n].value();
-        if ((art >= 1 && art <= 3) || art == 7 || art == 8) melde(w, Bedingung::abstandNaegelZuGross, n);
-        if (art >= 4 && art <= 6) melde(w, Bedingung::abstandSchraubenZuGross, n);
+        const Art art = vmArt(w, n);
+        if (istNagel(art) || istKlammer(art)) melde(w, Bedingung::abstandNaegelZuGross, n);
+        if (istSchraube(art)) melde(w, Bedingung::abstandSchraubenZuGross, n);
     }
 }
 

@@ -71,8 +71,7 @@ void rippenquerschnitte(Berichtsbau& b, const Wand& w) {
 }
 
 std::optional<std::string_view> plattenname(const Wand& w, Seite n) {
-    constexpr int freiesMaterial = 13;
-    if (w.Material[n].value() < freiesMaterial) {
+    if (plattenmaterial(w, n) < Platte::frei) {
         return katalogname(Plattenmaterialien(), zeilenPlattenmaterialien, w.Material[n].value());
     }
     const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);
@@ -99,40 +98,28 @@ void beplankungen(Berichtsbau& b, const Wand& w) {
     if (!w.Einseitig) beplankung(b, w, Seite::zwei);
 }
 
-// The kinds of fasteners in the order of the catalogue.
-enum Art : std::int16_t {
-    naegel = 1,
-    sondernaegel,
-    klammern,
-    schraubenDIN7997,
-    schraubenZulassung,
-    schnellbauschrauben,
-    naegelDIN18182,
-    klammernDIN18182,
-};
-
 void vmMasse(Berichtsbau& b, const Wand& w, Seite n) {
-    const int art = w.VMArt[n].value();
+    const Art art = vmArt(w, n);
     b.zeile(4, {"Abstand av = ", {w.av[n], "0"}, " mm"});
-    if (art != naegel) {
+    if (art != Art::naegel) {
         // The mask of the length differs between the sides, and that is meant.
         const std::string_view maskeLaenge = n == Seite::eins ? b.worte.maskeNennlaenge1 : "0.0";
         b.zeile(4, {"Nenndurchmesser d = ", {w.d[n], "0.00"}, " mm"});
         b.zeile(4, {"Nennlänge ln = ", {w.ln[n], maskeLaenge}, " mm"});
     }
-    if (art == sondernaegel || art == schraubenDIN7997 || art == schraubenZulassung) {
+    if (hatGewinde(art)) {
         b.zeile(4, {"Gewindelänge lg = ", {w.lg[n], "0.0"}, " mm"});
     }
-    if (art != klammern && art != schnellbauschrauben && art != klammernDIN18182) {
+    if (!istKlammer(art) && art != Art::schnellbauschrauben) {
         b.zeile(4, {"Kopfdurchmesser dk = ", {w.dk[n], "0.0"}, " mm"});
     }
     b.zeile(4, {"Zugfestigkeit fuk = ", {w.fuk[n], "0.0"}, " N/mm²"});
 }
 
 void vmEinbau(Berichtsbau& b, const Wand& w, Seite n) {
-    const int art = w.VMArt[n].value();
+    const Art art = vmArt(w, n);
     if (w.Zweireihig[n]) b.zeile(4, {"VM werden zweireihig, versetzt angeordnet (doppelte Anzahl)"});
-    if (art != klammern && art < schnellbauschrauben) {
+    if (art != Art::klammern && art < Art::schnellbauschrauben) {
         b.zeile(4, {w.Vorgebohrt[n] ? "VM wird vorgebohrt" : "VM wird nicht vorgebohrt"});
     }
     b.zeile(4, {w.Versenkt[n] ? "VM wird versenkt eingeschlagen / eingeschraubt"
@@ -141,7 +128,7 @@ void vmEinbau(Berichtsbau& b, const Wand& w, Seite n) {
 
 // The size of a nail, which only plain nails name.
 std::optional<std::string_view> nagelzusatz(const Wand& w, Seite n) {
-    if (w.VMArt[n].value() != naegel) return "";
+    if (vmArt(w, n) != Art::naegel) return "";
     const int typ = w.VMTyp[n].value();
     if (typ < 1 || typ > zeilenVMTypen) return std::nullopt;
     return nagelname(typ);

@@ -118,42 +118,40 @@ void verformungen(Berichtsbau& b, const Wand& w) {
                "Grenzzustand Tragfähigkeit");
 }
 
-constexpr int ankerHD2PSGLang = 11;  // the two-part anchors that are nailed fully or partly
-constexpr int ankerHD2PLSG = 12;
-constexpr int freierAnker = 13;
-
-std::optional<Bild> ankerbild(int typ) {
-    if (typ < 1 || typ >= freierAnker) return std::nullopt;
-    if (typ <= 5) return Bild::ankerHD;
-    if (typ <= 7) return Bild::ankerHTT;
-    if (typ <= 10) return Bild::ankerHD2P;
-    return Bild::ankerHD2PSG;
+Bild ankerbild(Ankergruppe gruppe) {
+    switch (gruppe) {
+        case Ankergruppe::HD:
+            return Bild::ankerHD;
+        case Ankergruppe::HTT:
+            return Bild::ankerHTT;
+        case Ankergruppe::HD2P:
+            return Bild::ankerHD2P;
+        default:
+            return Bild::ankerHD2PSG;
+    }
 }
 
-std::optional<std::string_view> ankername(int typ) {
-    return ankerbild(typ) || typ == freierAnker ? std::optional(eintrag(Ankernamen(), typ)) : std::nullopt;
+std::optional<std::string_view> kammnagelname(int index) {
+    if (index < 1 || index > static_cast<int>(Kammnaegel().size())) return std::nullopt;
+    return Kammnaegel()[static_cast<std::size_t>(index) - 1].gedruckt;
 }
 
-std::optional<std::string_view> kammnagel(int index) {
-    constexpr std::array<std::string_view, 4> namen{"CNA - Kammnägel 4.0x40", "CNA - Kammnägel 4.0x50",
-                                                    "CNA - Kammnägel 4.0x60", "CNA - Kammnägel 4.0x75"};
-    if (index < 1 || index > static_cast<int>(namen.size())) return std::nullopt;
-    return namen[static_cast<std::size_t>(index) - 1];
-}
-
-void anker(Berichtsbau& b, const Wand& w) {
-    const int typ = w.Ankertyp.value();
+// A number outside the catalogue has no name and no picture, and counts its nails.
+void gewaehlterAnker(Berichtsbau& b, const Wand& w) {
+    const Anker* const typ = anker(w.Ankertyp.value());
+    const bool frei = w.Ankertyp.value() == freierAnker;
     b.zeile(5, {"gewählter Zuganker = ",
                 {w.AnzahlAnker, "0"},
                 "x",
-                ankername(typ),
-                typ == freierAnker ? std::string_view(w.FreierAnkerName) : ""});
-    if (const std::optional<Bild> bild = ankerbild(typ)) b.neu(Bildzeile{*bild, 132, -14, 66, 90});
-    if (typ != freierAnker) b.zeile(5, {kammnagel(w.Kammnagel.value())});
-    if (typ == ankerHD2PSGLang || typ == ankerHD2PLSG) {
+                typ != nullptr ? std::optional(typ->name) : std::nullopt,
+                frei ? std::string_view(w.FreierAnkerName) : ""});
+    if (frei) return;
+    if (typ != nullptr) b.neu(Bildzeile{ankerbild(typ->gruppe), 132, -14, 66, 90});
+    b.zeile(5, {kammnagelname(w.Kammnagel.value())});
+    if (typ != nullptr && typ->gruppe == Ankergruppe::HD2PSG) {
         b.zeile(5, {w.Teilausnagelung.value() == 1 ? "Zuganker voll ausgenagelt"
                                                    : "Zuganker nur teilweise ausgenagelt"});
-    } else if (typ != freierAnker) {
+    } else {
         b.zeile(5, {"Anzahl Nägel = ", {w.AnzahlAnkerNaegel, "0"}, " Stück"});
     }
 }
@@ -195,7 +193,7 @@ void lagesicherheit(Berichtsbau& b, const Wand& w) {
     b.zeile(5, {"Gamma,F für destabilierende Einwirkungen = 1,50 [-]"});
     b.zeile(4, {"Gamma,F für stabilierende Einwirkungen = 0,90 [-]"});
     b.zeile(5, {"Ft,dst = ", {w.Ftdst, "0.000"}, " kN (zu verankernde Zugkraft)"});
-    anker(b, w);
+    gewaehlterAnker(b, w);
     ankertragfaehigkeit(b, w);
 }
 

@@ -7,13 +7,15 @@
 
 namespace rippenscheibe {
 
-Ankergruppe ankergruppe(int ankertyp) {
-    if (ankertyp <= 5) return Ankergruppe::HD;
-    if (ankertyp <= 7) return Ankergruppe::HTT;
-    if (ankertyp <= 10) return Ankergruppe::HD2P;
-    if (ankertyp <= 12) return Ankergruppe::HD2PSG;
-    return Ankergruppe::frei;
+namespace {
+
+const Anker& gezeichneterAnker(const Wand& w) {
+    return *anker(std::clamp<int>(w.Ankertyp.value(), 1, freierAnker));
 }
+
+}  // namespace
+
+Ankergruppe ankergruppe(const Wand& w) { return gezeichneterAnker(w).gruppe; }
 
 namespace {
 
@@ -42,9 +44,6 @@ Ankerform form(Ankergruppe gruppe) {
     return {0.7, 0.5, 0, false, false};
 }
 
-// Nail holes of the anchors 1 to 12.
-constexpr std::array<int, 12> nagelloecher{25, 30, 53, 53, 60, 18, 18, 40, 11, 11, 16, 16};
-
 struct Naegel {
     int loecher = 0;
     int besetzt = 0;
@@ -52,10 +51,9 @@ struct Naegel {
 
 Naegel naegel(const Wand& w, Ankergruppe gruppe) {
     if (gruppe == Ankergruppe::frei) return {};
-    const int typ = std::clamp<int>(w.Ankertyp.value(), 1, 12);
-    const int loecher = nagelloecher[static_cast<std::size_t>(typ - 1)];
-    // The two-part anchors with a seat are nailed fully with 16 or partly with 8 nails.
-    if (gruppe == Ankergruppe::HD2PSG) return {16, w.Teilausnagelung.value() == 2 ? 8 : 16};
+    if (gruppe == Ankergruppe::HD2PSG)
+        return {naegelVoll, w.Teilausnagelung.value() == 2 ? naegelTeilweise : naegelVoll};
+    const int loecher = gezeichneterAnker(w).naegelHoechstens;
     return {loecher, std::clamp<int>(w.AnzahlAnkerNaegel.value(), 0, loecher)};
 }
 
@@ -170,7 +168,7 @@ QRectF vorderansicht(Zeichner& z, const QRectF& r, const Fuss& f, const Ankerfor
 
 QString ankerzeile(const Wand& w, Ankergruppe gruppe) {
     if (gruppe == Ankergruppe::frei) return ankerkurzname(w);
-    return ankergruppe(w.Ankertyp.value()) == gruppe ? ankerkurzname(w) : QStringLiteral("Zuganker");
+    return ankergruppe(w) == gruppe ? ankerkurzname(w) : QStringLiteral("Zuganker");
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ void plattenstoss(Zeichner& z, const QRectF& r) {
         z.schraffur(p, 0.5 * t, z.stil().plattenkante[Seite::eins]);
     }
     for (const double seite : {-0.25, 0.25})
-        zeichneVM(z, {mitte + seite * b, y + tief + dicke}, {0.0, -1.0}, 1,
+        zeichneVM(z, {mitte + seite * b, y + tief + dicke}, {0.0, -1.0}, Art::naegel,
                   {0.3 * t, dicke + 0.45 * tief, 0.8 * t, 0.0});
     for (const double x : {linke.left(), rechte.right()})
         z.bruchlinie({x, y + tief + dicke + 0.4 * t}, {x, y + tief - 0.4 * t}, z.stil().tinte);

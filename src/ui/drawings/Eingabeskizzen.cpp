@@ -207,19 +207,13 @@ namespace {
 
 constexpr double versenktiefe = 2.0;  // mm
 
-// The kinds with a thread or groove length to enter.
-bool hatGewinde(int art) {
-    using enum VMArtNummer;
-    return art == sondernagel || art == schraubeDIN7997 || art == schraubeZulassung;
-}
-
 struct VMwerte {
-    int art;
+    Art art;
     double d, ln, dk, lg, t;  // mm
 };
 
 VMwerte vmWerte(const Wand& w, Seite n) {
-    return {w.VMArt[n].value(),
+    return {vmArt(w, n),
             gezeichneterWert(w.d[n], 0.2, 100.0, 2.7),
             gezeichneterWert(w.ln[n], 5.0, 500.0, 50.0),
             gezeichneterWert(w.dk[n], 0.5, 100.0, 6.0),
@@ -266,7 +260,7 @@ void zeichneVerbindungsmittel(Zeichner& z, const Wand& w, Seite n) {
     z.textPassend({r.width() / 2.0, 1.3 * t}, verbindungsmittelname(w, n, z), Qt::AlignHCenter, r.width() - t,
                   {1.0, true, {}});
     QString querschnitt = QStringLiteral("d = %1").arg(durchmessertext(v.d, z.stil().dezimalzeichen));
-    if (!istKlammer(v.art) && v.art != VMArtNummer::schnellbauschraube)
+    if (!istKlammer(v.art) && v.art != Art::schnellbauschrauben)
         querschnitt += QStringLiteral(",  dk = %1").arg(z.zahl("0.0", v.dk));
     z.text({r.width() / 2.0, 2.7 * t}, querschnitt + QStringLiteral(" mm"), Qt::AlignHCenter);
     const auto mm = [&](double wert) { return z.zahl("0.0", wert); };

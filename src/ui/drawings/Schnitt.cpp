@@ -39,7 +39,7 @@ void zeichneGewinde(Zeichner& z, const Achsen& a, const VMmasse& m, double spitz
 
 }  // namespace
 
-void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, int art, const VMmasse& m) {
+void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, Art art, const VMmasse& m) {
     const Achsen a{richtung, QPointF(-richtung.y(), richtung.x()), kopf};
     if (istKlammer(art)) return zeichneKlammer(z, a, m);
     const double spitze = std::min(1.5 * m.d, 0.3 * m.ln);
@@ -52,7 +52,7 @@ void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, int art, const VMmas
     const double unten = istSchraube(art) ? schaft : m.dk / 2.0;  // a countersunk or a flat head
     z.painter().drawPolygon(QPolygonF{a(0.0, -m.dk / 2.0), a(0.0, m.dk / 2.0), a(std::max(hoehe, 0.1), unten),
                                       a(std::max(hoehe, 0.1), -unten)});
-    if (istSchraube(art) || art == VMArtNummer::sondernagel) zeichneGewinde(z, a, m, spitze);
+    if (istSchraube(art) || art == Art::sondernaegel) zeichneGewinde(z, a, m, spitze);
 }
 
 namespace {
@@ -109,7 +109,7 @@ VMmasse vmMasse(const Wand& w, Seite n, double f) {
     m.ln = gezeichneterWert(w.ln[n], 5.0, 400.0, 50.0) * f;
     m.dk = gezeichneterWert(w.dk[n], 1.0, 60.0, 6.0) * f;
     m.lg = gezeichneterWert(w.lg[n], 1.0, 400.0, 25.0) * f;
-    if (istKlammer(w.VMArt[n].value())) m.dk = klammerruecken * f;
+    if (istKlammer(w, n)) m.dk = klammerruecken * f;
     return m;
 }
 
@@ -118,7 +118,7 @@ void zeichneSchnittVM(Zeichner& z, const Wand& w, Seite n, const Schnittmasse& m
     const double y = vorn ? m.ursprung.y() + m.dicke() : m.ursprung.y();
     const QPointF hinein(0.0, vorn ? -1.0 : 1.0);
     const VMmasse vm = vmMasse(w, n, m.f);
-    const int art = w.VMArt[n].value();
+    const Art art = vmArt(w, n);
     zeichneVM(z, {m.ursprung.x() + m.rand / 2.0, y}, hinein, art, vm);
     const double mitte = m.innenLinks() + m.innen / 2.0;
     if (!stossImBild) return zeichneVM(z, {mitte, y}, hinein, art, vm);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Anker.h"
 #include "ui/drawings/Wandgeometrie.h"
 #include "ui/drawings/Zeichner.h"
 
@@ -7,9 +8,8 @@
 
 namespace rippenscheibe {
 
-enum class Ankergruppe { HD, HTT, HD2P, HD2PSG, frei };
-// Ankertyp 1 to 5, 6 and 7, 8 to 10, 11 and 12, 13.
-Ankergruppe ankergruppe(int ankertyp);
+// The group of the chosen anchor; numbers outside the catalogue count as its ends.
+Ankergruppe ankergruppe(const Wand& w);
 
 // Sketches of two parts put them one above the other in a tall area, else side by side.
 inline bool istHochformat(const QRectF& r) { return r.height() > 0.75 * r.width(); }
@@ -42,17 +42,6 @@ void zeichneStartbild(Zeichner& z, const Wand& w);
 enum class Schnittbeschriftung { keine, masse };
 QRectF zeichneSchnitt(Zeichner& z, const QRectF& r, const Wand& w, Schnittbeschriftung beschriftung);
 
-// The kinds of fasteners that look or are dimensioned otherwise than a nail; numbers of the catalogue.
-enum VMArtNummer : int {
-    sondernagel = 2,
-    klammer = 3,
-    schraubeDIN7997 = 4,
-    schraubeZulassung = 5,
-    schnellbauschraube = 6,
-    klammer18182 = 8,
-};
-inline bool istKlammer(int art) { return art == klammer || art == klammer18182; }
-inline bool istSchraube(int art) { return art >= schraubeDIN7997 && art <= schnellbauschraube; }
 // A staple has a back in place of a head; its length as drawn, mm.
 inline constexpr double klammerruecken = 10.0;
 
@@ -64,6 +53,6 @@ struct VMmasse {
     double dk;
     double lg;
 };
-void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, int art, const VMmasse& masse);
+void zeichneVM(Zeichner& z, QPointF kopf, QPointF richtung, Art art, const VMmasse& masse);
 
 }  // namespace rippenscheibe

@@ -87,8 +87,7 @@ bool hatHorizontallast(const Wand& w) { return w.Lastfall.value() != 2; }
 bool hatVertikallast(const Wand& w) { return w.Lastfall.value() != 1; }
 
 QString plattenname(const Wand& w, Seite n) {
-    constexpr int eigenes = 13;
-    if (w.Material[n].value() >= eigenes) {
+    if (plattenmaterial(w, n) >= Platte::frei) {
         const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);
         return name != nullptr && !name->empty() ? utf8text(*name) : QStringLiteral("freies Material");
     }
@@ -108,8 +107,7 @@ QString laengentext(double mm, char dezimalzeichen) {
 }
 
 QString verbindungsmittelname(const Wand& w, Seite n, const Zeichner& z) {
-    const int art = w.VMArt[n].value();
-    const QString name = utf8text(eintrag(VMArten(), art));
+    const QString name = utf8text(eintrag(VMArten(), w.VMArt[n].value()));
     const char zeichen = z.stil().dezimalzeichen;
     return name + QLatin1Char(' ') + durchmessertext(w.d[n].value(), zeichen) + QLatin1Char('x') +
            laengentext(w.ln[n].value(), zeichen);
@@ -136,9 +134,8 @@ QString metertext(double mm, const Zeichner& z) {
 }
 
 QString ankerkurzname(const Wand& w) {
-    constexpr int frei = 13;
     const int typ = w.Ankertyp.value();
-    if (typ == frei) {
+    if (typ == freierAnker) {
         return w.FreierAnkerName.empty() ? QStringLiteral("freier Anker") : utf8text(w.FreierAnkerName);
     }
     return utf8text(eintrag(Ankernamen(), typ)).section(QLatin1Char(' '), -1);

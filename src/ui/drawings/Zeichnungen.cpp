@@ -108,7 +108,7 @@ void zeichne(QPainter& painter, const QRectF& flaeche, Zeichnung was, const Wand
         case Zeichnung::verbindungsmittel2:
             return zeichneVerbindungsmittel(z, w, Seite::zwei);
         case Zeichnung::anker:
-            return zeichneAnker(z, w, ankergruppe(w.Ankertyp.value()), Ankerplatz::allein);
+            return zeichneAnker(z, w, ankergruppe(w), Ankerplatz::allein);
         case Zeichnung::last:
             return zeichneLast(z, w, w.Lastfall.value(), w.WindQuer);
         case Zeichnung::schubfluss:

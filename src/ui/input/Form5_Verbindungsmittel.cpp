@@ -37,30 +37,29 @@ constexpr Paar<Steuernamen> steuernamen{{{
 }}};
 // clang-format on
 
-// What a kind of fastener needs, and the tensile strength (N/mm²) that choosing it sets; 0 leaves it.
+// What a kind of fastener needs.
 struct Artregel {
     bool nagelliste;
     bool klassenliste;
     bool kopf;
     bool gewinde;
     bool vorbohren;  // false: " vorgebohrt" is off and cleared
-    double fuk;
 };
 // clang-format off
 constexpr std::array<Artregel, 8> artregeln{{
-    // nail list, class list, dk, lg, predrilled, fuk
-    {true,  false, true,  false, true,  600},  // Nägel
-    {false, true,  true,  true,  true,  600},  // Sondernägel
-    {false, false, false, false, false, 800},  // Klammern
-    {false, false, true,  true,  true,  600},  // Schrauben DIN 7997
-    {false, true,  true,  true,  true,  0},    // Schrauben mit Zulassung
-    {false, false, false, false, false, 400},  // Schnellbauschrauben DIN 18182-2
-    {false, false, true,  true,  false, 600},  // Nägel DIN 18182-2
-    {false, false, false, false, false, 950},  // Klammern DIN 18182-2
+    // nail list, class list, dk, lg, predrilled
+    {true,  false, true,  false, true},  // Nägel
+    {false, true,  true,  true,  true},  // Sondernägel
+    {false, false, false, false, false},  // Klammern
+    {false, false, true,  true,  true},  // Schrauben DIN 7997
+    {false, true,  true,  true,  true},    // Schrauben mit Zulassung
+    {false, false, false, false, false},  // Schnellbauschrauben DIN 18182-2
+    {false, false, true,  true,  false},  // Nägel DIN 18182-2
+    {false, false, false, false, false},  // Klammern DIN 18182-2
 }};
 // clang-format on
 
-bool gipsplatte(const Wand& w, Seite n) { return w.Material[n] >= 3 && w.Material[n] <= 7; }
+bool gipsplatte(const Wand& w, Seite n) { return istGips(plattenmaterial(w, n)); }
 
 }  // namespace
 
@@ -164,7 +163,7 @@ void Form5::richteSeite(Seite n, Anlass anlass) {
     if (anlass == Anlass::laden) return;
 
     if (!regel.vorbohren) s.vorgebohrt->setChecked(false);
-    if (regel.fuk > 0) s.fuk->setzeWert(regel.fuk);
+    if (const double fuk = fukDerArt(static_cast<Art>(art + 1)); fuk > 0) s.fuk->setzeWert(fuk);
     if (regel.nagelliste) uebernimmNagel(n);
 }
 

@@ -21,7 +21,6 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int freierAnker = 13;
 constexpr int knopfFreierAnker = 8;  // stands among the indices of the catalogue anchors; that is meant
 
 // Option buttons 0 to 7 are the anchors 1 to 8, 9 to 12 the anchors 9 to 12.
@@ -33,11 +32,6 @@ int knopfZuTyp(int typ) {
     if (typ == freierAnker) return knopfFreierAnker;
     return typ <= knopfFreierAnker ? typ - 1 : typ;
 }
-
-// Highest number of nails by Ankertyp; 0 where the number is not used.
-constexpr std::array<int, 13> hoechstzahlNaegel{25, 30, 53, 53, 60, 18, 18, 40, 11, 11, 0, 0, 0};
-
-constexpr std::array<std::string_view, 4> kammnaegel{"4,0x40", "4,0x50", "4,0x60", "4,0x75"};
 
 }  // namespace
 
@@ -87,7 +81,8 @@ QGroupBox* Form7::baueWerte() {
     };
     const QString ganz = QStringLiteral("0");
     const QString zwei = QStringLiteral("0.00");
-    kammnagel_ = liste(QStringLiteral("Combo1"), QStringLiteral("CNA Kammnägel"), kammnaegel);
+    kammnagel_ = liste(QStringLiteral("Combo1"), QStringLiteral("CNA Kammnägel"));
+    for (const Kammnagel& nagel : Kammnaegel()) kammnagel_->addItem(qtext(nagel.name));
     teilausnagelung_ = ankreuzfeld(QStringLiteral("Check2"), QStringLiteral("Teilausnagelung"));
     naegel_ = feld(0, QStringLiteral("Anzahl Nägel ="), QStringLiteral(" Stck."), 2, 100, ganz);
     anzahl_ = feld(3, QStringLiteral("Anzahl Anker ="), QStringLiteral(" Stck. je Wandende"), 1, 2, ganz);
@@ -112,7 +107,7 @@ void Form7::rechneTragfaehigkeit() {
     if (laedt() || rechnet_ || anker_->checkedId() < 0) return;
     rechnet_ = true;
     const int typ = ankertyp();
-    const int grenze = hoechstzahlNaegel[static_cast<std::size_t>(typ) - 1];
+    const int grenze = anker(typ)->naegelHoechstens;
     if (grenze > 0 && naegel_->wert() > grenze) naegel_->setzeWert(grenze);
     Wand w = programm_.w;
     schreibe(w);
@@ -126,7 +121,7 @@ void Form7::rechneTragfaehigkeit() {
 void Form7::zeigeAktive() {
     const int typ = ankertyp();
     const bool frei = typ == freierAnker;
-    const bool festeNagelzahl = typ == 11 || typ == 12;
+    const bool festeNagelzahl = typ > 0 && anker(typ)->gruppe == Ankergruppe::HD2PSG;
     freierName_->setEnabled(frei);
     rd_->setzeAktiv(frei);
     kammnagel_->setEnabled(!frei);

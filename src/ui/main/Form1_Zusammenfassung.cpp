@@ -11,9 +11,6 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int freiesMaterial = 13;
-constexpr int freierAnker = 13;
-
 QString zahl(const char* maske, Zahl wert) {
     return wert.failed() ? QString() : qtext(formatiere(maske, wert.value(), dezimalzeichen()));
 }
@@ -30,7 +27,7 @@ QString name(std::span<const std::string_view> katalog, const Ganzzahl& index) {
 
 QString platte(const Wand& w, Seite n) {
     const std::string* eigenes =
-        w.Material[n] == freiesMaterial ? w.eigeneMaterialien.name(w.EigenesMaterial[n]) : nullptr;
+        istEigenesMaterial(plattenmaterial(w, n)) ? w.eigeneMaterialien.name(w.EigenesMaterial[n]) : nullptr;
     const QString material = eigenes != nullptr ? qtext(*eigenes) : name(Plattenmaterialien(), w.Material[n]);
     return QStringLiteral("%1 %2 mm").arg(material, knapp(Plattendicke(w, n)));
 }
