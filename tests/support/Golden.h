@@ -12,11 +12,13 @@
 namespace rippenscheibe::tests {
 
 // Compares with the approved file tests/golden/<name>. With RIPPENSCHEIBE_ERNEUERN in the environment
-// the file is written anew instead: tools/approve does that, and the diff is read.
+// the file is written anew and the test fails, so that nobody renews by accident: tools/approve does that,
+// and the diff is read.
 inline void erwarteGolden(const std::string& name, const std::string& ist) {
     const std::filesystem::path datei = std::filesystem::path(RIPPENSCHEIBE_GOLDEN) / name;
     if (std::getenv("RIPPENSCHEIBE_ERNEUERN") != nullptr) {
         std::ofstream(datei, std::ios::binary) << ist;
+        ADD_FAILURE() << name << " was written anew";
         return;
     }
     std::ifstream quelle(datei, std::ios::binary);
