@@ -86,7 +86,6 @@ int listenlaenge(const Wand& w);
 std::string rippenname(int i, int anzahl);
 
 // The parts of the report, as the print window enters them.
-void titelblock(Berichtsbau& b, const Wand& w);
 void berichtTeil1(Berichtsbau& b, const Wand& w);  // sections 1 to 4
 void berichtTeil2(Berichtsbau& b, const Wand& w);  // sections 5 and 6
 void berichtTeil3(Berichtsbau& b);                 // section 7

@@ -11,6 +11,8 @@
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
+#include "ui/output/Druckpuffer.h"
+#include "ui/output/PdfLesezeichen.h"
 #include "ui/output/Seitenmaler.h"
 
 namespace rippenscheibe {
@@ -73,7 +75,13 @@ Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
     // Newer Qt gives each document a random number; the same position gives the same file.
     schreiber.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(positionstext(w))));
 #endif
-    aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { datei.ergebnis = setze(f, w, ausdruck); });
+    Druckpuffer seiten;
+    datei.ergebnis = setze(seiten, w, ausdruck);
+    aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { seiten.spiele(f); });
+    puffer.close();
+    Lesezeichensammler sammler;
+    seiten.spiele(sammler);
+    datei.bytes = mitLesezeichen(datei.bytes, sammler.gefundene);
     return datei;
 }
 

@@ -84,6 +84,25 @@ TEST_F(Pdfausgabe, PagesAreA4AndTheDocumentHasItsTitle) {
     EXPECT_EQ(dokumenttitel(programm.w), QStringLiteral("Lagerhalle Nord - Position A 4"));
 }
 
+// The outline holds every heading, and each object of the appended table stands where it says.
+TEST_F(Pdfausgabe, HeadingsAreBookmarks) {
+    const Ausdruck a = ausdruck();
+    tests::Aufzeichnung flaeche;
+    setze(flaeche, programm.w, a);
+    const QByteArray bytes = pdf(programm.w, a).bytes;
+    const auto anzahl = static_cast<qsizetype>(flaeche.nur(tests::Aufzeichnung::Art::lesezeichen).size());
+    EXPECT_EQ(bytes.count("/Title <FEFF"), anzahl);
+    const qsizetype tabelle = bytes.mid(bytes.lastIndexOf("startxref") + 10).split('\n').front().toLongLong();
+    const QList<QByteArray> zeilen = bytes.mid(tabelle).split('\n');
+    ASSERT_EQ(zeilen.front(), "xref");
+    qsizetype objekte = 0;
+    for (qsizetype i = 1; zeilen[i] != "trailer"; i += 2, ++objekte) {
+        const QByteArray nummer = zeilen[i].split(' ').front();
+        EXPECT_TRUE(bytes.mid(zeilen[i + 1].left(10).toLongLong()).startsWith(nummer + " 0 obj"));
+    }
+    EXPECT_EQ(objekte, anzahl + 2);  // the head of the outline and the catalog
+}
+
 // A job that was held and played later draws the same as one drawn at once.
 TEST_F(Pdfausgabe, HeldPagesAreTheSamePages) {
     const Ausdruck a = ausdruck();
