@@ -37,6 +37,10 @@ if(RIPPENSCHEIBE_SANITIZE)
     add_link_options(-fsanitize=${RIPPENSCHEIBE_SANITIZE})
 endif()
 
+if(RIPPENSCHEIBE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 # Libraries that are headers only are those of the building machine; alone, so that nothing else of it comes in.
 if(CMAKE_CROSSCOMPILING)
     foreach(kopf CLI nlohmann)

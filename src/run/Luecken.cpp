@@ -10,7 +10,6 @@ namespace rippenscheibe {
 namespace {
 
 constexpr Seite S1 = Seite::eins;
-constexpr Seite S2 = Seite::zwei;
 
 bool inGebrauch(const Wand& w, Seite n) { return n == S1 || !w.Einseitig; }
 

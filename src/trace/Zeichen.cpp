@@ -291,7 +291,8 @@ std::map<std::string, Eintrag, std::less<>> verzeichnis() {
     std::map<std::string, Eintrag, std::less<>> namen;
     for (const Zeile& zeile : zeilen) {
         for (const char seite : {'1', '2'})
-            namen.try_emplace(mitSeite(zeile.name, seite), mitSeite(zeile.zeichen, seite), zeile.quelle);
+            namen.try_emplace(mitSeite(zeile.name, seite),
+                              Eintrag{mitSeite(zeile.zeichen, seite), zeile.quelle});
     }
     return namen;
 }
