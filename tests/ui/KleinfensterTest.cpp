@@ -17,6 +17,7 @@
 #include "ui/help/Handbuch.h"
 #include "ui/input/Form16_VMKatalog.h"
 #include "ui/input/Form5_Verbindungsmittel.h"
+#include "ui/input/Form7_Verankerung.h"
 #include "ui/main/Dateiablauf.h"
 #include "ui/main/Fensterfabrik.h"
 #include "ui/main/Form0_Startbild.h"
@@ -263,6 +264,13 @@ TEST_F(Kleinfenster, DoubleQuotesBecomeSingleOnesWithOneNoteAndNothingIsLost) {
         EXPECT_EQ(programm->w.Vorbemerkungen[1], "b");
     }
     {
+        Form7 fenster(*programm, meldungen, nullptr);
+        setze(fenster, "Text1", "\"Z\" 40");
+        klick(fenster, "ComEnde");
+        EXPECT_EQ(meldungen.gezeigt.size(), 3U);
+        EXPECT_EQ(programm->w.FreierAnkerName, "'Z' 40");
+    }
+    {
         Form8 fenster(*programm, meldungen, nullptr);
         feld<QListWidget>(fenster, "List1")->setCurrentRow(1);
         setze(fenster, "Text1", "Büro \"Nord\"");
@@ -272,7 +280,7 @@ TEST_F(Kleinfenster, DoubleQuotesBecomeSingleOnesWithOneNoteAndNothingIsLost) {
         setze(fenster, "Text3", "/daten/");
         klick(fenster, "Command3");
         EXPECT_EQ(programm->einstellungen.Kopfzeile1, "Büro 'Nord'");
-        EXPECT_EQ(meldungen.gezeigt.size(), 4U);
+        EXPECT_EQ(meldungen.gezeigt.size(), 5U);
     }
     neuStart();
     ASSERT_EQ(programm->projekte.eintraege.size(), 5U);
@@ -631,6 +639,32 @@ TEST_F(Kleinfenster, EveryChapterOfTheHandbookCanBeShown) {
         const QString text = feld<QTextBrowser>(handbuch, "Handbuchseite")->toPlainText();
         EXPECT_TRUE(text.startsWith(liste->item(i)->text())) << utf8(liste->item(i)->text());
     }
+}
+
+TEST_F(Kleinfenster, TheHandbookIsSearchedAndLeafedThrough) {
+    Form99 fenster(*programm, meldungen);
+    Handbuch handbuch(&fenster);
+    handbuch.setAttribute(Qt::WA_DeleteOnClose, false);
+    handbuch.zeigeKapitel(QStringLiteral("inhalt"));
+    handbuch.show();
+    EXPECT_FALSE(feld(handbuch, "VorigeSeite")->isEnabled());
+    klick(handbuch, "NaechsteSeite");
+    const QString zweites = handbuch.kapitel();
+    EXPECT_NE(zweites, QStringLiteral("inhalt"));
+    klick(handbuch, "VorigeSeite");
+    EXPECT_EQ(handbuch.kapitel(), QStringLiteral("inhalt"));
+    setze(handbuch, "Handbuchsuche", "Lochleibung");
+    const auto* liste = feld<QListWidget>(handbuch, "Handbuchinhalt");
+    auto* seite = feld<QTextBrowser>(handbuch, "Handbuchseite");
+    for (int i = 0; i < liste->count(); ++i) {
+        if (liste->item(i)->isHidden()) continue;
+        feld<QListWidget>(handbuch, "Handbuchinhalt")->setCurrentRow(i);
+        EXPECT_TRUE(seite->toPlainText().contains(QStringLiteral("Lochleibung"), Qt::CaseInsensitive)) << i;
+        EXPECT_FALSE(seite->extraSelections().isEmpty());
+    }
+    EXPECT_TRUE(liste->item(0)->isHidden());
+    setze(handbuch, "Handbuchsuche", "gibtesnicht");
+    EXPECT_EQ(handbuch.findChild<QLabel*>()->text(), QStringLiteral("kein Treffer"));
 }
 
 // Every link to a chapter and every picture of the handbook is there.

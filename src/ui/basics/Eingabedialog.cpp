@@ -7,11 +7,13 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "files/Positionsdatei.h"
+#include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Wandansicht.h"
@@ -91,6 +93,8 @@ void Eingabedialog::skizziere(Wandansicht* ansicht) {
 void Eingabedialog::uebernehmen() {
     if (!eingabenGueltig(*this, meldungen_)) return;
     const std::string vorher = positionstext(programm_.w);
+    for (QLineEdit* feld : findChildren<QLineEdit*>())
+        if (qobject_cast<Werteingabe*>(feld) == nullptr) ersetzeAnfuehrungszeichen(meldungen_, this, {feld});
     schreibe(programm_.w);
     if (positionstext(programm_.w) != vorher) programm_.setzeGesichert(false);
     if (const std::optional<Ablehnung> grund = ablehnung(programm_.w)) {

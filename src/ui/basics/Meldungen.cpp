@@ -104,6 +104,7 @@ Antwort Plattformmeldungen::zeige(QWidget* fenster, const Meldung& meldung) {
     constexpr int kante = 40;  // px
     const QIcon bild(QStringLiteral(":/icons/meldung-%1.svg").arg(QLatin1String(art.bild)));
     box.setIconPixmap(bild.pixmap(QSize(kante, kante), box.devicePixelRatioF()));
+    for (QAbstractButton* knopf : box.buttons()) knopf->setIcon(QIcon());
     beschrifte(box, meldung.worte);
     if (meldung.vorgabe) setzeVorgabe(box, *meldung.vorgabe);
     if (meldung.knoepfe == Knoepfe::jaNein) box.setEscapeButton(QMessageBox::No);

@@ -62,6 +62,7 @@ Form16::Form16(Programm& programm, Meldungen& meldungen, QWidget* dialog, Seite 
     auto* aussen = new QVBoxLayout(rahmen);
     auto* rolle = new QScrollArea(rahmen);
     rolle->setFrameShape(QFrame::NoFrame);
+    rolle->setFocusPolicy(Qt::NoFocus);
     rolle->setWidgetResizable(true);
     auto* flaeche = new QWidget(rolle);
     auto* spalten = new QHBoxLayout(flaeche);
@@ -123,6 +124,8 @@ QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
         const VMKatalogzeile& zeile = VMKatalog()[static_cast<std::size_t>(nummer - 1)];
         auto* schild = new QLabel(abmessung(zeile), rahmen);
         schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        // All groups share the columns of the widest size.
+        schild->setMinimumWidth(schild->fontMetrics().horizontalAdvance(QStringLiteral("4,5 x 100")));
         schild->setToolTip(QStringLiteral("d-Kopf = %1 mm").arg(zahl(zeile.dk)));
         auto* knopf = new QPushButton(QStringLiteral("auswählen"), rahmen);
         knopf->setObjectName(QStringLiteral("Command1(%1)").arg(nummer - 1));

@@ -31,11 +31,8 @@ class Balkenzeile : public QStyledItemDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         painter->save();
-        if (option.state & (QStyle::State_Selected | QStyle::State_HasFocus)) {
-            QColor grund = option.palette.color(QPalette::Highlight);
-            grund.setAlphaF(0.18F);
-            painter->fillRect(option.rect, grund);
-        }
+        if (option.state & QStyle::State_Selected)
+            painter->fillRect(option.rect, option.palette.color(QPalette::Highlight));
         const bool ganzerAbschnitt = !index.data(Zeilennummer).isValid();
         QFont schrift = option.font;
         schrift.setWeight(ganzerAbschnitt ? QFont::DemiBold : QFont::Normal);
@@ -55,7 +52,7 @@ class Balkenzeile : public QStyledItemDelegate {
                           const QModelIndex& index) {
         const auto urteil = static_cast<Balkenurteil>(index.data(Urteilsart).toInt());
         const QFontMetrics masse(painter.font());
-        const int rechts = masse.horizontalAdvance(QStringLiteral("00,000  ✗ nicht erfüllt "));
+        const int rechts = masse.horizontalAdvance(QStringLiteral("00,000  ! nicht nachgewiesen "));
         // The columns of all rows stand below each other, whatever their indent.
         const int anfang = std::max(flaeche.left(), option.widget->width() * 2 / 5);
         const QRect name(flaeche.left(), flaeche.top(), anfang - rand - flaeche.left(), flaeche.height());
@@ -77,6 +74,13 @@ Balkenurteil balkenurteil(const Abschnittsurteil& abschnitt) {
     if (abschnitt.groesster > 1) return Balkenurteil::ueberschritten;
     if (abschnitt.stand == Nachweisstand::offen) return Balkenurteil::ohneNachweis;
     return abschnitt.stand == Nachweisstand::gefuehrt ? Balkenurteil::erfuellt : Balkenurteil::ohneBedarf;
+}
+
+// Nothing was computed where nothing is asked for, nor where a proof is missing.
+QString abschnittswert(const Abschnittsurteil& abschnitt, Balkenurteil urteil, char dezimalzeichen) {
+    if (urteil == Balkenurteil::ohneBedarf) return QStringLiteral("–");
+    if (urteil == Balkenurteil::ohneNachweis && abschnitt.groesster == 0) return QString();
+    return ausnutzungstext(abschnitt.groesster, dezimalzeichen);
 }
 
 struct Zeileninhalt {
@@ -135,6 +139,12 @@ QString ausnutzungstext(double eta, char dezimalzeichen) {
 Ausnutzungsbaum::Ausnutzungsbaum(QWidget* parent) : QTreeWidget(parent) {
     setHeaderHidden(true);
     setUniformRowHeights(true);
+    // A soft ground under a chosen row: the bars keep their colours.
+    QPalette farben = palette();
+    QColor grund = farben.color(QPalette::Highlight);
+    grund.setAlphaF(0.18F);
+    farben.setColor(QPalette::Highlight, grund);
+    setPalette(farben);
     setIndentation(16);
     setItemDelegate(new Balkenzeile(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -191,10 +201,9 @@ void Ausnutzungsbaum::baue() {
         const bool leer = urteil == Balkenurteil::ohneBedarf;
         QString zusatz = qtext(a.luecke);
         if (a.entfaelltImBericht) zusatz = QStringLiteral("zählt, obwohl der Bericht \"entfällt\" sagt");
-        QTreeWidgetItem* abschnitt =
-            fuegeHinzu(leer ? ohneBedarf(invisibleRootItem(), leereAbschnitte) : invisibleRootItem(),
-                       {qtext(a.name), a.groesster, urteil,
-                        leer ? QStringLiteral("–") : ausnutzungstext(a.groesster, dezimalzeichen_), zusatz});
+        QTreeWidgetItem* abschnitt = fuegeHinzu(
+            leer ? ohneBedarf(invisibleRootItem(), leereAbschnitte) : invisibleRootItem(),
+            {qtext(a.name), a.groesster, urteil, abschnittswert(a, urteil, dezimalzeichen_), zusatz});
         abschnitt->setData(0, Abschnittsnummer, static_cast<int>(i));
         const std::string nummer = std::string(a.name.substr(0, a.name.find(' ') + 1));
         QTreeWidgetItem* leereZeilen = nullptr;

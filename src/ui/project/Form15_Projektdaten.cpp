@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "files/Positionsdatei.h"
+#include "ui/basics/Ausnutzungsbalken.h"
 #include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Papierschrift.h"
@@ -54,10 +55,12 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     grid->addWidget(schild(QStringLiteral("Projekt :"), projekt_), 0, 0);
     grid->addWidget(projekt_, 0, 1, 1, 2);
 
-    platz_ = new QLabel(
-        QStringLiteral("⚠ Der Name läuft in der Fußzeile des Ausdrucks in \"Position :\" hinein."), this);
+    platz_ = new QLabel(QStringLiteral("⚠ Der Name ist zu lang für die Fußzeile des Ausdrucks."), this);
     platz_->setObjectName(QStringLiteral("Fusszeilenplatz"));
     platz_->setWordWrap(true);
+    QPalette farben = platz_->palette();
+    farben.setColor(QPalette::WindowText, urteilsfarben(palette()).warnung);
+    platz_->setPalette(farben);
     grid->addWidget(platz_, 1, 1, 1, 2);
     connect(projekt_, &QComboBox::editTextChanged, this, &Form15::zeigeFusszeilenplatz);
 
