@@ -28,14 +28,7 @@ void gerippe(Zeichner& z, const Tafel& tafel, const std::vector<double>& anteile
 }
 
 void platte(Zeichner& z, const QRectF& r) {
-    QColor farbe = z.stil().platte[Seite::eins];
-    farbe.setAlphaF(static_cast<float>(z.stil().plattendeckung));
-    z.rechteck(r, farbe, Strich::ansicht, z.stil().holzlinie);
-}
-
-void boden(Zeichner& z, double links, double rechts, double y) {
-    z.schraffur({links, y, rechts - links, 0.7 * z.t()}, 0.5 * z.t(), z.stil().nebentinte);
-    z.linie({links, y}, {rechts, y}, Strich::schnitt, z.stil().tinte);
+    z.rechteck(r, z.stil().durchscheinend(Seite::eins), Strich::ansicht, z.stil().holzlinie);
 }
 
 void ankerwinkel(Zeichner& z, QPointF fuss, double nachInnen) {
@@ -115,7 +108,7 @@ void zeichneStoesse(Zeichner& z) {
     for (const double a : {1.0 / 3, 2.0 / 3})
         z.linie({wand.left() + a * wand.width(), wand.top()}, {wand.left() + a * wand.width(), wand.bottom()},
                 Strich::schnitt, z.stil().plattenkante[Seite::eins], Linienart::gestrichelt);
-    boden(z, wand.left() - t, wand.right() + t, wand.bottom());
+    z.boden(wand.left() - t, wand.right() + t, wand.bottom());
     const auto x = [&](double a) { return wand.left() + a * wand.width(); };
     z.massWaagerecht(wand.bottom() + 3.0 * t, wand.bottom() + 0.7 * t,
                      {{x(0.0), x(1.0 / 3), x(2.0 / 3), x(1.0)},
@@ -138,7 +131,7 @@ void zeichneOeffnungen(Zeichner& z) {
     const Tafel tafel{wand, std::min(0.9 * t, 0.03 * wand.width())};
     gerippe(z, tafel, {0.0, 0.25, 0.5, 0.75, 1.0});
     platte(z, wand);
-    boden(z, wand.left() - t, wand.right() + t, wand.bottom());
+    z.boden(wand.left() - t, wand.right() + t, wand.bottom());
     const double seite = std::min(0.13 * wand.width(), 0.30 * wand.height());
     const QPointF eckig(wand.left() + 0.375 * wand.width(), wand.top() + 0.42 * wand.height());
     const QPointF rund(wand.left() + 0.875 * wand.width(), wand.top() + 0.42 * wand.height());
@@ -165,24 +158,49 @@ void zeichneOeffnungen(Zeichner& z) {
            QStringLiteral("Summe der Höhen < 10 % von h  (Maße in mm)"), Qt::AlignHCenter, art);
 }
 
+namespace {
+
+// A part of the row of panels, in fractions of its length.
+struct Gruppenteil {
+    double von, bis;
+    const char* name;
+};
+constexpr std::array<Gruppenteil, 3> gruppenteile{{{0.0, 0.27, "l1"}, {0.42, 0.62, "l2"}, {0.80, 1.0, "l3"}}};
+
+// An opening is crossed out.
+void oeffnung(Zeichner& z, const QRectF& o) {
+    z.rechteck(o, Qt::NoBrush, Strich::ansicht, z.stil().nebentinte);
+    z.linie(o.topLeft(), o.bottomRight(), Strich::mass, z.stil().nebentinte);
+    z.linie(o.topRight(), o.bottomLeft(), Strich::mass, z.stil().nebentinte);
+}
+
+// The panels with their lengths.
+void gruppentafeln(Zeichner& z, const QRectF& wand, double rippe) {
+    const double t = z.t();
+    const auto x = [&](double a) { return wand.left() + a * wand.width(); };
+    Masskette kette;
+    for (const Gruppenteil& teil : gruppenteile) {
+        const QRectF tafel(x(teil.von), wand.top(), x(teil.bis) - x(teil.von), wand.height());
+        gerippe(z, {tafel, rippe}, {0.0, 0.5, 1.0});
+        platte(z, tafel);
+        kette.stellen.insert(kette.stellen.end(), {tafel.left(), tafel.right()});
+        kette.texte.insert(kette.texte.end(), {QString::fromUtf8(teil.name), QString()});
+    }
+    kette.texte.pop_back();
+    z.massWaagerecht(wand.bottom() + 3.6 * t, wand.bottom() + 1.4 * t, kette);
+}
+
+}  // namespace
+
 void zeichneGruppen(Zeichner& z) {
     const double t = z.t();
     const QRectF r = z.flaeche();
     const QRectF wand(5.4 * t, 3.2 * t, r.width() - 7.4 * t, r.height() - 11.4 * t);
     if (wand.width() < 10.0 * t || wand.height() < 5.0 * t) return;
     const double rippe = std::min(0.8 * t, 0.03 * wand.width());
-    struct Teil {
-        double von, bis;
-        const char* name;
-    };
-    constexpr std::array<Teil, 3> tafeln{{{0.0, 0.27, "l1"}, {0.42, 0.62, "l2"}, {0.80, 1.0, "l3"}}};
     const auto x = [&](double a) { return wand.left() + a * wand.width(); };
-    boden(z, wand.left() - t, wand.right() + t, wand.bottom());
-    for (const Teil& teil : tafeln) {
-        const QRectF tafel(x(teil.von), wand.top(), x(teil.bis) - x(teil.von), wand.height());
-        gerippe(z, {tafel, rippe}, {0.0, 0.5, 1.0});
-        platte(z, tafel);
-    }
+    z.boden(wand.left() - t, wand.right() + t, wand.bottom());
+    gruppentafeln(z, wand, rippe);
     // Continuous head and bottom rib; window above its parapet, door down to the floor.
     z.holz({wand.left(), wand.top(), wand.width(), rippe});
     z.holz({wand.left(), wand.bottom() - rippe, wand.width(), rippe});
@@ -190,12 +208,8 @@ void zeichneGruppen(Zeichner& z) {
                       QPointF(x(0.42), wand.bottom() - rippe));
     const QRectF fenster(QPointF(x(0.62), wand.top() + 0.2 * wand.height()),
                          QPointF(x(0.80), wand.top() + 0.65 * wand.height()));
-    for (const QRectF& o : {tuer, fenster}) {
-        z.rechteck(o, Qt::NoBrush, Strich::ansicht, z.stil().nebentinte);
-        z.linie(o.topLeft(), o.bottomRight(), Strich::mass, z.stil().nebentinte);
-        z.linie(o.topRight(), o.bottomLeft(), Strich::mass, z.stil().nebentinte);
-    }
-    for (const Teil& teil : tafeln) {
+    for (const QRectF& o : {tuer, fenster}) oeffnung(z, o);
+    for (const Gruppenteil& teil : gruppenteile) {
         ankerwinkel(z, {x(teil.von) + rippe, wand.bottom()}, 1.0);
         ankerwinkel(z, {x(teil.bis) - rippe, wand.bottom()}, -1.0);
     }
@@ -203,15 +217,6 @@ void zeichneGruppen(Zeichner& z) {
     z.pfeil({wand.left() - 3.6 * t, y}, {wand.left() - 0.2 * t, y}, z.stil().last, 0.6);
     z.text({wand.left() - 1.9 * t, y + 1.6 * t}, QStringLiteral("Fv,k"), Qt::AlignHCenter,
            {1.0, false, z.stil().last});
-    Masskette kette;
-    for (const Teil& teil : tafeln) {
-        kette.stellen.push_back(x(teil.von));
-        kette.stellen.push_back(x(teil.bis));
-        kette.texte.push_back(QString::fromUtf8(teil.name));
-        kette.texte.emplace_back();
-    }
-    kette.texte.pop_back();
-    z.massWaagerecht(wand.bottom() + 3.6 * t, wand.bottom() + 1.4 * t, kette);
     z.textPassend({r.center().x(), 1.6 * t},
                   QStringLiteral("Kopf- und Fußrippe durchgehend, jede Tafel verankert"), Qt::AlignHCenter,
                   r.width() - 1.5 * t, {0.95, false, {}});

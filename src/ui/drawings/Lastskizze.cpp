@@ -42,14 +42,9 @@ Wandbild zeichneWandbild(Zeichner& z, const QRectF& platz, const Wand& w) {
     for (const double x : b.achsen) z.holz({x - b.rippe / 2.0, b.r.top(), b.rippe, hoehe}, Strich::mass);
     z.holz({b.r.left(), b.r.top(), breite, b.rippe}, Strich::mass);
     z.holz({b.r.left(), b.r.bottom() - b.rippe, breite, b.rippe}, Strich::mass);
-    QColor platte = z.stil().platte[Seite::eins];
-    platte.setAlphaF(static_cast<float>(z.stil().plattendeckung));
-    z.rechteck(b.r, platte, Strich::schnitt, z.stil().holzlinie);
+    z.rechteck(b.r, z.stil().durchscheinend(Seite::eins), Strich::schnitt, z.stil().holzlinie);
     const double t = z.t();
-    z.schraffur({b.r.left() - 0.7 * t, b.r.bottom(), breite + 1.4 * t, 0.7 * t}, 0.5 * t,
-                z.stil().nebentinte);
-    z.linie({b.r.left() - 0.7 * t, b.r.bottom()}, {b.r.right() + 0.7 * t, b.r.bottom()}, Strich::schnitt,
-            z.stil().tinte);
+    z.boden(b.r.left() - 0.7 * t, b.r.right() + 0.7 * t, b.r.bottom());
     return b;
 }
 
@@ -83,8 +78,7 @@ void windbild(Zeichner& z, const QRectF& r, const Wand& w) {
     if (!w.Einseitig)
         z.rechteck({kern.right(), r.top(), 0.35 * t, r.height()}, z.stil().platte[Seite::zwei], Strich::mass,
                    z.stil().plattenkante[Seite::zwei]);
-    z.linie({r.left(), r.bottom()}, {r.right() + 0.8 * t, r.bottom()}, Strich::schnitt, z.stil().tinte);
-    z.schraffur({r.left(), r.bottom(), r.width() + 0.8 * t, 0.7 * t}, 0.5 * t, z.stil().nebentinte);
+    z.boden(r.left(), r.right() + 0.8 * t, r.bottom());
     const double nah = kern.left() - 0.6 * t;
     const double fern = nah - 2.4 * t;
     const bool sog = w.wk.value() < 0.0F;
@@ -145,9 +139,7 @@ void zeichneSchubfluss(Zeichner& z, const Wand& w) {
     const double unten = 2.4 * t;
     const QRectF p(links, oben, r.width() - links - rechts, r.height() - oben - unten);
     if (p.width() < 3.0 * t || p.height() < 2.0 * t) return;
-    QColor platte = z.stil().platte[Seite::eins];
-    platte.setAlphaF(static_cast<float>(z.stil().plattendeckung));
-    z.rechteck(p, platte, Strich::ansicht, z.stil().holzlinie);
+    z.rechteck(p, z.stil().durchscheinend(Seite::eins), Strich::ansicht, z.stil().holzlinie);
     const QColor farbe = z.stil().last;
     const double a = 0.55 * t;
     const bool nachRechts = !(w.Fvk.value() < 0.0F);

@@ -70,11 +70,7 @@ void wandanker(Zeichner& z, const QRectF& r) {
     }
 }
 
-void wandboden(Zeichner& z, const QRectF& r) {
-    const double t = z.t();
-    z.schraffur({r.left() - t, r.bottom(), r.width() + 2.0 * t, 0.7 * t}, 0.5 * t, z.stil().nebentinte);
-    z.linie({r.left() - t, r.bottom()}, {r.right() + t, r.bottom()}, Strich::schnitt, z.stil().tinte);
-}
+void wandboden(Zeichner& z, const QRectF& r) { z.boden(r.left() - z.t(), r.right() + z.t(), r.bottom()); }
 
 // The horizontal load and the sheared outline, exaggerated.
 void wandlast(Zeichner& z, const QRectF& r) {

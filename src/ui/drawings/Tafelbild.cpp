@@ -39,11 +39,9 @@ QPolygonF Tafelbild::gezeigt(Seite n) const {
 
 void Tafelbild::platte(Seite n) {
     const Ebenenwechsel ebene(z_, plattenebene(n));
-    QColor farbe = z_.stil().platte[n];
-    farbe.setAlphaF(static_cast<float>(z_.stil().plattendeckung));
     if (art_ == Tafelart::bauzeichnung)
         return z_.vieleck(gezeigt(n), Qt::NoBrush, Strich::ansicht, z_.stil().plattenkante[n]);
-    z_.fuelle(gezeigt(n), farbe);
+    z_.fuelle(gezeigt(n), z_.stil().durchscheinend(n));
     if (n == Seite::eins)
         z_.bruchlinie({m_.x(schnittUnten * g_.l), m_.y(0.0)}, {m_.x(schnittOben * g_.l), m_.y(g_.h)},
                       z_.stil().plattenkante[n]);

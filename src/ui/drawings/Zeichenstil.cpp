@@ -12,6 +12,12 @@ QColor aufgehellt(const QColor& farbe, double anteil) {
 
 }  // namespace
 
+QColor Zeichenstil::durchscheinend(Seite n) const {
+    QColor farbe = platte[n];
+    farbe.setAlphaF(static_cast<float>(plattendeckung));
+    return farbe;
+}
+
 Zeichenstil Zeichenstil::hell() {
     Zeichenstil s;
     s.mm = 96.0 / 25.4;

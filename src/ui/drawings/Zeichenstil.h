@@ -35,6 +35,9 @@ struct Zeichenstil {
     QColor stahl;
     QColor last;
 
+    // Sheathing before the ribs, which shine through.
+    QColor durchscheinend(Seite n) const;
+
     // Screen: one millimetre is 96/25.4 logical pixels. `dunkel` changes ground and ink only.
     static Zeichenstil hell();
     static Zeichenstil dunkel();
