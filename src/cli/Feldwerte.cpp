@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "files/Anweisungen.h"
+#include "model/Feldangaben.h"
 
 namespace rippenscheibe {
 
@@ -69,6 +70,7 @@ struct Verzeichniszeile {
     std::string_view typ;
     std::string vorgabe;
     std::string vorgabeJson;
+    std::string bereich;
 };
 
 std::vector<Verzeichniszeile> feldverzeichnis() {
@@ -80,13 +82,26 @@ std::vector<Verzeichniszeile> feldverzeichnis() {
         using T = std::remove_cvref_t<decltype(feld)>;
         std::string json;
         anfuegeJson(json, feld, leer);
-        zeilen.push_back({art, angabe, typname<T>(), vorgabe(feld), json});
+        zeilen.push_back({art, angabe, typname<T>(), vorgabe(feld), json, bereichstext(angabe.bereich, "")});
     };
     art = "Eingabe";
     jedeEingabe(w, sammle);
     art = "Ergebnis";
     jedesErgebnis(w, sammle);
     return zeilen;
+}
+
+// [min, max], null for a limit that is not there; null for a field without limits.
+std::string bereichJson(const Wertebereich& bereich) {
+    if (!bereich.begrenzt()) return "null";
+    std::string json = "[";
+    anfuegeJson(json, bereich.min, {});
+    json += ',';
+    if (bereich.max < Wertebereich{}.max)
+        anfuegeJson(json, bereich.max, {});
+    else
+        json += "null";
+    return json + "]";
 }
 
 // Characters, not bytes: umlauts and ² take one column.
@@ -157,11 +172,22 @@ std::string jsonZeile(std::string_view datei, const Wand& w, bool gerechnet) {
 std::string feldverzeichnisText() {
     const std::vector<Verzeichniszeile> zeilen = feldverzeichnis();
     const auto spalten = [](const Verzeichniszeile& z) {
-        return std::array<std::string_view, 6>{z.art,     z.angabe.name,     z.typ, z.angabe.einheit,
-                                               z.vorgabe, z.angabe.bedeutung};
+        const Feldangabe& a = z.angabe;
+        return std::array<std::string_view, 10>{z.art,     a.name,    z.typ,   a.symbol,    a.einheit,
+                                                z.vorgabe, z.bereich, a.maske, a.bedeutung, a.quelle};
     };
-    const Verzeichniszeile kopf{"Art", {"Name", "Einheit", "Bedeutung"}, "Typ", "Vorgabe", ""};
-    std::array<std::size_t, 6> breiten{};
+    const Verzeichniszeile kopf{"Art",
+                                {.name = "Name",
+                                 .einheit = "Einheit",
+                                 .bedeutung = "Bedeutung",
+                                 .symbol = "Symbol",
+                                 .maske = "Maske",
+                                 .quelle = "Quelle"},
+                                "Typ",
+                                "Vorgabe",
+                                "",
+                                "Bereich"};
+    std::array<std::size_t, 10> breiten{};
     const auto miss = [&](const Verzeichniszeile& z) {
         for (std::size_t k = 0; k < breiten.size(); ++k)
             breiten[k] = std::max(breiten[k], breite(spalten(z)[k]));
@@ -175,7 +201,8 @@ std::string feldverzeichnisText() {
         for (std::size_t k = 0; k + 1 < werte.size(); ++k) {
             text.append(werte[k]).append(breiten[k] - breite(werte[k]) + 2, ' ');
         }
-        text.append(werte.back()) += '\n';
+        text.append(werte.back());
+        text.erase(text.find_last_not_of(' ') + 1) += '\n';
     };
     schreibe(kopf);
     for (const Verzeichniszeile& z : zeilen) schreibe(z);
@@ -188,7 +215,9 @@ std::string feldverzeichnisJson() {
         json += json.empty() ? "[" : ",\n ";
         json += "{\"name\":" + jsonText(z.angabe.name) + ",\"art\":" + jsonText(z.art) +
                 ",\"typ\":" + jsonText(z.typ) + ",\"einheit\":" + jsonText(z.angabe.einheit) +
-                ",\"vorgabe\":" + z.vorgabeJson + ",\"bedeutung\":" + jsonText(z.angabe.bedeutung) + "}";
+                ",\"vorgabe\":" + z.vorgabeJson + ",\"bedeutung\":" + jsonText(z.angabe.bedeutung) +
+                ",\"symbol\":" + jsonText(z.angabe.symbol) + ",\"bereich\":" + bereichJson(z.angabe.bereich) +
+                ",\"maske\":" + jsonText(z.angabe.maske) + ",\"quelle\":" + jsonText(z.angabe.quelle) + "}";
     }
     return json + "]\n";
 }

@@ -45,24 +45,11 @@ void anfuegeKuerzeste(std::string& text, T wert) {
     text.append(puffer.data(), ergebnis.ptr);
 }
 
-// The range that ends the meaning of a field: "..., 20 bis 200", "..., 1 oder 2", "1: ..., 2: ...".
+// The range of a field that has both limits.
 std::optional<Bereich> bereich(const Feldangabe& angabe) {
-    const std::string_view text = angabe.bedeutung;
-    if (text.starts_with("1: ")) return Bereich{1, 2};
-    const std::size_t komma = text.rfind(", ");
-    if (komma == std::string_view::npos) return std::nullopt;
-    std::string rest(text.substr(komma + 2));
-    std::replace(rest.begin(), rest.end(), ',', '.');
-    const char* const ende = rest.data() + rest.size();
-    Bereich bereich{};
-    const auto [nachVon, fehler] = std::from_chars(rest.data(), ende, bereich.von);
-    if (fehler != std::errc{}) return std::nullopt;
-    for (const std::string_view wort : {" bis ", " oder "}) {
-        const std::string_view danach(nachVon, static_cast<std::size_t>(ende - nachVon));
-        if (!danach.starts_with(wort)) continue;
-        if (std::from_chars(nachVon + wort.size(), ende, bereich.bis).ec == std::errc{}) return bereich;
-    }
-    return std::nullopt;
+    const Wertebereich& werte = angabe.bereich;
+    if (werte.max == Wertebereich{}.max) return std::nullopt;
+    return Bereich{werte.min, werte.max};
 }
 
 std::string satz(const Feldeintrag& feld, std::string_view geschrieben, std::string_view rest) {

@@ -609,6 +609,9 @@ TEST_F(Kleinfenster, ACatalogueRowFillsTheBoxesOfTheSideThatOpenedIt) {
     EXPECT_EQ(wert("Textbox1(6)"), 8.0);
     EXPECT_EQ(wert("Textbox1(8)"), d1);
     EXPECT_EQ(katalog.result(), QDialog::Accepted);
+    klick(katalog, "Command1(66)");  // row 67: 1.2 x 32, a staple whose head of 1.2 the box does not take
+    EXPECT_EQ(wert("Textbox1(10)"), 1.2);
+    EXPECT_EQ(wert("Textbox1(6)"), 8.0);
 }
 
 // ---- Handbook ----

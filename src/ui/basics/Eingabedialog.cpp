@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "files/Positionsdatei.h"
 #include "ui/basics/Freitext.h"
@@ -23,7 +24,8 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr QSize kleinsteSkizze(320, 190);
+constexpr QSize kleinsteSkizze(260, 190);
+constexpr const char* geladeneWahl = "geladeneWahl";
 
 // The tab key comes to the chosen one of a row of options, the arrow keys to the others.
 void richteTabfolge(const QButtonGroup& auswahl) {
@@ -75,10 +77,41 @@ void Eingabedialog::folgeAenderungen() {
         connect(feld, &QComboBox::currentIndexChanged, this, &Eingabedialog::zeichneNeu);
 }
 
+void Eingabedialog::lade(const Wand& w) {
+    for (const Bindung& bindung : bindungen_) bindung.lade(w);
+}
+
+void Eingabedialog::schreibe(Wand& w) const {
+    for (const Bindung& bindung : bindungen_) bindung.schreibe(w);
+}
+
+void Eingabedialog::beschreibe(QWidget& feld, const Feldangabe& angabe, const QString& zusatz) {
+    Wertvorgabe vorgabe;
+    vorgabe.bedeutung = qtext(angabe.bedeutung);
+    vorgabe.quelle = qtext(angabe.quelle);
+    if (!zusatz.isEmpty()) vorgabe.bedeutung += QStringLiteral(", ") + zusatz;
+    feld.setToolTip(feldhinweis(vorgabe));
+    feld.setAccessibleDescription(vorgabe.bedeutung);
+}
+
+void Eingabedialog::waehle(QButtonGroup& auswahl, const std::vector<Wahlwert>& werte, int sonst, int wert) {
+    const auto zeile = std::ranges::find(werte, wert, &Wahlwert::wert);
+    if (QAbstractButton* knopf = auswahl.button(zeile != werte.end() ? zeile->id : sonst))
+        knopf->setChecked(true);
+    auswahl.setProperty(geladeneWahl, auswahl.checkedId());
+}
+
+std::optional<int> Eingabedialog::gewaehlt(const QButtonGroup& auswahl, const std::vector<Wahlwert>& werte) {
+    const auto zeile = std::ranges::find(werte, auswahl.checkedId(), &Wahlwert::id);
+    if (zeile == werte.end() || zeile->id == auswahl.property(geladeneWahl).toInt()) return std::nullopt;
+    return zeile->wert;
+}
+
 void Eingabedialog::zeichneNeu() {
     Wand w = programm_.w;
     schreibe(w);
     zuweisen(w, programm_.felder);
+    ergaenzeSkizze(w);
     for (Wandansicht* ansicht : ansichten_) ansicht->setzeWand(w);
 }
 
@@ -99,6 +132,7 @@ void Eingabedialog::uebernehmen() {
     if (positionstext(programm_.w) != vorher) programm_.setzeGesichert(false);
     if (const std::optional<Ablehnung> grund = ablehnung(programm_.w)) {
         meldungen_.kritisch(this, grund->titel, grund->text);
+        if (grund->feld != nullptr) grund->feld->setFocus(Qt::OtherFocusReason);
         return;
     }
     programm_.zuweisen();
@@ -160,6 +194,18 @@ QLabel* Eingabedialog::notiz(const QString& text) {
     auto* schild = new QLabel(text, this);
     schild->setTextFormat(Qt::PlainText);
     schild->setForegroundRole(QPalette::PlaceholderText);
+    return schild;
+}
+
+QLabel* Eingabedialog::warnung(const QString& name) {
+    auto* schild = new QLabel(this);
+    schild->setObjectName(name);
+    schild->setTextFormat(Qt::PlainText);
+    QPalette farben = schild->palette();
+    const bool dunkel = farben.color(QPalette::Window).lightness() < 128;
+    farben.setColor(QPalette::WindowText, dunkel ? QColor(0xF2, 0xB8, 0x5C) : QColor(0x8A, 0x4B, 0x00));
+    schild->setPalette(farben);
+    schild->hide();
     return schild;
 }
 

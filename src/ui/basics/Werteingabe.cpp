@@ -3,12 +3,14 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QPainter>
+#include <QRegularExpression>
 #include <charconv>
 #include <cmath>
 #include <string>
 #include <utility>
 
 #include "basis/Zahlenformat.h"
+#include "model/Feldangaben.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 
@@ -22,12 +24,47 @@ QString formatiert(const QString& maske, double wert) {
     return qtext(formatiere(utf8(maske), wert, dezimalzeichen()));
 }
 
-// As few digits as the limit needs: 0,2 and 100.
-QString grenze(double wert) {
-    return QString::number(wert, 'g', 12).replace(QLatin1Char('.'), QLatin1Char(dezimalzeichen()));
+// The unit without its explanation: "kN" of "kN (ständig)".
+QString blosseEinheit(const Wertvorgabe& vorgabe) {
+    const QString& einheit = vorgabe.bereichseinheit.isEmpty() ? vorgabe.einheit : vorgabe.bereichseinheit;
+    return einheit.section(QLatin1Char('('), 0, 0).trimmed();
+}
+
+QString bereich(const Wertvorgabe& vorgabe) {
+    return QStringLiteral("zulässig: ") +
+           qtext(bereichstext({vorgabe.min, vorgabe.max}, utf8(blosseEinheit(vorgabe)), dezimalzeichen()));
 }
 
 }  // namespace
+
+Wertvorgabe wertvorgabe(const Feldangabe& angabe, const Wertschild& schild, const QString& zusatz) {
+    Wertvorgabe vorgabe;
+    vorgabe.beschriftung = schild.beschriftung;
+    vorgabe.einheit = schild.einheit;
+    vorgabe.bereichseinheit = schild.bereichseinheit;
+    vorgabe.hoechstlaenge = schild.hoechstlaenge;
+    vorgabe.maske = qtext(angabe.maske);
+    vorgabe.symbol = qtext(angabe.symbol).remove(QRegularExpression(QStringLiteral("[_{}]")));
+    vorgabe.bedeutung = qtext(angabe.bedeutung);
+    vorgabe.quelle = qtext(angabe.quelle);
+    if (!zusatz.isEmpty()) vorgabe.bedeutung += QStringLiteral(", ") + zusatz;
+    if (angabe.bereich.begrenzt()) {
+        vorgabe.min = angabe.bereich.min / schild.teiler;
+        vorgabe.max = angabe.bereich.max / schild.teiler;
+    }
+    return vorgabe;
+}
+
+QString feldhinweis(const Wertvorgabe& vorgabe) {
+    QStringList zeilen;
+    const QString trenner = vorgabe.symbol.isEmpty() ? QString() : vorgabe.symbol + QStringLiteral(": ");
+    if (!vorgabe.bedeutung.isEmpty()) zeilen << trenner + vorgabe.bedeutung;
+    if (const QString einheit = blosseEinheit(vorgabe); !einheit.isEmpty())
+        zeilen << QStringLiteral("Einheit: ") + einheit;
+    if (vorgabe.max < Wertvorgabe{}.max) zeilen << bereich(vorgabe);
+    if (!vorgabe.quelle.isEmpty()) zeilen << QStringLiteral("Quelle: ") + vorgabe.quelle;
+    return zeilen.join(QLatin1Char('\n'));
+}
 
 std::optional<double> zahlAus(const QString& text) {
     std::string ziffern = utf8(text.trimmed());
@@ -63,8 +100,13 @@ Werteingabe::Werteingabe(const QString& name, Wertvorgabe vorgabe, QWidget* pare
     beschriftung_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     beschriftung_->setBuddy(this);
     einheit_->setTextFormat(Qt::PlainText);
-    setAccessibleName((vorgabe_.beschriftung + QLatin1Char(' ') + vorgabe_.einheit).simplified());
+    const QString& gemeint = vorgabe_.bedeutung.isEmpty() ? vorgabe_.beschriftung : vorgabe_.bedeutung;
+    const QString einheit = blosseEinheit(vorgabe_);
+    setAccessibleName(
+        (einheit.isEmpty() ? gemeint : gemeint + QStringLiteral(" in ") + einheit).simplified());
     setAccessibleDescription(bereichstext());
+    for (QWidget* teil : {static_cast<QWidget*>(this), static_cast<QWidget*>(beschriftung_)})
+        teil->setToolTip(feldhinweis(vorgabe_));
     connect(this, &QLineEdit::textEdited, this, &Werteingabe::uebernimmText);
     zeigeWert();
 }
@@ -83,15 +125,10 @@ void Werteingabe::setzeLeer() {
     zeigeWert();
 }
 
-QString Werteingabe::bereichstext() const {
-    const QString& schild = vorgabe_.bereichseinheit.isEmpty() ? vorgabe_.einheit : vorgabe_.bereichseinheit;
-    const QString einheit = schild.section(QLatin1Char('('), 0, 0).trimmed();
-    const QString text =
-        QStringLiteral("zulässig: %1 bis %2").arg(grenze(vorgabe_.min), grenze(vorgabe_.max));
-    return einheit.isEmpty() ? text : text + QLatin1Char(' ') + einheit;
-}
+QString Werteingabe::bereichstext() const { return bereich(vorgabe_); }
 
 QString Werteingabe::bezeichnung() const {
+    if (!vorgabe_.bezeichnung.isEmpty()) return vorgabe_.bezeichnung;
     return vorgabe_.beschriftung.section(QLatin1Char('='), 0, 0).simplified();
 }
 

@@ -9,6 +9,8 @@ class QGridLayout;
 
 namespace rippenscheibe {
 
+struct Feldangabe;
+
 class Meldungen;
 
 // What one labelled value input shows and accepts.
@@ -20,7 +22,29 @@ struct Wertvorgabe {
     QString maske = QStringLiteral("0.000");  // display format
     int hoechstlaenge = 0;                    // most characters; 0 is no limit
     QString bereichseinheit{};                // unit of the allowed range where it is not the label's
+    QString bezeichnung{};                    // what a message calls it where the caption does not
+    QString symbol{};                         // "fu,k"
+    QString bedeutung{};                      // "Zugfestigkeit, Beplankung 1"
+    QString quelle{};                         // clause of the standard
 };
+
+// What a dialog adds to the description of a value: the name of the control, its caption, the unit behind it,
+// how many units of the record make one that is shown (10 for cm of a field in mm), the unit of the range
+// where nothing stands behind the field, and the most characters.
+struct Wertschild {
+    QString name;
+    QString beschriftung;
+    QString einheit;
+    double teiler = 1;
+    QString bereichseinheit{};
+    int hoechstlaenge = 0;
+};
+// The description of a field as its control shows it; `zusatz` tells apart what has one meaning.
+Wertvorgabe wertvorgabe(const Feldangabe& angabe, const Wertschild& schild,
+                        const QString& zusatz = QString());
+
+// The tool tip of a field, a line each: symbol and meaning, unit, range, source; what is empty is left out.
+QString feldhinweis(const Wertvorgabe& vorgabe);
 
 // Labelled value input: a label, a text box for a number, a unit. The text box is this widget, label and
 // unit are placed beside it by `setzeInZeile`.

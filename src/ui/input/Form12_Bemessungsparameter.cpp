@@ -48,12 +48,10 @@ Form12::Form12(Programm& programm, Meldungen& meldungen, QWidget* parent)
         QStringLiteral(
             " der Winkel zwischen Klammerrücken und Faserrichtung des Holzes ist größer/gleich 30° "),
         QStringLiteral(" der Winkel zwischen Klammerrücken und Faserrichtung des Holzes ist kleiner 30° "));
-    beta_ = werteingabe(QStringLiteral("TextBox2(0)"), {.beschriftung = QStringLiteral(">>> beta ="),
-                                                        .einheit = QStringLiteral("°"),
-                                                        .min = 30,
-                                                        .max = 90,
-                                                        .maske = QStringLiteral("0"),
-                                                        .hoechstlaenge = 7});
+    beta_ = binde(&Wand::beta, {.name = QStringLiteral("TextBox2(0)"),
+                                .beschriftung = QStringLiteral(">>> beta ="),
+                                .einheit = QStringLiteral("°"),
+                                .hoechstlaenge = 7});
     QGroupBox* klammern = gruppe(QStringLiteral("Klammern"));
     grid(klammern)->addWidget(klammerwinkel_->button(0), 0, 0);
     grid(klammern)->addWidget(klammerwinkel_->button(1), 1, 0);
@@ -77,29 +75,19 @@ Form12::Form12(Programm& programm, Meldungen& meldungen, QWidget* parent)
     rahmen(QStringLiteral("Nachweis der Lagesicherheit"), lagesicherung_);
     felder()->addStretch(1);
 
+    // A number of a file that is neither of a choice: the calculation takes it as this one.
+    constexpr int erste = 0;
+    constexpr int zweite = 1;
+    binde(&Wand::GenauesVerfahren, verfahren_, {{0, 1}, {1, 2}}, zweite);
+    binde(&Wand::Erhoehung20, erhoehung_);
+    binde(&Wand::DeltaRd, deltaRd_);
+    binde(&Wand::KlammerWinkelOption, klammerwinkel_, {{0, 1}, {1, 2}}, zweite);
+    binde(&Wand::VertikallastVerteilung, verteilung_, {{0, 1}, {1, 2}}, erste);
+    binde(&Wand::LagesicherungVerfahren, lagesicherung_, {{0, 1}, {1, 2}}, erste);
+
     connect(klammerwinkel_->button(0), &QRadioButton::toggled, beta_, &Werteingabe::setzeAktiv);
     beginne();
     beta_->setzeAktiv(klammerwinkel_->checkedId() == 0);
-}
-
-void Form12::lade(const Wand& w) {
-    verfahren_->button(w.GenauesVerfahren == 1 ? 0 : 1)->setChecked(true);
-    erhoehung_->setChecked(w.Erhoehung20);
-    deltaRd_->setChecked(w.DeltaRd);
-    klammerwinkel_->button(w.KlammerWinkelOption == 1 ? 0 : 1)->setChecked(true);
-    beta_->setzeWert(w.beta.value());
-    verteilung_->button(w.VertikallastVerteilung == 1 ? 0 : 1)->setChecked(true);
-    lagesicherung_->button(w.LagesicherungVerfahren == 1 ? 0 : 1)->setChecked(true);
-}
-
-void Form12::schreibe(Wand& w) const {
-    w.GenauesVerfahren = verfahren_->checkedId() + 1;
-    w.Erhoehung20 = erhoehung_->isChecked();
-    w.DeltaRd = deltaRd_->isChecked();
-    w.KlammerWinkelOption = klammerwinkel_->checkedId() + 1;
-    w.beta = beta_->wert();
-    w.VertikallastVerteilung = verteilung_->checkedId() + 1;
-    w.LagesicherungVerfahren = lagesicherung_->checkedId() + 1;
 }
 
 }  // namespace rippenscheibe

@@ -11,10 +11,6 @@ class Form12 : public Eingabedialog {
   public:
     Form12(Programm& programm, Meldungen& meldungen, QWidget* parent);
 
-  protected:
-    void lade(const Wand& w) override;
-    void schreibe(Wand& w) const override;
-
   private:
     QButtonGroup* verfahren_;
     QCheckBox* erhoehung_;

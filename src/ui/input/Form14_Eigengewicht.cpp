@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "basis/Zahlenformat.h"
+#include "materials/Materialkennwerte.h"
 #include "materials/Querschnittswerte.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Werteingabe.h"
@@ -82,26 +83,28 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
 double Form14::gkWand() const { return ergebnis_->wert(); }
 
-// The unit weights of the sheathing are results: those of the last calculation, until another one runs.
+// The wall as it is entered now, with the unit weights of its materials.
+Wand Form14::jetzt() const {
+    Wand w = programm_.w;
+    zuweisen(w, programm_.felder);
+    for (const Seite n : beideSeiten) beplankungswerte(w, n);
+    return w;
+}
+
 QString Form14::herkunft() const {
-    const Wand& w = programm_.w;
-    const auto fehlt = [&](Seite n) { return w.Wichte[n] == 0; };
-    if (fehlt(Seite::eins) || (!w.Einseitig && fehlt(Seite::zwei)))
-        return QStringLiteral(
-            "Die Wichte der Beplankung liegt erst nach einer Berechnung vor; bis dahin ist ihr Gewicht "
-            "hier nicht enthalten.");
+    const Wand w = jetzt();
     const auto zahl = [&](Seite n) {
         return qtext(formatiere("0.0", w.Wichte[n].value(), dezimalzeichen()));
     };
     const QString werte =
         w.Einseitig ? zahl(Seite::eins) : zahl(Seite::eins) + QStringLiteral(" / ") + zahl(Seite::zwei);
-    return QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: %1 kN/m³").arg(werte);
+    return QStringLiteral("Wichten der gewählten Beplankung: %1 kN/m³").arg(werte);
 }
 
 void Form14::rechne() {
     const bool vorhanden = daemmung_->checkedId() == 0;
     dicke_->setzeAktiv(vorhanden);
-    Wand w = programm_.w;  // the record itself is changed by nothing but the accept of the load dialog
+    Wand w = jetzt();  // the record itself is changed by nothing but the accept of the load dialog
     w.DickeDaemmung = dicke_->wert();
     eigengewicht(w, vorhanden ? Daemmung::vorhanden : Daemmung::keine);
     const Zahl jeMeter = w.GewichtGesamt / w.Wandlaenge;

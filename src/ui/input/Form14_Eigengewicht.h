@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Wand.h"
 #include "ui/basics/Fenster.h"
 
 class QButtonGroup;
@@ -21,6 +22,7 @@ class Form14 : public Fenster {
 
   private:
     void rechne();
+    Wand jetzt() const;
     QString herkunft() const;
 
     QButtonGroup* daemmung_;  // id 0: present, 1: none

@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "basis/Zahlenformat.h"
@@ -60,13 +59,7 @@ Form16::Form16(Programm& programm, Meldungen& meldungen, QWidget* dialog, Seite 
         QStringLiteral("Übliche Verbindungsmittel (Klick auf die entsprechende >>> Werte werden übernommen)"),
         this);
     auto* aussen = new QVBoxLayout(rahmen);
-    auto* rolle = new QScrollArea(rahmen);
-    rolle->setFrameShape(QFrame::NoFrame);
-    rolle->setFocusPolicy(Qt::NoFocus);
-    rolle->setWidgetResizable(true);
-    auto* flaeche = new QWidget(rolle);
-    auto* spalten = new QHBoxLayout(flaeche);
-    spalten->setContentsMargins(0, 0, raster, 0);
+    auto* spalten = new QHBoxLayout;
     spalten->setSpacing(2 * raster);
     auto* links = new QVBoxLayout;
     auto* rechts = new QVBoxLayout;
@@ -80,16 +73,12 @@ Form16::Form16(Programm& programm, Meldungen& meldungen, QWidget* dialog, Seite 
     rechts->addStretch(1);
     spalten->addLayout(links);
     spalten->addLayout(rechts);
-    rolle->setWidget(flaeche);
-    aussen->addWidget(rolle);
+    aussen->addLayout(spalten);
     inhalt()->addWidget(rahmen, 1);
     ohneKuerzel(*rahmen);  // 71 buttons of one caption
     QPushButton* ende = zurueck(QStringLiteral("ComEnde"));
     disconnect(ende, nullptr, this, nullptr);
     connect(ende, &QPushButton::clicked, this, &QDialog::reject);
-
-    const QSize bedarf = flaeche->sizeHint();
-    rolle->setMinimumSize(bedarf.width() + 24, std::min(bedarf.height() + 4, 660));
 }
 
 QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
@@ -145,13 +134,13 @@ QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
 }
 
 // Row `zeile`, from 1. Whether the box of the head diameter is in use is the dialog's to know.
-// The values go into the boxes as they stand in the catalogue; the rows of staples carry one for the head,
-// which their kinds do not use.
+// The values go into the boxes as they stand in the catalogue, where a box takes them: the rows of staples
+// carry one for the head, which their kinds do not use and which is too small for its box.
 void Form16::waehle(int zeile) {
     const VMKatalogzeile& werte = VMKatalog()[static_cast<std::size_t>(zeile - 1)];
     const auto setze = [this](int index, float wert) {
         auto* feld = dialog_->findChild<Werteingabe*>(QStringLiteral("Textbox1(%1)").arg(index));
-        if (feld != nullptr) feld->setzeWert(dezimal(wert));
+        if (feld != nullptr && feld->erlaubt(dezimal(wert))) feld->setzeWert(dezimal(wert));
     };
     setze(felder[seite_].d, werte.d);
     setze(felder[seite_].ln, werte.ln);

@@ -26,39 +26,33 @@ Form2::Form2(Programm& programm, Meldungen& meldungen, QWidget* parent)
     skizziere(new Zeichnungsansicht(Zeichnung::rippen, this));
 
     // One depth serves all ribs.
-    connect(hRandrippe_, &Werteingabe::geaendert, this, [this](double wert) {
-        if (laedt()) return;
-        hInnenrippe_->setzeWert(wert);
-        bKopfFussrippe_->setzeWert(wert);
-    });
+    for (Werteingabe* spiegel : {hInnenrippe_, bKopfFussrippe_})
+        connect(hRandrippe_, &Werteingabe::geaendert, spiegel, &Werteingabe::setzeWert);
     beginne();
 }
 
 void Form2::baueQuerschnitte() {
-    const auto mass = [this](int index, const QString& text, const QString& einheit,
-                             const QString& bezeichnung) {
-        Wertvorgabe vorgabe{.beschriftung = text,
-                            .einheit = einheit,
-                            .min = 4,
-                            .max = 1000,
-                            .maske = QStringLiteral("0.0"),
-                            .bereichseinheit = QStringLiteral("cm")};
-        Werteingabe* feld = werteingabe(QStringLiteral("Textbox1(%1)").arg(index), vorgabe);
-        feld->setAccessibleName(bezeichnung);
-        return feld;
+    constexpr double mmJeCm = 10;
+    const auto mass = [this](Feld System::*feld, int index, const QString& text, const QString& einheit) {
+        return binde(
+            feld, {QStringLiteral("Textbox1(%1)").arg(index), text, einheit, mmJeCm, QStringLiteral("cm")});
     };
     const QString cm = QStringLiteral("cm");
     const QString bxh = QStringLiteral(" b x h =");
     const QString mal = QStringLiteral("x");
-    bRandrippe_ = mass(2, bxh, QString(), QStringLiteral("Randrippen: Breite b in cm"));
-    hRandrippe_ = mass(0, mal, cm, QStringLiteral("Randrippen: Höhe h in cm"));
-    bInnenrippe_ = mass(1, bxh, QString(), QStringLiteral("Innenrippen: Breite b in cm"));
-    hInnenrippe_ = mass(3, mal, cm, QStringLiteral("Innenrippen: Höhe h in cm"));
-    hKopfFussrippe_ =
-        mass(4, QStringLiteral(" h x b ="), QString(), QStringLiteral("Kopf- / Fussrippe: Höhe h in cm"));
-    bKopfFussrippe_ = mass(5, mal, cm, QStringLiteral("Kopf- / Fussrippe: Breite b in cm"));
-    hInnenrippe_->setEnabled(false);
-    bKopfFussrippe_->setEnabled(false);
+    const auto spiegel = [&](int index, const QString& bedeutung) {
+        Werteingabe* feld = werteingabe(
+            QStringLiteral("Textbox1(%1)").arg(index),
+            {.beschriftung = mal, .einheit = cm, .maske = QStringLiteral("0.0"), .bedeutung = bedeutung});
+        feld->setEnabled(false);
+        return feld;
+    };
+    bRandrippe_ = mass(&Wand::bRandrippe, 2, bxh, QString());
+    hRandrippe_ = mass(&Wand::hRandrippe, 0, mal, cm);
+    bInnenrippe_ = mass(&Wand::bInnenrippe, 1, bxh, QString());
+    hInnenrippe_ = spiegel(3, QStringLiteral("Höhe der Innenrippen, gleich der Rippenhöhe"));
+    hKopfFussrippe_ = mass(&Wand::bKopfFussrippe, 4, QStringLiteral(" h x b ="), QString());
+    bKopfFussrippe_ = spiegel(5, QStringLiteral("Breite der Kopf- und Fußrippe, gleich der Rippenhöhe"));
 
     QGroupBox* rahmen = gruppe(QStringLiteral("Querschnitte"));
     const auto zeile = [&](int nummer, const QString& titel, Werteingabe* erstes, Werteingabe* zweites) {
@@ -76,6 +70,8 @@ void Form2::baueQuerschnitte() {
                          QStringLiteral("Fussrippe links durchgehend (Überstand ansetzen)"));
     rechts_ = ankreuzfeld(QStringLiteral("Check2"),
                           QStringLiteral("Fussrippe rechts durchgehend (Überstand ansetzen)"));
+    binde(&Wand::FussrippeLinksDurchgehend, links_);
+    binde(&Wand::FussrippeRechtsDurchgehend, rechts_);
     QPushButton* info = knopf(QStringLiteral("ComInfo2"), QStringLiteral("Info zu Überständen"));
     connect(info, &QPushButton::clicked, this,
             [this] { oeffne(Fensterart::ueberstaende, programm_, meldungen_, this); });
@@ -87,7 +83,9 @@ void Form2::baueQuerschnitte() {
 
 void Form2::baueMaterial() {
     holzart_ = liste(QStringLiteral("MaterialBox"), QStringLiteral("Holzart Rippen"), Holzarten());
+    binde(&Wand::Holzart, holzart_);
     nkl_ = optionen(QStringLiteral("Option1"), {{0, QStringLiteral("NKL 1")}, {1, QStringLiteral("NKL 2")}});
+    binde(&Wand::NKLRippen, nkl_, {{0, 1}, {1, 2}}, 1);
     QGroupBox* rahmen = gruppe(QStringLiteral("Material"));
     grid(rahmen)->addWidget(beschriftung(QStringLiteral("Holzart Rippen:"), holzart_), 0, 0);
     grid(rahmen)->addWidget(holzart_, 0, 1, 1, 2);
@@ -96,30 +94,9 @@ void Form2::baueMaterial() {
     felder()->addWidget(rahmen);
 }
 
-void Form2::lade(const Wand& w) {
-    const auto cm = [](Zahl mm) { return (mm / 10).value(); };
-    bRandrippe_->setzeWert(cm(w.bRandrippe));
-    hRandrippe_->setzeWert(cm(w.hRandrippe));
-    bInnenrippe_->setzeWert(cm(w.bInnenrippe));
-    hInnenrippe_->setzeWert(cm(w.hRandrippe));
-    hKopfFussrippe_->setzeWert(cm(w.bKopfFussrippe));
-    bKopfFussrippe_->setzeWert(cm(w.hRandrippe));
-    links_->setChecked(w.FussrippeLinksDurchgehend);
-    rechts_->setChecked(w.FussrippeRechtsDurchgehend);
-    waehle(holzart_, w.Holzart);
-    nkl_->button(w.NKLRippen == 1 ? 0 : 1)->setChecked(true);
-}
-
 void Form2::schreibe(Wand& w) const {
-    w.bRandrippe = bRandrippe_->wert() * 10;
-    w.hRandrippe = hRandrippe_->wert() * 10;
-    w.bInnenrippe = bInnenrippe_->wert() * 10;
-    w.bKopfFussrippe = hKopfFussrippe_->wert() * 10;
+    Eingabedialog::schreibe(w);
     w.hInnenrippe = w.hRandrippe;
-    w.FussrippeLinksDurchgehend = links_->isChecked();
-    w.FussrippeRechtsDurchgehend = rechts_->isChecked();
-    uebernimm(holzart_, w.Holzart);
-    w.NKLRippen = nkl_->checkedId() == 0 ? 1 : 2;
 }
 
 }  // namespace rippenscheibe

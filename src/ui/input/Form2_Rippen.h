@@ -13,7 +13,6 @@ class Form2 : public Eingabedialog {
     Form2(Programm& programm, Meldungen& meldungen, QWidget* parent);
 
   protected:
-    void lade(const Wand& w) override;
     void schreibe(Wand& w) const override;
 
   private:

@@ -48,6 +48,7 @@ Form4::Form4(Programm& programm, Meldungen& meldungen, QWidget* parent)
                     QStringLiteral("  Eingabe der Beplankung")) {
     beplankt_ = optionen(QStringLiteral("Option1"), {{0, QStringLiteral("einseitig beplankt")},
                                                      {1, QStringLiteral("zweiseitig beplankt")}});
+    binde(&Wand::Einseitig, beplankt_, {{0, 1}, {1, 0}});
     auto* wahl = new QHBoxLayout;
     wahl->setSpacing(2 * raster);
     wahl->addWidget(beplankt_->button(0));
@@ -86,21 +87,22 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     s.rahmen->setObjectName(QStringLiteral("Frame%1").arg(nummer(n)));
     s.material = liste(QLatin1String(namen.material), QStringLiteral("Material"), Plattenmaterialien());
     s.eigenes = liste(QLatin1String(namen.eigenes), QStringLiteral("eigenes Material"));
-    s.dicke = werteingabe(textbox(namen.dicke), {.beschriftung = QStringLiteral("Plattendicke t ="),
-                                                 .einheit = QStringLiteral("mm"),
-                                                 .min = 6,
-                                                 .max = 200,
-                                                 .maske = QStringLiteral("0.0")});
-    s.breite = werteingabe(textbox(namen.breite), {.beschriftung = QStringLiteral("Plattenbreite lp ="),
-                                                   .einheit = QStringLiteral("m"),
-                                                   .min = 0.2,
-                                                   .max = 20});
+    binde(seite(&Wand::Material, n), s.material);
+    binde(seite(&Wand::EigenesMaterial, n), s.eigenes);
+    const Wertschild dicke{textbox(namen.dicke), QStringLiteral("Plattendicke t ="), QStringLiteral("mm")};
+    s.dicke = n == Seite::eins ? binde(&Wand::Plattendicke1, dicke) : binde(&Wand::Plattendicke2, dicke);
+    constexpr double mmJeM = 1000;
+    s.breite =
+        binde(seite(&Wand::Plattenbreite, n),
+              {textbox(namen.breite), QStringLiteral("Plattenbreite lp ="), QStringLiteral("m"), mmJeM});
     s.gestossen =
         optionen(QStringLiteral("Option2"),
                  {{namen.nichtGestossen, QStringLiteral("Beplankung ist horizontal nicht gestoßen")},
                   {namen.einmalGestossen, QStringLiteral("Beplankung ist horizontal einmal gestoßen")}});
+    binde(seite(&Wand::Gestossen, n), s.gestossen, {{namen.nichtGestossen, 0}, {namen.einmalGestossen, 1}});
     s.nkl = optionen(QStringLiteral("Option3"),
                      {{namen.nkl1, QStringLiteral("NKL 1")}, {namen.nkl2, QStringLiteral("NKL 2")}});
+    binde(seite(&Wand::NKLBeplankung, n), s.nkl, {{namen.nkl1, 1}, {namen.nkl2, 2}}, namen.nkl2);
 
     QGridLayout* felder = grid(s.rahmen);
     felder->addWidget(beschriftung(QStringLiteral("Material:"), s.material), 0, 0);
@@ -122,14 +124,14 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     return s;
 }
 
-// The names of the own materials, the selected rows kept.
+// The names of the own materials, the selected rows kept; a row that is not there leaves none selected.
 void Form4::fuelleEigeneMaterialien() {
     for (const Seite n : beideSeiten) {
         QComboBox* namen = seiten_[n].eigenes;
         const int gewaehlt = namen->currentIndex();
         namen->clear();
         for (const auto& zeile : programm_.w.eigeneMaterialien.zeilen) namen->addItem(qtext(zeile.name));
-        if (gewaehlt >= 0) namen->setCurrentIndex(std::min(gewaehlt, namen->count() - 1));
+        namen->setCurrentIndex(gewaehlt < namen->count() ? gewaehlt : -1);
     }
 }
 
@@ -138,39 +140,20 @@ void Form4::zeigeEigene(Seite n) {
 }
 
 void Form4::lade(const Wand& w) {
-    beplankt_->button(w.Einseitig ? 0 : 1)->setChecked(true);
-    for (const Seite n : beideSeiten) {
-        const Steuernamen& namen = steuernamen[n];
-        const Seitenfelder& s = seiten_[n];
-        waehle(s.material, w.Material[n]);
-        waehle(s.eigenes, w.EigenesMaterial[n]);
-        s.dicke->setzeWert(Plattendicke(w, n).value());
-        s.breite->setzeWert((w.Plattenbreite[n] / 1000).value());
-        s.gestossen->button(w.Gestossen[n] ? namen.einmalGestossen : namen.nichtGestossen)->setChecked(true);
-        s.nkl->button(w.NKLBeplankung[n] == 1 ? namen.nkl1 : namen.nkl2)->setChecked(true);
-        zeigeEigene(n);
-    }
-}
-
-void Form4::schreibe(Wand& w) const {
-    w.Einseitig = beplankt_->checkedId() == 0;
-    for (const Seite n : beideSeiten) {
-        const Steuernamen& namen = steuernamen[n];
-        const Seitenfelder& s = seiten_[n];
-        uebernimm(s.material, w.Material[n]);
-        uebernimm(s.eigenes, w.EigenesMaterial[n]);
-        w.Plattenbreite[n] = s.breite->wert() * 1000;
-        w.Gestossen[n] = s.gestossen->checkedId() == namen.einmalGestossen;
-        w.NKLBeplankung[n] = s.nkl->checkedId() == namen.nkl1 ? 1 : 2;
-    }
-    w.Plattendicke1 = seiten_[Seite::eins].dicke->wert();
-    w.Plattendicke2 = seiten_[Seite::zwei].dicke->wert();
+    Eingabedialog::lade(w);
+    for (const Seite n : beideSeiten) zeigeEigene(n);
 }
 
 std::optional<Eingabedialog::Ablehnung> Form4::ablehnung(const Wand& w) const {
     const std::optional<std::string> text = beplankungPruefung(w);
     if (!text) return std::nullopt;
-    return Ablehnung{QStringLiteral(" Fehler"), qtext(*text)};
+    const Ablehnungsort orte[] = {{"t1<12mm", seiten_[Seite::eins].dicke},
+                                  {"für Beplankung 1", seiten_[Seite::eins].material},
+                                  {"für Beplankung 2", seiten_[Seite::zwei].material}};
+    QWidget* feld = ortDerAblehnung(*text, orte);
+    // What is refused for the hidden side 2 can be mended once it is shown.
+    if (!feld->isVisibleTo(this)) feld = beplankt_->checkedButton();
+    return Ablehnung{QStringLiteral(" Fehler"), qtext(*text), feld};
 }
 
 }  // namespace rippenscheibe

@@ -15,7 +15,6 @@ class Form4 : public Eingabedialog {
 
   protected:
     void lade(const Wand& w) override;
-    void schreibe(Wand& w) const override;
     // Looks at side 2 of a one-sided wall too; that is meant.
     std::optional<Ablehnung> ablehnung(const Wand& w) const override;
 

@@ -5,7 +5,10 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
 #include <array>
 
@@ -59,6 +62,27 @@ constexpr std::array<Artregel, 8> artregeln{{
 }};
 // clang-format on
 
+// A check box whose caption is painted in two lines, parted at its gap.
+class Umbruchfeld : public QCheckBox {
+  public:
+    using QCheckBox::QCheckBox;
+
+    QSize sizeHint() const override {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
+        return style()->sizeFromContents(QStyle::CT_CheckBox, &option, text, this);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void initStyleOption(QStyleOptionButton* option) const override {
+        QCheckBox::initStyleOption(option);
+        static const QRegularExpression luecke(QStringLiteral(" {3,}"));
+        option->text.replace(luecke, QStringLiteral("\n "));
+    }
+};
+
 bool gipsplatte(const Wand& w, Seite n) { return istGips(plattenmaterial(w, n)); }
 
 }  // namespace
@@ -85,16 +109,10 @@ Form5::Form5(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
 Form5::Seitenfelder Form5::baueSeite(Seite n) {
     const Steuernamen& namen = steuernamen[n];
-    const auto feld = [&](int index, const QString& text, const QString& einheit, double min, double max,
-                          const QString& maske) {
-        return werteingabe(
-            QStringLiteral("Textbox1(%1)").arg(index),
-            {.beschriftung = text, .einheit = einheit, .min = min, .max = max, .maske = maske});
+    const auto feld = [&](auto glied, int index, const QString& text, const QString& einheit) {
+        return binde(seite(glied, n), {QStringLiteral("Textbox1(%1)").arg(index), text, einheit});
     };
     const QString mm = QStringLiteral("mm");
-    const QString ganz = QStringLiteral("0");
-    const QString eine = QStringLiteral("0.0");
-    const QString zwei = QStringLiteral("0.00");
 
     Seitenfelder s{};
     s.rahmen = gruppe(QStringLiteral("Verbindungsmittel Beplankung %1 (%2)")
@@ -107,18 +125,27 @@ Form5::Seitenfelder Form5::baueSeite(Seite n) {
         s.klasse->addItem(QStringLiteral("Tragfähigkeitsklasse ") + qtext(klasse));
     s.nagel = liste(QLatin1String(namen.nagel), QStringLiteral("Nagel"));
     for (const Nageltyp& nagel : VMTypen()) s.nagel->addItem(qtext(nagel.name));
-    s.d = feld(namen.d, QStringLiteral("d ="), mm, 0.5, 100, zwei);
-    s.ln = feld(namen.ln, QStringLiteral("l ="), mm, 10, 300, eine);
-    s.dk = feld(namen.dk, QStringLiteral("d - Kopf ="), mm, 2, 80, eine);
-    s.lg = feld(namen.lg, QStringLiteral("Länge Gewinde/Rillen lg ="), mm, 2, 300, eine);
-    s.fuk = feld(namen.fuk, QStringLiteral("fuk ="), QStringLiteral("N/mm²"), 20, 5000, eine);
-    s.av = feld(namen.av, QStringLiteral("Abstand av ="), mm, 20, 200, ganz);
+    s.d = feld(&Wand::d, namen.d, QStringLiteral("d ="), mm);
+    s.ln = feld(&Wand::ln, namen.ln, QStringLiteral("l ="), mm);
+    s.dk = feld(&Wand::dk, namen.dk, QStringLiteral("d - Kopf ="), mm);
+    s.lg = feld(&Wand::lg, namen.lg, QStringLiteral("Länge Gewinde/Rillen lg ="), mm);
+    s.fuk = feld(&Wand::fuk, namen.fuk, QStringLiteral("fuk ="), QStringLiteral("N/mm²"));
+    s.av = feld(&Wand::av, namen.av, QStringLiteral("Abstand av ="), mm);
     s.vorgebohrt = ankreuzfeld(QLatin1String(namen.vorgebohrt), QStringLiteral(" vorgebohrt"));
     s.versenkt = ankreuzfeld(QLatin1String(namen.versenkt), QStringLiteral(" versenkt"));
-    s.zweireihig = ankreuzfeld(QLatin1String(namen.zweireihig),
-                               QStringLiteral(" zweireihig, versetzt           angeordnet"));
+    s.zweireihig = new Umbruchfeld(QStringLiteral(" zweireihig, versetzt           angeordnet"), this);
+    s.zweireihig->setObjectName(QLatin1String(namen.zweireihig));
+    s.zweireihig->setAccessibleName(s.zweireihig->text().simplified());
+    binde(seite(&Wand::VMArt, n), s.art);
+    binde(seite(&Wand::VMKlasse, n), s.klasse);
+    binde(seite(&Wand::VMTyp, n), s.nagel);
+    binde(seite(&Wand::Vorgebohrt, n), s.vorgebohrt);
+    binde(seite(&Wand::Versenkt, n), s.versenkt);
+    binde(seite(&Wand::Zweireihig, n), s.zweireihig);
     QPushButton* info =
         knopf(QLatin1String(namen.info), QStringLiteral("Info / Werte zu Verbindungsmitteln"));
+
+    s.abweichung = warnung(QStringLiteral("Abweichung%1").arg(nummer(n)));
 
     QGridLayout* felder = grid(s.rahmen);
     felder->addWidget(beschriftung(QStringLiteral("VM:"), s.art), 0, 0);
@@ -126,12 +153,15 @@ Form5::Seitenfelder Form5::baueSeite(Seite n) {
     felder->addWidget(s.klasse, 1, 1, 1, 2);
     felder->addWidget(beschriftung(QStringLiteral("Nagel = "), s.nagel), 2, 0);
     felder->addWidget(s.nagel, 2, 1, 1, 2);
-    int zeile = 3;
+    felder->addWidget(s.abweichung, 3, 1, 1, 2);
+    int zeile = 4;
     for (Werteingabe* wert : {s.d, s.ln, s.dk, s.lg, s.fuk, s.av}) wert->setzeInZeile(felder, zeile++);
     for (QCheckBox* haken : {s.vorgebohrt, s.versenkt, s.zweireihig})
         felder->addWidget(haken, zeile++, 0, 1, 3);
     felder->addWidget(info, zeile, 0, 1, 3, Qt::AlignLeft);
 
+    for (const Werteingabe* wert : {s.d, s.ln, s.dk})
+        connect(wert, &Werteingabe::geaendert, this, [this, n] { zeigeAbweichung(n); });
     connect(s.art, &QComboBox::currentIndexChanged, this, [this] { richteNachArt(Anlass::wechsel); });
     connect(s.nagel, &QComboBox::currentIndexChanged, this, [this] { richteNachArt(Anlass::wechsel); });
     connect(info, &QPushButton::clicked, this, [this, n] { Form16(programm_, meldungen_, this, n).exec(); });
@@ -160,11 +190,25 @@ void Form5::richteSeite(Seite n, Anlass anlass) {
     s.dk->setzeAktiv(regel.kopf);
     s.lg->setzeAktiv(regel.gewinde);
     s.vorgebohrt->setEnabled(regel.vorbohren);
-    if (anlass == Anlass::laden) return;
+    if (anlass == Anlass::laden) return zeigeAbweichung(n);
 
     if (!regel.vorbohren) s.vorgebohrt->setChecked(false);
     if (const double fuk = fukDerArt(static_cast<Art>(art + 1)); fuk > 0) s.fuk->setzeWert(fuk);
     if (regel.nagelliste) uebernimmNagel(n);
+    zeigeAbweichung(n);
+}
+
+// The report prints the name of the nail that was chosen, whatever its sizes became.
+void Form5::zeigeAbweichung(Seite n) {
+    const Seitenfelder& s = seiten_[n];
+    const bool gewaehlt = s.nagel->isEnabled() && s.nagel->currentIndex() >= 0;
+    if (!gewaehlt) return s.abweichung->hide();
+    const Nageltyp& nagel = VMTypen()[static_cast<std::size_t>(s.nagel->currentIndex())];
+    const bool gleich = s.d->wert() == nagel.d && s.ln->wert() == nagel.ln && s.dk->wert() == nagel.dk;
+    s.abweichung->setText(QStringLiteral("⚠ d, l oder d - Kopf weichen vom Nagel %1 ab;\n"
+                                         "der Ausdruck nennt nur dessen Namen.")
+                              .arg(qtext(nagel.name)));
+    s.abweichung->setVisible(!gleich);
 }
 
 void Form5::uebernimmNagel(Seite n) {
@@ -177,21 +221,7 @@ void Form5::uebernimmNagel(Seite n) {
 }
 
 void Form5::lade(const Wand& w) {
-    for (const Seite n : beideSeiten) {
-        const Seitenfelder& s = seiten_[n];
-        waehle(s.art, w.VMArt[n]);
-        waehle(s.klasse, w.VMKlasse[n]);
-        waehle(s.nagel, w.VMTyp[n]);
-        s.av->setzeWert(w.av[n].value());
-        s.fuk->setzeWert(w.fuk[n].value());
-        s.dk->setzeWert(w.dk[n].value());
-        s.lg->setzeWert(w.lg[n].value());
-        s.d->setzeWert(w.d[n].value());
-        s.ln->setzeWert(w.ln[n].value());
-        s.vorgebohrt->setChecked(w.Vorgebohrt[n]);
-        s.versenkt->setChecked(w.Versenkt[n]);
-        s.zweireihig->setChecked(w.Zweireihig[n]);
-    }
+    Eingabedialog::lade(w);
     richteNachArt(Anlass::laden);
     // Gypsum and gypsum-fibre boards are not predrilled. A later change of the kind frees the box again;
     // that is meant.
@@ -202,28 +232,17 @@ void Form5::lade(const Wand& w) {
     }
 }
 
-void Form5::schreibe(Wand& w) const {
-    for (const Seite n : beideSeiten) {
-        const Seitenfelder& s = seiten_[n];
-        uebernimm(s.art, w.VMArt[n]);
-        uebernimm(s.klasse, w.VMKlasse[n]);
-        uebernimm(s.nagel, w.VMTyp[n]);
-        w.av[n] = s.av->wert();
-        w.fuk[n] = s.fuk->wert();
-        w.dk[n] = s.dk->wert();
-        w.lg[n] = s.lg->wert();
-        w.d[n] = s.d->wert();
-        w.ln[n] = s.ln->wert();
-        w.Vorgebohrt[n] = s.vorgebohrt->isChecked();
-        w.Versenkt[n] = s.versenkt->isChecked();
-        w.Zweireihig[n] = s.zweireihig->isChecked();
-    }
-}
-
 std::optional<Eingabedialog::Ablehnung> Form5::ablehnung(const Wand& w) const {
     const Texte funde = allgemeinePruefung(w);
     if (funde.empty()) return std::nullopt;
-    return Ablehnung{QStringLiteral("Fehler"), qtext(funde.front())};
+    const std::string& text = funde.front();
+    const Seitenfelder& s = seiten_[text.starts_with("Beplankung 2") ? Seite::zwei : Seite::eins];
+    const Ablehnungsort orte[] = {{"Gewinde-/Rillenlänge lg", s.lg},
+                                  {"Kopfdurchmesser dk", s.dk},
+                                  {"Die Länge l des VM", s.ln},
+                                  {"nicht zulässig", s.art},
+                                  {"Durchmesser der", s.d}};
+    return Ablehnung{QStringLiteral("Fehler"), qtext(text), ortDerAblehnung(text, orte)};
 }
 
 }  // namespace rippenscheibe

@@ -14,7 +14,6 @@ class Form5 : public Eingabedialog {
 
   protected:
     void lade(const Wand& w) override;
-    void schreibe(Wand& w) const override;
     // The first finding of the general fastener check.
     std::optional<Ablehnung> ablehnung(const Wand& w) const override;
 
@@ -33,6 +32,7 @@ class Form5 : public Eingabedialog {
         QCheckBox* vorgebohrt;
         QCheckBox* versenkt;
         QCheckBox* zweireihig;
+        QLabel* abweichung;  // of the sizes from those of the chosen nail
     };
     enum class Anlass { laden, wechsel };
 
@@ -42,6 +42,7 @@ class Form5 : public Eingabedialog {
     void richteSeite(Seite n, Anlass anlass);
     // d, l and dk of the chosen row of the nail table.
     void uebernimmNagel(Seite n);
+    void zeigeAbweichung(Seite n);
 
     Paar<Seitenfelder> seiten_;
 };

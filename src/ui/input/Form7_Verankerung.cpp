@@ -6,11 +6,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>
 #include <array>
 
+#include "basis/Zahlenformat.h"
 #include "design/Verankerung.h"
 #include "model/Kataloge.h"
 #include "ui/basics/Programm.h"
@@ -33,12 +35,15 @@ int knopfZuTyp(int typ) {
     return typ <= knopfFreierAnker ? typ - 1 : typ;
 }
 
+constexpr int einteiligeAnker = 7;  // the first of the list
+
 }  // namespace
 
 Form7::Form7(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Eingabedialog(programm, meldungen, parent, QStringLiteral("Form7"),
                     QStringLiteral("  Eingabe der Verankerung")) {
     nachweis_ = ankreuzfeld(QStringLiteral("Check1"), QStringLiteral(" Nachweis der Verankerung führen"));
+    binde(&Wand::NachweisVerankerung, nachweis_);
     felder()->addWidget(nachweis_);
     felder()->addWidget(baueAuswahl());
     felder()->addWidget(baueWerte());
@@ -49,45 +54,44 @@ Form7::Form7(Programm& programm, Meldungen& meldungen, QWidget* parent)
     connect(kammnagel_, &QComboBox::currentIndexChanged, this, &Form7::rechneTragfaehigkeit);
     connect(teilausnagelung_, &QCheckBox::toggled, this, &Form7::rechneTragfaehigkeit);
     connect(naegel_, &Werteingabe::geaendert, this, &Form7::rechneTragfaehigkeit);
+    connect(nachweis_, &QCheckBox::toggled, wirkung_, &QLabel::setHidden);
     beginne();
 }
 
 QGroupBox* Form7::baueAuswahl() {
     anker_ = optionen(QStringLiteral("Option1"), {});
     QGroupBox* rahmen = gruppe(QStringLiteral("Zuganker"));
-    int zeile = 0;
+    // Two columns, the anchors of one part left.
     for (int typ = 1; typ < freierAnker; ++typ) {
         auto* feld =
             option(anker_, QStringLiteral("Option1"), knopfZuTyp(typ), qtext(eintrag(Ankernamen(), typ)));
-        grid(rahmen)->addWidget(feld, zeile++, 0, 1, 2);
+        const bool rechts = typ > einteiligeAnker;
+        grid(rahmen)->addWidget(feld, rechts ? typ - einteiligeAnker - 1 : typ - 1, rechts ? 2 : 0, 1, 2);
     }
     auto* anderer =
         option(anker_, QStringLiteral("Option1"), knopfFreierAnker, QStringLiteral("anderer Anker:"));
     freierName_ = new QLineEdit(this);
     freierName_->setObjectName(QStringLiteral("Text1"));
     freierName_->setAccessibleName(QStringLiteral("Name des anderen Ankers"));
-    grid(rahmen)->addWidget(anderer, zeile, 0);
-    grid(rahmen)->addWidget(freierName_, zeile, 1);
-    grid(rahmen)->setColumnStretch(1, 1);
+    grid(rahmen)->addWidget(anderer, einteiligeAnker - 1, 2);
+    grid(rahmen)->addWidget(freierName_, einteiligeAnker - 1, 3);
+    grid(rahmen)->setColumnStretch(3, 1);
     return rahmen;
 }
 
 QGroupBox* Form7::baueWerte() {
-    const auto feld = [this](int index, const QString& text, const QString& einheit, double min, double max,
-                             const QString& maske) {
-        return werteingabe(
-            QStringLiteral("Textbox1(%1)").arg(index),
-            {.beschriftung = text, .einheit = einheit, .min = min, .max = max, .maske = maske});
+    const auto feld = [this](auto glied, int index, const QString& text, const QString& einheit) {
+        return binde(glied, {QStringLiteral("Textbox1(%1)").arg(index), text, einheit});
     };
-    const QString ganz = QStringLiteral("0");
-    const QString zwei = QStringLiteral("0.00");
     kammnagel_ = liste(QStringLiteral("Combo1"), QStringLiteral("CNA Kammnägel"));
     for (const Kammnagel& nagel : Kammnaegel()) kammnagel_->addItem(qtext(nagel.name));
     teilausnagelung_ = ankreuzfeld(QStringLiteral("Check2"), QStringLiteral("Teilausnagelung"));
-    naegel_ = feld(0, QStringLiteral("Anzahl Nägel ="), QStringLiteral(" Stck."), 2, 100, ganz);
-    anzahl_ = feld(3, QStringLiteral("Anzahl Anker ="), QStringLiteral(" Stck. je Wandende"), 1, 2, ganz);
-    rd_ = feld(1, QStringLiteral("Rd ="), QStringLiteral(" kN je Anker"), 0.1, 5000, zwei);
-    kser_ = feld(2, QStringLiteral("Summe k,ser ="), QStringLiteral(" kN/mm je Anker"), 0.1, 100000, zwei);
+    naegel_ = feld(&Wand::AnzahlAnkerNaegel, 0, QStringLiteral("Anzahl Nägel ="), QStringLiteral(" Stck."));
+    anzahl_ =
+        feld(&Wand::AnzahlAnker, 3, QStringLiteral("Anzahl Anker ="), QStringLiteral(" Stck. je Wandende"));
+    rd_ = feld(&Wand::RdAnker, 1, QStringLiteral("Rd ="), QStringLiteral(" kN je Anker"));
+    kser_ = feld(&Wand::kserAnker, 2, QStringLiteral("Summe k,ser ="), QStringLiteral(" kN/mm je Anker"));
+    binde(&Wand::Kammnagel, kammnagel_);
 
     QGroupBox* rahmen = gruppe(QStringLiteral("Nägel und Kennwerte"));
     grid(rahmen)->addWidget(beschriftung(QStringLiteral("CNA Kammnägel :"), kammnagel_), 0, 0);
@@ -95,8 +99,14 @@ QGroupBox* Form7::baueWerte() {
     grid(rahmen)->addWidget(teilausnagelung_, 0, 2);
     int zeile = 1;
     for (Werteingabe* wert : {naegel_, anzahl_, rd_, kser_}) wert->setzeInZeile(grid(rahmen), zeile++);
+    laufwert_ = warnung(QStringLiteral("Laufwert"));
+    wirkung_ = notiz(QStringLiteral(
+        "Ohne Nachweis wirken nur Anzahl Anker und Summe k,ser, und zwar auf die Verformung."));
+    wirkung_->setObjectName(QStringLiteral("Wirkung"));
     grid(rahmen)->addWidget(notiz(QStringLiteral("(nur für Verformungsberechnung, starr = 100000)")), zeile,
                             0, 1, 3);
+    grid(rahmen)->addWidget(laufwert_, ++zeile, 0, 1, 3);
+    grid(rahmen)->addWidget(wirkung_, ++zeile, 0, 1, 3);
     grid(rahmen)->setColumnStretch(2, 1);
     return rahmen;
 }
@@ -117,6 +127,15 @@ void Form7::rechneTragfaehigkeit() {
     rechnet_ = false;
 }
 
+// What the calculation takes for Rd, as the sketch shows it; the field keeps what the position holds until
+// something changes that the resistance depends on.
+void Form7::ergaenzeSkizze(Wand& w) const {
+    ankertragfaehigkeit(w);
+    laufwert_->setText(QStringLiteral("⚠ Die Berechnung setzt Rd = %1 kN je Anker an.")
+                           .arg(qtext(formatiere("0.00", w.RdAnker.value(), dezimalzeichen()))));
+    laufwert_->setVisible(w.NachweisVerankerung && w.RdAnker.value() != rd_->wert());
+}
+
 // The free fields belong to the free anchor, the nail fields to the catalogue anchors.
 void Form7::zeigeAktive() {
     const int typ = ankertyp();
@@ -130,29 +149,20 @@ void Form7::zeigeAktive() {
 }
 
 void Form7::lade(const Wand& w) {
-    nachweis_->setChecked(w.NachweisVerankerung);
+    Eingabedialog::lade(w);
     const int typ = w.Ankertyp.value();
     if (typ >= 1 && typ <= freierAnker) anker_->button(knopfZuTyp(typ))->setChecked(true);
     freierName_->setText(qtext(w.FreierAnkerName));
     teilausnagelung_->setChecked(w.Teilausnagelung == 2);
-    waehle(kammnagel_, w.Kammnagel);
-    naegel_->setzeWert(w.AnzahlAnkerNaegel.value());
-    rd_->setzeWert(w.RdAnker.value());
-    kser_->setzeWert(w.kserAnker.value());
-    anzahl_->setzeWert(w.AnzahlAnker.value());
+    wirkung_->setHidden(w.NachweisVerankerung);
     zeigeAktive();
 }
 
 void Form7::schreibe(Wand& w) const {
-    w.NachweisVerankerung = nachweis_->isChecked();
+    Eingabedialog::schreibe(w);
     if (anker_->checkedId() >= 0) w.Ankertyp = ankertyp();
     w.FreierAnkerName = utf8(freierName_->text());
     w.Teilausnagelung = teilausnagelung_->isChecked() ? 2 : 1;
-    uebernimm(kammnagel_, w.Kammnagel);
-    w.AnzahlAnkerNaegel = naegel_->wert();
-    w.RdAnker = rd_->wert();
-    w.kserAnker = kser_->wert();
-    w.AnzahlAnker = anzahl_->wert();
 }
 
 }  // namespace rippenscheibe

@@ -17,6 +17,7 @@ class Form7 : public Eingabedialog {
   protected:
     void lade(const Wand& w) override;
     void schreibe(Wand& w) const override;
+    void ergaenzeSkizze(Wand& w) const override;
 
   private:
     QGroupBox* baueAuswahl();
@@ -35,6 +36,8 @@ class Form7 : public Eingabedialog {
     Werteingabe* kser_;
     Werteingabe* anzahl_;
     QComboBox* kammnagel_;
+    QLabel* laufwert_;  // what a run takes for Rd, where the field shows another value
+    QLabel* wirkung_;   // what acts without the proof
     bool rechnet_ = false;
 };
 

@@ -16,9 +16,10 @@
 namespace rippenscheibe {
 
 namespace {
-// Values of Lastfall; the third acts both ways and clears nothing.
+// Values of Lastfall; the third clears nothing.
 constexpr int horizontal = 1;
 constexpr int vertikal = 2;
+constexpr int beides = 3;
 }  // namespace
 
 Form9::Form9(Programm& programm, Meldungen& meldungen, QWidget* parent)
@@ -41,6 +42,8 @@ void Form9::baueOptionen() {
                           {2, QStringLiteral(" Horizontale und vertikale Scheibenbeanspruchung ")}});
     windQuer_ =
         ankreuzfeld(QStringLiteral("Check1"), QStringLiteral(" Wind senkrecht zur Tafelebene vorhanden"));
+    binde(&Wand::Lastfall, lastfall_, {{0, horizontal}, {1, vertikal}, {2, beides}});
+    binde(&Wand::WindQuer, windQuer_);
     QGroupBox* beanspruchung = gruppe(QStringLiteral("Beanspruchung"));
     for (int i = 0; i < 3; ++i) grid(beanspruchung)->addWidget(lastfall_->button(i), i, 0);
     grid(beanspruchung)->addWidget(windQuer_, 3, 0);
@@ -51,23 +54,24 @@ void Form9::baueOptionen() {
                                                  {2, QStringLiteral(" mittel")},
                                                  {3, QStringLiteral(" kurz")},
                                                  {4, QStringLiteral(" sehr kurz")}});
+    binde(&Wand::KLED, kled_, {{0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}});
     QGroupBox* dauer = gruppe(QStringLiteral("KLED"));
     for (int i = 0; i < 5; ++i) grid(dauer)->addWidget(kled_->button(i), 0, i);
     felder()->addWidget(dauer);
 }
 
 void Form9::baueLasten() {
-    const auto feld = [this](int index, const QString& text, const QString& einheit, double min, double max) {
-        return werteingabe(QStringLiteral("Textbox1(%1)").arg(index),
-                           {.beschriftung = text, .einheit = einheit, .min = min, .max = max});
+    const auto feld = [this](auto glied, int index, const QString& text, const QString& einheit) {
+        return binde(glied, {QStringLiteral("Textbox1(%1)").arg(index), text, einheit});
     };
-    Fvk_ = feld(0, QStringLiteral("Fv,k ="), QStringLiteral("kN (veränderlich, aus Wind)"), -1000, 1000);
-    Fcgk_ = feld(1, QStringLiteral("Fc,g,k ="), QStringLiteral("kN (ständig)"), -1000, 1000);
-    Fcqk_ = feld(2, QStringLiteral("Fc,q,k ="), QStringLiteral("kN (veränderlich)"), -1000, 1000);
-    gk_ = feld(3, QStringLiteral("g,k ="), QStringLiteral("kN/m (ständig)"), -100, 100);
-    qk_ = feld(4, QStringLiteral("q,k ="), QStringLiteral("kN/m (veränderlich)"), -100, 100);
-    wk_ = feld(5, QStringLiteral("w,k ="), QStringLiteral("kN/m² (aus Wind, veränderlich)"), -100, 100);
-    gkWand_ = feld(6, QStringLiteral("g,k,Wand ="), QStringLiteral("kN/m (Eigengewicht Wand)"), 0, 1000);
+    Fvk_ = feld(&Wand::Fvk, 0, QStringLiteral("Fv,k ="), QStringLiteral("kN (veränderlich, aus Wind)"));
+    Fcgk_ = feld(&Wand::Fcgk, 1, QStringLiteral("Fc,g,k ="), QStringLiteral("kN (ständig)"));
+    Fcqk_ = feld(&Wand::Fcqk, 2, QStringLiteral("Fc,q,k ="), QStringLiteral("kN (veränderlich)"));
+    gk_ = feld(&Wand::gk, 3, QStringLiteral("g,k ="), QStringLiteral("kN/m (ständig)"));
+    qk_ = feld(&Wand::qk, 4, QStringLiteral("q,k ="), QStringLiteral("kN/m (veränderlich)"));
+    wk_ = feld(&Wand::wk, 5, QStringLiteral("w,k ="), QStringLiteral("kN/m² (aus Wind, veränderlich)"));
+    gkWand_ =
+        feld(&Wand::gkWand, 6, QStringLiteral("g,k,Wand ="), QStringLiteral("kN/m (Eigengewicht Wand)"));
     QPushButton* ermitteln =
         knopf(QStringLiteral("Command2"), QStringLiteral("Eigengewicht der Wand ermitteln"));
     connect(ermitteln, &QPushButton::clicked, this, &Form9::ermittleEigengewicht);
@@ -94,30 +98,8 @@ void Form9::zeigeAktive() {
     wk_->setzeAktiv(windQuer_->isChecked());
 }
 
-void Form9::lade(const Wand& w) {
-    if (QAbstractButton* knopf = lastfall_->button(w.Lastfall.value() - 1)) knopf->setChecked(true);
-    if (QAbstractButton* knopf = kled_->button(w.KLED.value() - 1)) knopf->setChecked(true);
-    windQuer_->setChecked(w.WindQuer);
-    Fvk_->setzeWert(w.Fvk.value());
-    Fcgk_->setzeWert(w.Fcgk.value());
-    Fcqk_->setzeWert(w.Fcqk.value());
-    gk_->setzeWert(w.gk.value());
-    qk_->setzeWert(w.qk.value());
-    wk_->setzeWert(w.wk.value());
-    gkWand_->setzeWert(w.gkWand.value());
-}
-
 void Form9::schreibe(Wand& w) const {
-    if (lastfall_->checkedId() >= 0) w.Lastfall = lastfall_->checkedId() + 1;
-    if (kled_->checkedId() >= 0) w.KLED = kled_->checkedId() + 1;
-    w.WindQuer = windQuer_->isChecked();
-    w.Fvk = Fvk_->wert();
-    w.Fcgk = Fcgk_->wert();
-    w.Fcqk = Fcqk_->wert();
-    w.gk = gk_->wert();
-    w.qk = qk_->wert();
-    w.wk = wk_->wert();
-    w.gkWand = gkWand_->wert();
+    Eingabedialog::schreibe(w);
     // Values of a load case that is not chosen are lost; the self-weight never is.
     if (w.Lastfall == horizontal) {
         w.Fcgk = 0;

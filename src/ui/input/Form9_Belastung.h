@@ -15,7 +15,6 @@ class Form9 : public Eingabedialog {
     Form9(Programm& programm, Meldungen& meldungen, QWidget* parent);
 
   protected:
-    void lade(const Wand& w) override;
     void schreibe(Wand& w) const override;
 
   private:

@@ -31,6 +31,7 @@
 
 #include "basis/Version.h"
 #include "files/EigeneMaterialienDatei.h"
+#include "model/Feldangaben.h"
 #include "plausibility/Plausibilitaetslauf.h"
 #include "run/Berechnungslauf.h"
 #include "ui/basics/Fenster.h"
@@ -50,6 +51,7 @@ namespace {
 
 constexpr int raster = 8;
 constexpr int hoechstensZuletzt = 8;
+constexpr double mmJeM = 1000;
 
 const QString schluesselGeometrie = QStringLiteral("Hauptfenster/Geometrie");
 const QString schluesselZuletzt = QStringLiteral("Zuletzt");
@@ -160,17 +162,17 @@ QGroupBox* Form1::baueAbmessungen() {
     grid->setHorizontalSpacing(raster);
     grid->setVerticalSpacing(raster);
     grid->setColumnStretch(2, 1);
-    const auto feld = [&](int index, const QString& text, double max, double Grundmasse::*mass) {
-        auto* wert = new Werteingabe(
-            QStringLiteral("Textbox1(%1)").arg(index),
-            {.beschriftung = text, .einheit = QStringLiteral("m"), .min = 0.2, .max = max}, rahmen);
+    const auto feld = [&](int index, const QString& text, std::string_view name, double teiler,
+                          double Grundmasse::*mass) {
+        const Wertschild schild{QStringLiteral("Textbox1(%1)").arg(index), text, QStringLiteral("m"), teiler};
+        auto* wert = new Werteingabe(schild.name, wertvorgabe(eingabeangabe(name).value(), schild), rahmen);
         wert->setzeInZeile(grid, index);
         felder_.emplace_back(wert, mass);
         connect(wert, &Werteingabe::geaendert, this, [this, mass](double neu) { uebernimmFeld(mass, neu); });
     };
-    feld(0, QStringLiteral("Wandlänge l ="), 100, &Grundmasse::Wandlaenge);
-    feld(1, QStringLiteral("Wandhöhe h ="), 100, &Grundmasse::Wandhoehe);
-    feld(2, QStringLiteral("Abstand Rippen ar ="), 5, &Grundmasse::Rippenabstand);
+    feld(0, QStringLiteral("Wandlänge l ="), "Wandlaenge", 1, &Grundmasse::Wandlaenge);
+    feld(1, QStringLiteral("Wandhöhe h ="), "Wandhoehe", 1, &Grundmasse::Wandhoehe);
+    feld(2, QStringLiteral("Abstand Rippen ar ="), "Rippenabstand", mmJeM, &Grundmasse::Rippenabstand);
     return rahmen;
 }
 

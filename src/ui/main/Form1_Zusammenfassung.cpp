@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "basis/Zahlenformat.h"
+#include "design/Verankerung.h"
 #include "model/Kataloge.h"
 #include "ui/basics/Programm.h"
 #include "ui/drawings/Wandgeometrie.h"
@@ -64,6 +65,8 @@ QString zusammenfassungVerbindungsmittel(const Wand& w) { return beideOderEine(w
 
 QString zusammenfassungVerankerung(const Wand& w) {
     if (!w.NachweisVerankerung) return QStringLiteral("Nachweis der Verankerung wird nicht geführt");
+    Wand lauf = w;  // Rd as a run would take it now
+    ankertragfaehigkeit(lauf);
     QString anker = name(Ankernamen(), w.Ankertyp);
     if (w.Ankertyp == freierAnker)
         anker = qtext(w.FreierAnkerName);
@@ -71,7 +74,7 @@ QString zusammenfassungVerankerung(const Wand& w) {
         anker = anker.section(QLatin1Char(' '), -1);  // the type alone
     return QStringLiteral("%1 x %2, Rd = %3 kN je Anker")
         .arg(w.AnzahlAnker.value())
-        .arg(anker.isEmpty() ? QStringLiteral("freier Anker") : anker, zahl("0.00", w.RdAnker));
+        .arg(anker.isEmpty() ? QStringLiteral("freier Anker") : anker, zahl("0.00", lauf.RdAnker));
 }
 
 QString zusammenfassungBelastung(const Wand& w) {

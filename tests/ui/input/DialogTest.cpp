@@ -152,6 +152,12 @@ TEST_F(Dialog, ARefusedSheathingStaysOpenWithTheNewValuesInTheRecord) {
     ASSERT_EQ(meldungen.gezeigt.size(), 1U);
     erwarte(meldungen.gezeigt[0], Symbol::kritisch, " Fehler",
             "Das gewählte Plattenmaterial für Beplankung 2 ist bei NKL 2 unzulässig! Bitte ändern!");
+    EXPECT_EQ(form.focusWidget(), &finde<QRadioButton>(form, "Option1(0)"));  // side 2 is hidden
+    klicke(form, "Option1(1)");
+    klicke(form, "ComEnde");
+    EXPECT_EQ(form.focusWidget(), &finde<QComboBox>(form, "Materialbox2"));
+    klicke(form, "Option1(0)");
+    klicke(form, "ComEnde");
     klicke(form, "Command1");
     EXPECT_EQ(w.Material[Seite::zwei], 3);
     EXPECT_TRUE(w.Einseitig);
@@ -171,6 +177,17 @@ TEST_F(Dialog, OwnMaterialsAreListedAndOpenForFreeMaterialOnly) {
     klicke(form, "ComEnde");
     EXPECT_EQ(w.Material[Seite::eins], 13);
     EXPECT_EQ(w.EigenesMaterial[Seite::eins], 2);
+}
+
+TEST_F(Dialog, NoOwnMaterialIsChosenByTheVisitToTheDatabase) {
+    w.EigenesMaterial[Seite::eins] = 4;  // a row that is not there
+    w.Material[Seite::eins] = 13;
+    Form4 form(programm, meldungen, nullptr);
+    form.show();
+    mitFenster([&] { klicke(form, "ComProfile"); }, [](QWidget&) {});
+    EXPECT_EQ(finde<QComboBox>(form, "Combo1").currentIndex(), -1);
+    klicke(form, "ComEnde");
+    EXPECT_EQ(w.EigenesMaterial[Seite::eins], 4);
 }
 
 struct Artfall {
@@ -220,6 +237,18 @@ TEST_F(Dialog, ANailSizeSetsDiameterLengthAndHeadOfBothSidesAnew) {
     EXPECT_EQ(wert(form, "Textbox1(10)").wert(), 2.7);
 }
 
+TEST_F(Dialog, ALineSaysWhenTheSizesAreNotThoseOfTheChosenNail) {
+    Form5 form(programm, meldungen, nullptr);
+    form.show();
+    const QLabel& zeile = finde<QLabel>(form, "Abweichung1");
+    EXPECT_FALSE(zeile.isVisible());
+    tippe(form, "Textbox1(9)", "55");
+    EXPECT_TRUE(zeile.isVisible());
+    EXPECT_TRUE(zeile.text().contains(QStringLiteral("2,7x50")));
+    waehle(form, "Combo1", 2);  // staples print their sizes
+    EXPECT_FALSE(zeile.isVisible());
+}
+
 TEST_F(Dialog, GypsumBoardIsNotPredrilled) {
     w.Material[Seite::eins] = 7;
     w.Vorgebohrt[Seite::eins] = true;
@@ -246,6 +275,7 @@ TEST_F(Dialog, FastenersAreRefusedWithTheFirstFindingOnly) {
         QStringLiteral("Beplankung 1: Die Länge l des VM ist größer als die Wanddicke + Beplankung 1! Bitte "
                        "ändern!"));
     EXPECT_EQ(w.ln[Seite::eins], 300);
+    EXPECT_EQ(form.focusWidget(), &wert(form, "Textbox1(9)"));
 }
 
 TEST_F(Dialog, TheAnchorLimitsItsNailsAndComputesItsResistance) {
@@ -278,6 +308,22 @@ TEST_F(Dialog, TheAnchorLimitsItsNailsAndComputesItsResistance) {
     EXPECT_TRUE(w.NachweisVerankerung);
 }
 
+TEST_F(Dialog, TheAnchorDialogShowsTheRecordAndSaysWhatARunWouldTake) {
+    Form7 form(programm, meldungen, nullptr);
+    form.show();
+    EXPECT_EQ(wert(form, "Textbox1(1)").text(), QStringLiteral("12,00"));
+    // min(1.83 * 16 * 0.9 / 1.3, 17 / 1.3) = min(20.27, 13.08)
+    const QLabel& zeile = finde<QLabel>(form, "Laufwert");
+    EXPECT_FALSE(zeile.isVisible());
+    EXPECT_TRUE(finde<QLabel>(form, "Wirkung").isVisible());
+    klicke(form, "Check1");
+    EXPECT_FALSE(finde<QLabel>(form, "Wirkung").isVisible());
+    EXPECT_TRUE(zeile.isVisible());
+    EXPECT_TRUE(zeile.text().contains(QStringLiteral("Rd = 13,08 kN"))) << zeile.text().toStdString();
+    klicke(form, "Option1(8)");
+    EXPECT_FALSE(zeile.isVisible());
+}
+
 TEST_F(Dialog, ValuesOfALoadCaseThatIsNotChosenAreLostOnAccept) {
     struct Fall {
         const char* option;
@@ -306,8 +352,6 @@ TEST_F(Dialog, ValuesOfALoadCaseThatIsNotChosenAreLostOnAccept) {
 }
 
 TEST_F(Dialog, TheSelfWeightReachesTheRecordThroughTheLoadDialogOnly) {
-    w.Wichte[Seite::eins] = 6;  // as a run leaves it
-    w.Wichte[Seite::zwei] = 6;
     const std::string vorher = positionstext(w);
     Form9 form(programm, meldungen, nullptr);
     form.show();
@@ -333,20 +377,36 @@ TEST_F(Dialog, TheSelfWeightReachesTheRecordThroughTheLoadDialogOnly) {
     EXPECT_NEAR(w.gkWand.value(), (holz + 2.25 + daemmung) / 5, 1e-6);
 }
 
-TEST_F(Dialog, TheSelfWeightSaysWhichUnitWeightsItTakes) {
+TEST_F(Dialog, TheSelfWeightTakesTheMaterialsThatAreEnteredNow) {
+    w.Material[Seite::zwei] = 3;  // gypsum board, 9 kN/m³
     const auto hinweis = [this] {
         Form14 form(programm, meldungen, nullptr);
         return finde<QLabel>(form, "Wichtenhinweis").text();
     };
-    EXPECT_TRUE(hinweis().startsWith(QStringLiteral("Die Wichte der Beplankung liegt erst nach einer")));
-    w.Einseitig = false;
-    w.Wichte[Seite::eins] = 6;
-    EXPECT_TRUE(hinweis().startsWith(QStringLiteral("Die Wichte der Beplankung liegt erst nach einer")));
-    w.Wichte[Seite::zwei] = 9;
-    EXPECT_EQ(hinweis(),
-              QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: 6,0 / 9,0 kN/m³"));
+    EXPECT_EQ(hinweis(), QStringLiteral("Wichten der gewählten Beplankung: 6,0 / 9,0 kN/m³"));
     w.Einseitig = true;
-    EXPECT_EQ(hinweis(), QStringLiteral("Wichten der Beplankung aus der letzten Berechnung: 6,0 kN/m³"));
+    EXPECT_EQ(hinweis(), QStringLiteral("Wichten der gewählten Beplankung: 6,0 kN/m³"));
+    EXPECT_EQ(w.Wichte[Seite::eins], 0);
+}
+
+TEST_F(Dialog, ANumberOfAFileThatIsNoChoiceShowsWhatTheCalculationTakesAndIsWrittenBackAsRead) {
+    for (const int zahl : {0, 3}) {
+        SCOPED_TRACE(zahl);
+        w.GenauesVerfahren = zahl;
+        w.KlammerWinkelOption = zahl;
+        w.VertikallastVerteilung = zahl;
+        w.LagesicherungVerfahren = zahl;
+        Form12 form(programm, meldungen, nullptr);
+        form.show();
+        for (const char* gezeigt : {"Option1(1)", "Option2(1)", "Option3(0)", "Option4(0)"})
+            EXPECT_TRUE(finde<QRadioButton>(form, gezeigt).isChecked()) << gezeigt;
+        klicke(form, "Option4(1)");
+        klicke(form, "ComEnde");
+        EXPECT_EQ(w.GenauesVerfahren, zahl);
+        EXPECT_EQ(w.KlammerWinkelOption, zahl);
+        EXPECT_EQ(w.VertikallastVerteilung, zahl);
+        EXPECT_EQ(w.LagesicherungVerfahren, 2);
+    }
 }
 
 TEST_F(Dialog, TheStapleAngleIsOpenFromThirtyDegreesOn) {
