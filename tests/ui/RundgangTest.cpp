@@ -208,6 +208,56 @@ TEST_F(Rundgang, EveryWindowNamesItsControlsAndReachesThemByTheTabKey) {
     });
 }
 
+// What a screen reader gets of a control: a role, a name, and for a value its range and a tool tip.
+void pruefeVorlesen(QWidget& fenster) {
+    for (QWidget* feld : fenster.findChildren<QWidget*>()) {
+        if (!nimmtEingabe(*feld) || eigenesTeil(*feld)) continue;
+        SCOPED_TRACE(fenster.objectName().toStdString() + " " + feld->objectName().toStdString());
+        const QAccessibleInterface* leser = QAccessible::queryAccessibleInterface(feld);
+        ASSERT_NE(leser, nullptr);
+        EXPECT_NE(leser->role(), QAccessible::NoRole);
+        EXPECT_NE(leser->role(), QAccessible::Client);
+        EXPECT_FALSE(leser->text(QAccessible::Name).trimmed().isEmpty());
+        EXPECT_FALSE(leser->text(QAccessible::Name).contains(QLatin1Char('&')));
+        const auto* wert = qobject_cast<const Werteingabe*>(feld);
+        if (wert == nullptr || !wert->isEnabled() || wert->isReadOnly()) continue;
+        EXPECT_TRUE(leser->text(QAccessible::Description).contains(QStringLiteral("zulässig:")));
+        EXPECT_TRUE(wert->toolTip().contains(QStringLiteral("zulässig:")));
+        EXPECT_FALSE(Qt::mightBeRichText(wert->toolTip()));
+    }
+}
+
+TEST_F(Rundgang, AScreenReaderGetsRoleNameAndRangeOfEveryControl) { jedesFenster(pruefeVorlesen); }
+
+TEST_F(Rundgang, EveryWindowFitsASmallScreenAndShowsItsButtonsThere) {
+    jedesFenster([](QWidget& fenster) {
+        SCOPED_TRACE(fenster.objectName().toStdString());
+        constexpr QSize klein(1280, 680);  // 720 less a title bar
+        EXPECT_LE(fenster.minimumSizeHint().width(), klein.width());
+        EXPECT_LE(fenster.minimumSizeHint().height(), klein.height());
+        fenster.resize(fenster.minimumSizeHint());
+        QCoreApplication::processEvents();
+        for (const char* name : {"ComEnde", "Command1", "ComErgEin2"}) {
+            const auto* knopf = fenster.findChild<QPushButton*>(QLatin1String(name));
+            const bool unten = knopf != nullptr && (knopf->parentWidget() == &fenster ||
+                                                    knopf->objectName().startsWith(QStringLiteral("ComErg")));
+            if (!unten) continue;
+            EXPECT_TRUE(fenster.rect().contains(QRect(knopf->mapTo(&fenster, QPoint()), knopf->size())))
+                << name;
+        }
+    });
+}
+
+TEST_F(Rundgang, AWindowComesBackInTheSizeThatTheUserGaveIt) {
+    QSize gezeigt;
+    const auto oeffneBelastung = [&](const std::function<void(QWidget&)>& bedienen) {
+        mitFenster([&] { oeffne(Fensterart::belastung, programm, meldungen, nullptr); }, bedienen);
+    };
+    oeffneBelastung([](QWidget& fenster) { fenster.resize(601, 403); });
+    oeffneBelastung([&](QWidget& fenster) { gezeigt = fenster.size(); });
+    EXPECT_EQ(gezeigt, QSize(601, 403));
+}
+
 TEST_F(Rundgang, DialogsBeginInTheirFirstFieldAndEndWithTheirButtons) {
     for (const Fensterart art : {Fensterart::rippen, Fensterart::beplankung, Fensterart::verbindungsmittel,
                                  Fensterart::verankerung, Fensterart::belastung, Fensterart::bemessung}) {

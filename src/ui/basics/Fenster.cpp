@@ -11,8 +11,13 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSettings>
 #include <QSlider>
+#include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
@@ -69,6 +74,26 @@ bool aendertSichAmRad(const QWidget& feld) {
 }
 
 constexpr const char* enterregel = "enterregel";
+
+// What a window remembers, in a group of its name.
+const QString schluesselGroesse = QStringLiteral("Groesse");
+const QString schluesselOrt = QStringLiteral("Ort");
+const QString schluesselTeiler = QStringLiteral("Teiler");
+
+// Asks for all of its content, and scrolls where there is no room for it.
+class Rollbereich : public QScrollArea {
+  public:
+    explicit Rollbereich(QWidget* parent) : QScrollArea(parent) {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
+    }
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override {
+        constexpr QSize genug(360, 160);
+        return widget()->minimumSizeHint().boundedTo(genug);
+    }
+};
 
 }  // namespace
 
@@ -147,9 +172,14 @@ Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, cons
     auto* aussen = new QVBoxLayout(this);
     aussen->setContentsMargins(2 * raster, 2 * raster, 2 * raster, 2 * raster);
     aussen->setSpacing(2 * raster);
-    inhalt_ = new QVBoxLayout;
+    flaeche_ = new QWidget;
+    flaeche_->installEventFilter(this);
+    inhalt_ = new QVBoxLayout(flaeche_);
+    inhalt_->setContentsMargins(0, 0, 0, 0);
     inhalt_->setSpacing(raster);
-    aussen->addLayout(inhalt_, 1);
+    auto* rollbereich = new Rollbereich(this);
+    rollbereich->setWidget(flaeche_);
+    aussen->addWidget(rollbereich, 1);
     fusszeile_ = new QHBoxLayout;
     fusszeile_->setSpacing(raster);
     fusszeile_->addStretch(1);
@@ -178,9 +208,72 @@ QPushButton* Fenster::zurueck(const QString& name) {
     return knopf;
 }
 
+// The room on the screen, without the frame that the desktop draws about a window.
+QSize Fenster::platz() const {
+    const int titel = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    return screen()->availableGeometry().size() - QSize(raster, titel + raster);
+}
+
+QString Fenster::merkdatei() const {
+    return QString::fromStdU16String(programm_.datei("Fenster.ini").u16string());
+}
+
+void Fenster::bringeAufDenSchirm() {
+    QSettings merker(merkdatei(), QSettings::IniFormat);
+    merker.beginGroup(objectName());
+    ensurePolished();
+    layout()->activate();
+    bedarf_ = flaeche_->minimumSizeHint();
+    const QSize gewuenscht = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    eigeneGroesse_ = gewuenscht.boundedTo(platz());
+    resize(merker.value(schluesselGroesse, eigeneGroesse_).toSize().boundedTo(platz()));
+    const QPoint ort = merker.value(schluesselOrt).toPoint();
+    if (merker.contains(schluesselOrt) && screen()->availableGeometry().contains(QRect(ort, size())))
+        move(ort);
+    const auto teiler = findChildren<QSplitter*>();
+    const QVariantList staende = merker.value(schluesselTeiler).toList();
+    for (qsizetype i = 0; i < std::min(teiler.size(), staende.size()); ++i)
+        teiler[i]->restoreState(staende[i].toByteArray());
+}
+
+void Fenster::merke() const {
+    QSettings merker(merkdatei(), QSettings::IniFormat);
+    merker.beginGroup(objectName());
+    if (size() != eigeneGroesse_) merker.setValue(schluesselGroesse, size());
+    merker.setValue(schluesselOrt, pos());
+    QVariantList staende;
+    for (const QSplitter* teiler : findChildren<QSplitter*>()) staende << teiler->saveState();
+    if (!staende.isEmpty()) merker.setValue(schluesselTeiler, staende);
+}
+
+void Fenster::setVisible(bool sichtbar) {
+    if (sichtbar && !isVisible()) {
+        vergibKuerzel(*this);
+        bringeAufDenSchirm();
+    } else if (!sichtbar && isVisible()) {
+        merke();
+    }
+    QDialog::setVisible(sichtbar);
+}
+
+// A content that grows takes the window along.
+bool Fenster::eventFilter(QObject* object, QEvent* event) {
+    if (object == flaeche_ && event->type() == QEvent::LayoutRequest && isVisible()) {
+        const QSize neu = flaeche_->minimumSizeHint();
+        const bool gewachsen = neu.width() > bedarf_.width() || neu.height() > bedarf_.height();
+        const QSize fehlt = (neu - flaeche_->parentWidget()->size()).expandedTo(QSize(0, 0));
+        bedarf_ = neu;
+        if (gewachsen && !fehlt.isNull()) {
+            const bool unveraendert = size() == eigeneGroesse_;
+            resize((size() + fehlt).boundedTo(platz()));
+            if (unveraendert) eigeneGroesse_ = size();
+        }
+    }
+    return QDialog::eventFilter(object, event);
+}
+
 // The first field has the focus when the window shows.
 void Fenster::showEvent(QShowEvent* event) {
-    vergibKuerzel(*this);
     QDialog::showEvent(event);
     if (focusWidget() == nullptr || fusszeile_->indexOf(focusWidget()) >= 0)
         if (QWidget* erstes = nachbar(this, this, true)) erstes->setFocus(Qt::TabFocusReason);

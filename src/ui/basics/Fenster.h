@@ -56,7 +56,8 @@ class Tastenregel : public QObject {
 enum class Tippen { aendertPosition, aendertNichts };
 
 // Base of every secondary window: modal, on top, the key rule above, a content area and a row of buttons
-// beneath it.
+// beneath it. It opens no larger than the screen; what does not fit scrolls, the buttons stay. Its place,
+// a size that the user gave it and its splitters come back the next time.
 class Fenster : public QDialog {
     Q_OBJECT
 
@@ -66,6 +67,8 @@ class Fenster : public QDialog {
             const QString& titel, Tippen tippen = Tippen::aendertPosition);
 
     static constexpr int raster = 8;  // px, the grid of all layouts
+
+    void setVisible(bool sichtbar) override;
 
   protected:
     Programm& programm_;
@@ -86,8 +89,17 @@ class Fenster : public QDialog {
 
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    QSize platz() const;
+    QString merkdatei() const;
+    void bringeAufDenSchirm();
+    void merke() const;
+
+    QWidget* flaeche_;     // what scrolls
+    QSize bedarf_;         // its smallest size
+    QSize eigeneGroesse_;  // of the window, as long as nobody changed it
     QVBoxLayout* inhalt_;
     QHBoxLayout* fusszeile_;
 };
