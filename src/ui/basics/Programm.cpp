@@ -6,6 +6,8 @@
 #include <system_error>
 #include <utility>
 
+#include "basis/Utf8.h"
+#include "files/Pfad.h"
 #include "run/FrischerLauf.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Klartext.h"
@@ -14,6 +16,12 @@
 static void bindeRessourcenEin() { Q_INIT_RESOURCE(ressourcen); }
 
 namespace rippenscheibe {
+
+namespace {
+
+constexpr char16_t fremdesByte = 0xDC00;
+
+}  // namespace
 
 void verbindeRessourcen() { bindeRessourcenEin(); }
 
@@ -86,11 +94,36 @@ void Programm::zuweisen() {
     Q_EMIT geaendert();
 }
 
-std::filesystem::path pfad(const QString& text) {
-    const QByteArray bytes = text.toUtf8();
-    return std::filesystem::path(std::u8string(reinterpret_cast<const char8_t*>(bytes.constData()),
-                                               static_cast<std::size_t>(bytes.size())));
+QString qtext(std::string_view text) {
+    QString ergebnis;
+    while (true) {
+        std::size_t gut = 0;
+        std::optional<Zeichen> eines;
+        while (gut < text.size() && (eines = erstesZeichen(text.substr(gut)))) gut += eines->laenge;
+        ergebnis += QString::fromUtf8(text.data(), static_cast<qsizetype>(gut));
+        if (gut == text.size()) return ergebnis;
+        ergebnis += QChar(static_cast<char16_t>(fremdesByte + static_cast<unsigned char>(text[gut])));
+        text.remove_prefix(gut + 1);
+    }
 }
+
+std::string utf8(const QString& text) {
+    if (text.isValidUtf16()) return text.toStdString();
+    std::string ergebnis;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        const bool paar = c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        if (!paar && c.unicode() >= fremdesByte && c.unicode() <= fremdesByte + 0xFF) {
+            ergebnis += static_cast<char>(c.unicode() - fremdesByte);
+        } else {
+            ergebnis += text.mid(i, paar ? 2 : 1).toStdString();
+            if (paar) ++i;
+        }
+    }
+    return ergebnis;
+}
+
+std::filesystem::path pfad(const QString& text) { return pfadAus(utf8(text)); }
 
 char dezimalzeichen() { return QLocale().decimalPoint() == QStringLiteral(".") ? '.' : ','; }
 

@@ -92,11 +92,10 @@ class Programm : public QObject {
 // Makes the icons and files delivered inside the program available; may be called more than once.
 void verbindeRessourcen();
 
-// All text inside the program is UTF-8.
-inline QString qtext(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-inline std::string utf8(const QString& text) { return text.toStdString(); }
+// All text inside the program is UTF-8. A byte that is none, as file names may hold, passes through both as a
+// lone surrogate, U+DC00 and the byte, so that a path stays the path of the same file.
+QString qtext(std::string_view text);
+std::string utf8(const QString& text);
 std::filesystem::path pfad(const QString& text);
 
 // The decimal mark of the user's locale, ',' or '.'.

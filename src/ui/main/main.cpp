@@ -9,9 +9,11 @@
 #include <QTranslator>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "basis/Version.h"
+#include "files/Plattform.h"
 #include "files/Programmordner.h"
 #include "files/Prozess.h"
 #include "ui/basics/Meldungen.h"
@@ -51,14 +53,33 @@ void verzichteAufAnzeige() {
     });
 }
 
+// Without a display Qt would end the program in English.
+void meldeFehlendeAnzeige() {
+    qInstallMessageHandler([](QtMsgType art, const QMessageLogContext&, const QString&) {
+        if (art != QtFatalMsg) return;
+        schreibe(stderr,
+                 "Es ist keine Anzeige erreichbar. Ohne Anzeige schreibt \"rippenscheibe --pdf AUS.pdf "
+                 "DATEI\" den "
+                 "Ausdruck.\n");
+        std::_Exit(static_cast<int>(Pdfrueckgabe::aufruf));
+    });
+}
+
+// The arguments of the program; Qt takes its own out of `argv`.
+QStringList angabenAus(int argc, char** argv) {
+    QStringList angaben{QStringLiteral("rippenscheibe")};
+    for (const std::string& angabe : plattform::angaben(argc, argv)) angaben << qtext(angabe);
+    return angaben;
+}
+
 // The command that needs no display.
-int laufeOhneFenster(int argc, char** argv) {
+int laufeOhneFenster(int& argc, char** argv) {
     verzichteAufAnzeige();
     QHashSeed::setDeterministicGlobalSeed();  // the order of a PDF's parts depends on it
     const QGuiApplication application(argc, argv);
     QTranslator deutsch;
     if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QCoreApplication::installTranslator(&deutsch);
-    return static_cast<int>(fuehrePdfBefehlAus(QCoreApplication::arguments(), programmordner(), ausgaben));
+    return static_cast<int>(fuehrePdfBefehlAus(angabenAus(argc, argv), programmordner(), ausgaben));
 }
 
 }  // namespace
@@ -68,12 +89,16 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("rippenscheibe"));
     QApplication::setApplicationVersion(qtext(programmversion()));
     QApplication::setDesktopFileName(QStringLiteral("rippenscheibe"));
-    QStringList angaben;
-    for (int i = 0; i < argc; ++i) angaben << QString::fromLocal8Bit(argv[i]);
+    const QStringList angaben = angabenAus(argc, argv);
     if (istPdfBefehl(angaben)) return laufeOhneFenster(argc, argv);
 
-    if (willNurText(angaben)) verzichteAufAnzeige();
+    if (willNurText(angaben)) {
+        verzichteAufAnzeige();
+    } else {
+        meldeFehlendeAnzeige();
+    }
     QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
     waehleSprache();
     // Qt's own buttons, menus, dialogs and the help of the command line in German, whatever the locale: the
     // program is.
@@ -82,7 +107,7 @@ int main(int argc, char** argv) {
 
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
-    if (const auto antwort = beantworteAufruf(befehlszeile, QApplication::arguments(), ausgaben))
+    if (const auto antwort = beantworteAufruf(befehlszeile, angabenAus(argc, argv), ausgaben))
         return static_cast<int>(*antwort);
     const QString angabe = befehlszeile.positionalArguments().value(0);
     const QString datei = angabe.isEmpty() ? angabe : QFileInfo(angabe).absoluteFilePath();

@@ -146,6 +146,21 @@ TEST_F(Ablauf, AFileThatCannotBeReadIsToldAndAMissingOneIsNot) {
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
 }
 
+TEST_F(Ablauf, AFileWhoseNameIsNoUtf8IsOpenedAndSaved) {
+    const std::filesystem::path fremd = pfad(ordner.path()) / "W\xE4nde \xF0\x9F\x8F\xA0.rsw";
+    std::filesystem::rename(pfad(gespeicherte("a.rsw", 4)), fremd);
+    const QString name = qtext(fremd.string());
+    EXPECT_EQ(pfad(name), fremd);
+    EXPECT_EQ(qtext("ä\xF0\x9F\x8F\xA0"), QString::fromUtf8("ä\xF0\x9F\x8F\xA0"));
+    EXPECT_TRUE(ablauf.lade(name));
+    EXPECT_EQ(programm.w.Wandlaenge, 4);
+    aendere();
+    programm.DialogDateiname = name;
+    ablauf.sichern();
+    EXPECT_EQ(laengeIn(name), 7);
+    EXPECT_EQ(QDir(ordner.path()).entryList(QDir::Files).size(), 1);
+}
+
 TEST_F(Ablauf, SaveAppendsTheEndingAndProposesPositionAndRemark) {
     programm.w.Position = "3/1";
     ablauf.sichern();
