@@ -1,8 +1,6 @@
-#include <unistd.h>
-
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -31,13 +29,9 @@ bool raeume() {
 
 // What the standard input has, at least one byte; 0 at its end or when it cannot be read.
 std::size_t liesEingabe(char* puffer, std::size_t groesse) {
-    while (true) {
-        const ssize_t gelesen = ::read(STDIN_FILENO, puffer, groesse);
-        if (gelesen >= 0) return static_cast<std::size_t>(gelesen);
-        if (errno == EINTR) continue;
-        eingabeUnlesbar = true;
-        return 0;
-    }
+    const std::optional<std::size_t> gelesen = plattform::liesStandardeingabe(puffer, groesse);
+    eingabeUnlesbar = eingabeUnlesbar || !gelesen;
+    return gelesen.value_or(0);
 }
 
 // Writes through to whoever reads; false when nobody does any more.
@@ -63,7 +57,6 @@ Rueckgabe laufe(const std::vector<std::string>& angaben) {
 
 int main(int argc, char** argv) {
     bereiteProzessVor();
-    std::signal(SIGPIPE, SIG_IGN);
     Rueckgabe rueckgabe = laufe(plattform::angaben(argc, argv));
     // A report that did not arrive whole must not look like one.
     if (!raeume() && !niemandLiest) {

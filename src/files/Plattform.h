@@ -81,8 +81,10 @@ std::filesystem::path datenordner();
 // The arguments of the program as UTF-8 where the platform's names are characters, else byte by byte.
 std::vector<std::string> angaben(int argc, char** argv);
 bool istTerminal(std::FILE* strom);
-// Standard output takes bytes as they are; a file that grows beyond the user's limit is a fault to report,
-// not the end of the program.
+// What standard input has, at least one byte, 0 at its end; nothing when it cannot be read.
+std::optional<std::size_t> liesStandardeingabe(char* puffer, std::size_t groesse);
+// Standard output takes bytes as they are; a file that grows beyond the user's limit and a pipe that nobody
+// reads any more are faults to report, not the end of the program.
 void bereiteProzessVor();
 // Writes to standard error without asking for memory.
 void schreibeFehlerausgabe(std::string_view text) noexcept;

@@ -320,7 +320,16 @@ std::vector<std::string> angaben(int argc, char** argv) { return {argv + std::mi
 
 bool istTerminal(std::FILE* strom) { return ::isatty(::fileno(strom)) == 1; }
 
-void bereiteProzessVor() { std::signal(SIGXFSZ, SIG_IGN); }
+std::optional<std::size_t> liesStandardeingabe(char* puffer, std::size_t groesse) {
+    const ssize_t gelesen = beharrlich([&] { return ::read(STDIN_FILENO, puffer, groesse); });
+    if (gelesen < 0) return std::nullopt;
+    return static_cast<std::size_t>(gelesen);
+}
+
+void bereiteProzessVor() {
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
+}
 
 void schreibeFehlerausgabe(std::string_view text) noexcept { schreibeAlles(STDERR_FILENO, text); }
 

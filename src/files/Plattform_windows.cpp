@@ -217,7 +217,14 @@ std::vector<std::string> angaben(int /*argc*/, char** /*argv*/) {
 
 bool istTerminal(std::FILE* strom) { return ::_isatty(::_fileno(strom)) != 0; }
 
+std::optional<std::size_t> liesStandardeingabe(char* puffer, std::size_t groesse) {
+    const int gelesen = ::_read(0, puffer, static_cast<unsigned>(groesse));
+    if (gelesen < 0) return std::nullopt;
+    return static_cast<std::size_t>(gelesen);
+}
+
 void bereiteProzessVor() {
+    ::_setmode(0, _O_BINARY);
     ::_setmode(::_fileno(stdout), _O_BINARY);
     ::_setmode(::_fileno(stderr), _O_BINARY);
     ::SetConsoleOutputCP(CP_UTF8);
