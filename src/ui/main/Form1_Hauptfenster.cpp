@@ -29,7 +29,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "basis/Version.h"
 #include "files/EigeneMaterialienDatei.h"
 #include "model/Feldangaben.h"
 #include "plausibility/Plausibilitaetslauf.h"
@@ -319,6 +318,9 @@ void Form1::baueMenue() {
            [this] { oeffneFenster(Fensterart::eigeneMaterialien); });
     befehl(extras, QStringLiteral("mnuSysConfig"), QStringLiteral("&Systemkonfiguration"),
            [this] { oeffneFenster(Fensterart::systemkonfiguration); });
+    extras->addSeparator();
+    befehl(extras, QStringLiteral("mnuVerwerfen"), QStringLiteral("Ergebnisse &verwerfen"),
+           [this] { programm_.verwirfErgebnisse(); });
 
     QMenu* hilfe = menue(QStringLiteral("mnuHilfe"), QStringLiteral("&Hilfe"));
     befehl(hilfe, QStringLiteral("mnuHandbuch"), QStringLiteral("&Handbuch"), [this] {
@@ -326,12 +328,8 @@ void Form1::baueMenue() {
     })->setShortcut(QKeySequence(Qt::Key_F1));
     befehl(hilfe, QStringLiteral("mnuRandbedingungen"), QStringLiteral("&Randbedingungen"),
            [this] { oeffneFenster(Fensterart::randbedingungen); });
-    befehl(hilfe, QStringLiteral("mnuUeber"), QStringLiteral("&Über Rippenscheibe"), [this] {
-        meldungen_.hinweis(this, QStringLiteral("Über Rippenscheibe"),
-                           QStringLiteral("Rippenscheibe, Version %1\n\nBemessung von Wandtafeln in "
-                                          "Holzrahmenbauweise nach DIN 1052 (2008).")
-                               .arg(qtext(programmversion())));
-    });
+    befehl(hilfe, QStringLiteral("mnuUeber"), QStringLiteral("&Über Rippenscheibe"),
+           [this] { oeffneFenster(Fensterart::ueber); });
 }
 
 void Form1::baueWerkzeugleiste() {

@@ -1,4 +1,5 @@
 #include "model/Kataloge.h"
+#include "run/FrischerLauf.h"
 #include "support/Gerechnet.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
@@ -26,6 +27,36 @@ class Hauptfenster : public Programmprobe {
 
     Form1 fenster{programm, meldungen};
 };
+
+// Results as after program start; inputs stay, RdAnker as the last run left it too.
+TEST_F(Hauptfenster, ResultsCanBeDiscarded) {
+    programm.w.etaSv0 = 7;
+    programm.w.RdAnker = 3.21;
+    programm.w.Fvk = 9;
+    loese("mnuVerwerfen");
+    EXPECT_EQ(programm.w.etaSv0, ergebnisseNachProgrammstart().etaSv0);
+    EXPECT_EQ(programm.w.RdAnker, 3.21);
+    EXPECT_EQ(programm.w.Fvk, 9);
+    EXPECT_NE(programm.w.Fvd, ergebnisseNachProgrammstart().Fvd);  // Zuweisen followed
+    QString name;
+    mitFenster([&] { loese("mnuUeber"); }, [&](QWidget& ueber) { name = ueber.objectName(); });
+    EXPECT_EQ(name, QStringLiteral("Ueber"));
+}
+
+TEST_F(Hauptfenster, UnsavedWorkIsOfferedAgainAfterAnEndThatDidNotAskForIt) {
+    programm.felder.Wandlaenge = 8.5;
+    programm.zuweisen();
+    programm.setzeGesichert(false);
+    meldungen.antworten = {Antwort::ja};
+    fenster.close();
+    ASSERT_FALSE(meldungen.gezeigt.empty());
+    EXPECT_EQ(meldungen.gezeigt[0].vorgabe, Antwort::nein);
+    bool gesichert = false;
+    for (const QFileInfo& datei :
+         QDir(ordner.path()).entryInfoList({QStringLiteral("Sicherung*")}, QDir::Files))
+        gesichert = gesichert || inhalt(datei.filePath()).contains("8.5,2.5,");
+    EXPECT_TRUE(gesichert);
+}
 
 TEST_F(Hauptfenster, AWallBuiltThroughTheDialogsGivesTheResultsOfItsSavedFile) {
     tippe(fenster, "Textbox1(0)", "3,75");
