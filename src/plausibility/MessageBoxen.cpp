@@ -401,6 +401,15 @@ std::optional<std::string> beplankungPruefung(const Wand& w) {
     return std::nullopt;
 }
 
+std::vector<double> festePlattendicken(const Wand& w, Seite n) {
+    const Angaben a = angaben(w, n);
+    std::vector<double> gefunden;
+    for (const Plattendicken& zeile : festeDicken)
+        if (zeile.Material(a.Material)) gefunden.assign(zeile.dicken.begin(), zeile.dicken.end());
+    gefunden.erase(std::unique(gefunden.begin(), gefunden.end()), gefunden.end());
+    return gefunden;
+}
+
 std::optional<Eingabeort> ortDerEinzelpruefung(std::string_view hinweis) {
     if (hinweis.empty()) return std::nullopt;  // a row without upper or lower limit has an empty text
     if (hinweis == gegenseiteZuDuenn || stehtIn(hinweis, festeDicken, dicken)) return Eingabeort::Beplankung;

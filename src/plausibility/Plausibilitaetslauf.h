@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/Wand.h"
 
@@ -21,6 +22,10 @@ Texte allgemeinePruefung(const Wand& w);
 
 // The first refusal of the sheathing dialog, or nothing. It looks at side 2 of a one-sided wall too.
 std::optional<std::string> beplankungPruefung(const Wand& w);
+
+// The thicknesses (mm, rising) in which the sheathing of side n is made, where the check knows only these;
+// empty for a board of any thickness.
+std::vector<double> festePlattendicken(const Wand& w, Seite n);
 
 // Where the input is made that a finding of the plausibility run names; `unbekannt` for any text that
 // is none of its findings.

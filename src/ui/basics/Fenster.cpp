@@ -170,17 +170,19 @@ Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, cons
     setAccessibleName(titel.trimmed());
 
     auto* aussen = new QVBoxLayout(this);
-    aussen->setContentsMargins(2 * raster, 2 * raster, 2 * raster, 2 * raster);
+    constexpr int rand = 3;  // of what scrolls, so that the frame of the focus is not cut
+    aussen->setContentsMargins(2 * raster - rand, 2 * raster - rand, 2 * raster - rand, 2 * raster);
     aussen->setSpacing(2 * raster);
     flaeche_ = new QWidget;
     flaeche_->installEventFilter(this);
     inhalt_ = new QVBoxLayout(flaeche_);
-    inhalt_->setContentsMargins(0, 0, 0, 0);
+    inhalt_->setContentsMargins(rand, rand, rand, rand);
     inhalt_->setSpacing(raster);
     auto* rollbereich = new Rollbereich(this);
     rollbereich->setWidget(flaeche_);
     aussen->addWidget(rollbereich, 1);
     fusszeile_ = new QHBoxLayout;
+    fusszeile_->setContentsMargins(rand, 0, rand, 0);
     fusszeile_->setSpacing(raster);
     fusszeile_->addStretch(1);
     aussen->addLayout(fusszeile_);

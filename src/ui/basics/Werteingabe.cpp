@@ -146,6 +146,13 @@ void Werteingabe::setzeInZeile(QGridLayout* grid, int zeile, int spalte) {
     grid->addWidget(zelle_, zeile, spalte + 1, 1, 2, Qt::AlignTop);
 }
 
+void Werteingabe::setzeDaneben(QWidget* teil) {
+    auto* reihen = static_cast<QGridLayout*>(zelle_->layout());
+    reihen->setColumnStretch(1, 0);
+    reihen->setColumnStretch(3, 1);
+    reihen->addWidget(teil, 0, 2);
+}
+
 void Werteingabe::setzeAktiv(bool aktiv) {
     setEnabled(aktiv);
     beschriftung_->setEnabled(aktiv);

@@ -79,6 +79,8 @@ class Werteingabe : public QLineEdit {
 
     // Label in column `spalte` of the grid, field and unit over the next two.
     void setzeInZeile(QGridLayout* grid, int zeile, int spalte = 0);
+    // Puts something behind the unit.
+    void setzeDaneben(QWidget* teil);
     // Dims or lights label, field and unit together.
     void setzeAktiv(bool aktiv);
 

@@ -5,10 +5,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
+#include "basis/Zahlenformat.h"
 #include "model/Kataloge.h"
 #include "plausibility/Plausibilitaetslauf.h"
 #include "ui/basics/Fensteroeffner.h"
@@ -110,6 +113,18 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     felder->addWidget(beschriftung(QStringLiteral("eigenes Material:"), s.eigenes), 1, 0);
     felder->addWidget(s.eigenes, 1, 1, 1, 2);
     s.dicke->setzeInZeile(felder, 2);
+    s.dicken = new QToolButton(this);
+    s.dicken->setObjectName(QStringLiteral("Dicken%1").arg(nummer(n)));
+    s.dicken->setText(QStringLiteral("Dicken"));
+    s.dicken->setAccessibleName(QStringLiteral("Lieferbare Dicken, Beplankung %1").arg(nummer(n)));
+    s.dicken->setToolTip(QStringLiteral("Die Dicken, in denen es diese Platte gibt"));
+    s.dicken->setFocusPolicy(Qt::StrongFocus);
+    s.dickenliste = new QMenu(s.dicken);
+    connect(s.dicken, &QToolButton::clicked, s.dickenliste, [knopf = s.dicken, liste = s.dickenliste] {
+        liste->popup(knopf->mapToGlobal(knopf->rect().bottomLeft()));
+    });
+    s.dicke->setzeDaneben(s.dicken);
+    QWidget::setTabOrder(s.dicke, s.dicken);
     s.breite->setzeInZeile(felder, 3);
     felder->addWidget(s.gestossen->button(namen.nichtGestossen), 4, 0, 1, 3);
     felder->addWidget(s.gestossen->button(namen.einmalGestossen), 5, 0, 1, 3);
@@ -120,7 +135,10 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     klassen->addStretch(1);
     felder->addLayout(klassen, 6, 0, 1, 3);
     felder->setRowStretch(7, 1);
-    connect(s.material, &QComboBox::currentIndexChanged, this, [this, n] { zeigeEigene(n); });
+    connect(s.material, &QComboBox::currentIndexChanged, this, [this, n] {
+        zeigeEigene(n);
+        bieteDickenAn(n);
+    });
     return s;
 }
 
@@ -141,7 +159,24 @@ void Form4::zeigeEigene(Seite n) {
 
 void Form4::lade(const Wand& w) {
     Eingabedialog::lade(w);
-    for (const Seite n : beideSeiten) zeigeEigene(n);
+    for (const Seite n : beideSeiten) {
+        zeigeEigene(n);
+        bieteDickenAn(n);
+    }
+}
+
+void Form4::bieteDickenAn(Seite n) {
+    const Seitenfelder& s = seiten_[n];
+    Wand w;
+    w.Material[n] = s.material->currentIndex() + 1;
+    const std::vector<double> dicken = festePlattendicken(w, n);
+    s.dickenliste->clear();
+    for (const double dicke : dicken) {
+        const std::string text = formatiere("0.0", dicke, dezimalzeichen()) + " mm";
+        const auto setze = [feld = s.dicke, dicke] { feld->setzeWert(dicke); };
+        connect(s.dickenliste->addAction(qtext(text)), &QAction::triggered, this, setze);
+    }
+    s.dicken->setEnabled(!dicken.empty());
 }
 
 std::optional<Eingabedialog::Ablehnung> Form4::ablehnung(const Wand& w) const {

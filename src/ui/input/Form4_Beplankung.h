@@ -3,6 +3,9 @@
 #include "basis/Seite.h"
 #include "ui/basics/Eingabedialog.h"
 
+class QMenu;
+class QToolButton;
+
 namespace rippenscheibe {
 
 // "  Eingabe der Beplankung": the sheathing of both sides. The panel width is shown in m, the record holds
@@ -24,6 +27,8 @@ class Form4 : public Eingabedialog {
         QComboBox* material;
         QComboBox* eigenes;
         Werteingabe* dicke;
+        QToolButton* dicken;  // opens the list of the thicknesses in which the board is made
+        QMenu* dickenliste;
         Werteingabe* breite;
         QButtonGroup* gestossen;  // ids: `nicht` and `einmal` below
         QButtonGroup* nkl;
@@ -32,6 +37,8 @@ class Form4 : public Eingabedialog {
     Seitenfelder baueSeite(Seite n);
     void fuelleEigeneMaterialien();
     void zeigeEigene(Seite n);
+    // Offers the only thicknesses that the chosen board has.
+    void bieteDickenAn(Seite n);
 
     QButtonGroup* beplankt_;
     Paar<Seitenfelder> seiten_;

@@ -179,6 +179,28 @@ TEST_F(Dialog, OwnMaterialsAreListedAndOpenForFreeMaterialOnly) {
     EXPECT_EQ(w.EigenesMaterial[Seite::eins], 2);
 }
 
+TEST_F(Dialog, ABoardOfFixedThicknessesOffersThem) {
+    const std::pair<int, QStringList> faelle[] = {
+        {2, {QStringLiteral("12,5 mm"), QStringLiteral("15,0 mm"), QStringLiteral("18,0 mm")}},
+        {6,
+         {QStringLiteral("10,0 mm"), QStringLiteral("12,5 mm"), QStringLiteral("15,0 mm"),
+          QStringLiteral("18,0 mm")}},
+        {0, {}}};
+    Form4 form(programm, meldungen, nullptr);
+    form.show();
+    const QToolButton& knopf = finde<QToolButton>(form, "Dicken2");
+    const QMenu& liste = *knopf.findChild<QMenu*>();
+    for (const auto& [material, erwartet] : faelle) {
+        waehle(form, "Materialbox2", material);
+        QStringList angeboten;
+        for (const QAction* dicke : liste.actions()) angeboten << dicke->text();
+        EXPECT_EQ(angeboten, erwartet) << material;
+        EXPECT_EQ(knopf.isEnabled(), !erwartet.isEmpty());
+        if (!erwartet.isEmpty()) liste.actions().last()->trigger();
+    }
+    EXPECT_EQ(wert(form, "Textbox1(2)").wert(), 18.0);
+}
+
 TEST_F(Dialog, NoOwnMaterialIsChosenByTheVisitToTheDatabase) {
     w.EigenesMaterial[Seite::eins] = 4;  // a row that is not there
     w.Material[Seite::eins] = 13;
