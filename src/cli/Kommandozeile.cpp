@@ -169,6 +169,7 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     app.option_defaults()->group("Optionen");
     app.get_help_ptr()->group("Optionen");
     app.get_version_ptr()->group("Optionen");
+    app.allow_windows_style_options(false);  // a path may begin with a slash there too
     app.require_subcommand(1);
 
     const auto befehl = [&](const std::string& name, const std::string& erklaerung,
