@@ -263,8 +263,8 @@ class Arbeit {
         }
     }
 
-    // Own materials that the command names have to be there, else those of the program are taken. A table that
-    // is there has to be readable.
+    // Own materials that the command names have to be there, else those of the program are taken. A table
+    // that is there has to be readable.
     bool ladeMaterialien() {
         Gelesen<EigeneMaterialien> tabelle = auftrag_.material ? liesEigeneMaterialien(*auftrag_.material)
                                                                : ladeEigeneMaterialien(programmordner_);

@@ -9,9 +9,9 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "basis/Utf8.h"
 #include "files/Kopie.h"
@@ -196,7 +196,7 @@ TEST(Prozess, WithoutMemoryTheProgramEndsInOneSentence) {
     EXPECT_EXIT(
         {
             bereiteProzessVor();
-            const std::vector<char> zuViel(std::size_t{1} << 46U);
+            std::get_new_handler()();  // what `new` calls when there is no memory
         },
         testing::ExitedWithCode(3), "^Der Arbeitsspeicher reicht nicht aus.\n$");
 }
