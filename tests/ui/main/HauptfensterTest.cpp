@@ -1,6 +1,7 @@
 #include "model/Kataloge.h"
 #include "run/FrischerLauf.h"
 #include "support/Gerechnet.h"
+#include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
 namespace rippenscheibe {
@@ -171,6 +172,13 @@ TEST_F(Hauptfenster, ADoubleClickOnAFindingOpensTheDialogOfItsInput) {
     liste.setCurrentItem(eintrag);
     mitFenster([&] { QTest::keyClick(&liste, Qt::Key_Return); }, merke);
     EXPECT_EQ(namen, (QStringList{QStringLiteral("Form5"), QStringLiteral("Form5")}));
+}
+
+TEST_F(Hauptfenster, AClickOnAPartOfTheDrawingOpensItsDialog) {
+    QString name;
+    mitFenster([this] { Q_EMIT finde<Zeichnungsansicht>("Picture1").angeklickt(Fensterart::beplankung); },
+               [&](QWidget& form) { name = form.objectName(); });
+    EXPECT_EQ(name, QStringLiteral("Form4"));
 }
 
 TEST_F(Hauptfenster, UnfulfilledProofsAreToldButDoNotStopTheReport) {
