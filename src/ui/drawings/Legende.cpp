@@ -130,11 +130,9 @@ std::vector<Legendeneintrag> legende(const Zeichner& z, const Wand& w, Ankerlege
         const QString zeile = name.isEmpty() ? QString() : titel + QLatin1Char(' ') + name;
         eintraege.push_back({titel, name, {}, zeile, farbe, farbe, fenster, fenster});
     };
-    if (w.WindQuer) {
-        QString wind = lasttext(z, QStringLiteral("Wind quer w,k"), w.wk, QStringLiteral("kN/m²"));
-        wind.replace(QStringLiteral(" kN"), QStringLiteral("\u00a0kN"));  // the figure keeps its unit
-        fuege(wind, {}, stil.last, Fensterart::belastung);
-    }
+    if (w.WindQuer)
+        fuege(QStringLiteral("Wind quer"), lasttext(z, QStringLiteral("w,k"), w.wk, QStringLiteral("kN/m²")),
+              stil.last, Fensterart::belastung);
     if (anker == Ankerlegende::mit && w.NachweisVerankerung)
         fuege(QStringLiteral("Anker: %1 ×").arg(w.AnzahlAnker.value()), ankerkurzname(w), stil.stahl,
               Fensterart::verankerung);
