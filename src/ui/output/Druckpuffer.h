@@ -16,6 +16,8 @@ class Druckpuffer : public Zeichenflaeche {
 
     // Draws all that was held on another surface.
     void spiele(Zeichenflaeche& ziel) const;
+    // The same of some pages alone, from 1.
+    void spiele(Zeichenflaeche& ziel, int von, int bis) const;
 
     void setzeSchrift(const Schrift& schrift) override;
     void setzeStrich(double breite) override;

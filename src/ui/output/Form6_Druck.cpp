@@ -311,11 +311,18 @@ void Form6::drucke() {
     uebernimmZaehlung();
     clsPrintDialog dialog(programm_.drucker(), meldungen_, this);
     dialog.PD_PrintSetup = true;
+    // The sheets of this job, as the preview counts them.
+    const auto blaetter = static_cast<std::int16_t>(vorschau_->pageCount());
+    dialog.PDnMinPage = dialog.PDnFromPage = std::min<std::int16_t>(blaetter, 1);
+    dialog.PDnMaxPage = dialog.PDnToPage = blaetter;
     dialog.ShowPrinter();
     if (dialog.Cancelled()) {
         setWindowTitle(QStringLiteral(" Drucken"));
         return;
     }
+    const bool auswahl = dialog.PD_PageNums && dialog.PDnFromPage > 0;
+    erstesBlatt_ = auswahl ? dialog.PDnFromPage : 1;
+    letztesBlatt_ = auswahl ? dialog.PDnToPage : std::numeric_limits<int>::max();
     druckt_ = true;
     gestoppt_ = false;
     optionen_->setEnabled(false);
@@ -347,7 +354,9 @@ bool Form6::setzeUndSende() {
     drucker.setFullPage(true);
     drucker.setDocName(dokumenttitel(programm_.w));
     drucker.setCreator(QStringLiteral("Rippenscheibe"));
-    if (!aufGeraet(drucker, programm_.w, a, [&](Zeichenflaeche& f) { puffer.spiele(f); })) return false;
+    if (!aufGeraet(drucker, programm_.w, a,
+                   [&](Zeichenflaeche& f) { puffer.spiele(f, erstesBlatt_, letztesBlatt_); }))
+        return false;
     merkeSeite(ergebnis);
     return true;
 }

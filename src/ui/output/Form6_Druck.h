@@ -57,6 +57,8 @@ class Form6 : public Fenster {
 
     bool gestoppt_ = false;
     bool druckt_ = false;
+    int erstesBlatt_ = 1;  // of the pages that the user chose
+    int letztesBlatt_ = 0;
     QImage logo_;
     QPrinter vorschaudrucker_{QPrinter::HighResolution};
 

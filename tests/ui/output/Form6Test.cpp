@@ -1,4 +1,5 @@
 #include <QPrintDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 
 #include "files/Projektliste.h"
@@ -138,6 +139,22 @@ TEST_F(Druckfenster, AStoppedJobPrintsNothing) {
     EXPECT_EQ(letzteSeite(), 0);
     EXPECT_FALSE(frei(*fenster, "Command3"));
     EXPECT_TRUE(frei(*fenster, "Command1"));
+}
+
+TEST_F(Druckfenster, OnlyTheChosenPagesAreSent) {
+    const auto fenster = neu();
+    fenster->show();
+    auto& vorschau = finde<QPrintPreviewWidget>(*fenster, "Vorschau");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return vorschau.pageCount() > 5; }));
+    meldungen.imDruckdialog = [&, weiter = meldungen.imDruckdialog](QPrintDialog& dialog) {
+        weiter(dialog);
+        EXPECT_TRUE(dialog.testOption(QAbstractPrintDialog::PrintPageRange));
+        EXPECT_EQ(dialog.maxPage(), vorschau.pageCount());
+        dialog.setPrintRange(QAbstractPrintDialog::PageRange);
+        dialog.setFromTo(2, 4);
+    };
+    klicke(*fenster, "Command1");
+    EXPECT_EQ(gedruckteSeiten(), 3);
 }
 
 TEST_F(Druckfenster, APrinterThatFailsLeavesTheWindowOpen) {
