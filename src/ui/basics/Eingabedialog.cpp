@@ -17,6 +17,7 @@
 #include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
+#include "ui/basics/Urteilsanzeige.h"
 #include "ui/basics/Wandansicht.h"
 #include "ui/basics/Werteingabe.h"
 
@@ -48,6 +49,8 @@ Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* 
     spalten->addLayout(felder_);
     spalten->addLayout(skizzen_, 1);
     inhalt()->addLayout(spalten, 1);
+    urteil_ = new Urteilszeile(this);
+    inhalt()->addWidget(urteil_);
 }
 
 void Eingabedialog::beginne() {
@@ -111,6 +114,7 @@ void Eingabedialog::zeichneNeu() {
     Wand w = programm_.w;
     schreibe(w);
     zuweisen(w, programm_.felder);
+    urteil_->zeige(rechneSofort(w, programm_.felder));
     ergaenzeSkizze(w);
     for (Wandansicht* ansicht : ansichten_) ansicht->setzeWand(w);
 }

@@ -23,6 +23,7 @@ class QRadioButton;
 
 namespace rippenscheibe {
 
+class Urteilszeile;
 class Wandansicht;
 
 // One button of a choice and the value of the field that it stands for.
@@ -197,6 +198,7 @@ class Eingabedialog : public Fenster {
     bool laedt_ = true;
     QVBoxLayout* felder_;
     QVBoxLayout* skizzen_;
+    Urteilszeile* urteil_;
     std::vector<Wandansicht*> ansichten_;
 };
 

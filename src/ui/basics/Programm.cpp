@@ -33,6 +33,7 @@ Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     std::filesystem::create_directories(ordner, fehler);
     setzeVorgaben(w);
     felder = grundmasse(w);
+    leereSchritte();
 }
 
 Programm::~Programm() = default;
@@ -92,6 +93,40 @@ void Programm::verwirfErgebnisse() {
 void Programm::zuweisen() {
     rippenscheibe::zuweisen(w, felder);
     Q_EMIT geaendert();
+}
+
+void Programm::beginneSchritt(const QString& name) {
+    schritte_.beginne(eingabestand(), utf8(name));
+    Q_EMIT schritteGeaendert();
+}
+
+void Programm::beendeSchritt() {
+    schritte_.beende(eingabestand());
+    Q_EMIT schritteGeaendert();
+}
+
+void Programm::rueckgaengig() {
+    Eingabestand stand = eingabestand();
+    if (schritte_.rueckgaengig(stand)) setze(stand);
+}
+
+void Programm::wiederhole() {
+    Eingabestand stand = eingabestand();
+    if (schritte_.wiederhole(stand)) setze(stand);
+}
+
+void Programm::leereSchritte() {
+    schritte_.leere(eingabestand());
+    Q_EMIT schritteGeaendert();
+}
+
+void Programm::setze(const Eingabestand& stand) {
+    static_cast<Eingaben&>(w) = stand.eingaben;
+    felder = stand.felder;
+    setzeGesichert(false);
+    Q_EMIT ersetzt();
+    zuweisen();
+    Q_EMIT schritteGeaendert();
 }
 
 QString qtext(std::string_view text) {

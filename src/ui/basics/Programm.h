@@ -13,6 +13,7 @@
 #include "files/Projektliste.h"
 #include "model/Wand.h"
 #include "run/Zuweisen.h"
+#include "ui/basics/Schrittfolge.h"
 
 class QPrinter;
 
@@ -47,6 +48,7 @@ class Programm : public QObject {
     bool SeitenzahlDrucken = true;            // of the last print job
     QString DialogDateiname;                  // the file name that the file dialog holds
     std::optional<std::size_t> Dateistand;    // hash of the open file as this program read or wrote it
+    std::optional<int> Ergebnisziel;          // the section 5.x at which the result view opens
     QString DialogOrdner;                     // its initial folder
     std::unique_ptr<Fensteroeffner> fenster;  // makes the windows that others ask for; set by the main window
 
@@ -73,20 +75,48 @@ class Programm : public QObject {
     void zuweisen();
     // Results as after program start, inputs untouched; Zuweisen follows.
     void verwirfErgebnisse();
+
+    // Undo and redo. What stands between `beginneSchritt` and `beendeSchritt` is one step (see Schritt);
+    // taking one back and doing it again sets the inputs alone, and the position counts as changed.
+    void beginneSchritt(const QString& name);
+    void beendeSchritt();
+    void rueckgaengig();
+    void wiederhole();
+    // Another position was opened or begun: its inputs are the first ones.
+    void leereSchritte();
+    const Schrittfolge& schritte() const { return schritte_; }
+    Eingabestand eingabestand() const { return {w, felder}; }
+
     // A file of the program's folder.
     std::filesystem::path datei(std::string_view name) const { return ordner / name; }
 
   Q_SIGNALS:
-    void geaendert();         // the record changed
-    void ersetzt();           // another position took the place of the one before
-    void zustandGeaendert();  // Gesichert, Dateiname or the caption changed
+    void geaendert();          // the record changed
+    void ersetzt();            // another position took the place of the one before
+    void zustandGeaendert();   // Gesichert, Dateiname or the caption changed
+    void schritteGeaendert();  // there is another step to take back or to do again
 
   private:
+    void setze(const Eingabestand& stand);
+
     bool gesichert_ = true;
     QString titel_;
+    Schrittfolge schritte_;
     Projektliste projekteGelesen_;  // as they were in the file
     std::optional<Dateifehler> einstellungsfehler_;
     std::unique_ptr<QPrinter> drucker_;
+};
+
+// A step of undo for as long as it lives: the visit of a window.
+class Schritt {
+  public:
+    Schritt(Programm& programm, const QString& name) : programm_(programm) { programm.beginneSchritt(name); }
+    ~Schritt() { programm_.beendeSchritt(); }
+    Schritt(const Schritt&) = delete;
+    Schritt& operator=(const Schritt&) = delete;
+
+  private:
+    Programm& programm_;
 };
 
 // Makes the icons and files delivered inside the program available; may be called more than once.

@@ -88,9 +88,7 @@ Dateiablauf::Ausgang Dateiablauf::frage(Dateiaktion aktion) {
 }
 
 // A refused text in the main window counts as a save that failed.
-bool Dateiablauf::nichtsAbgelehnt() {
-    return fenster_ == nullptr || eingabenGueltig(*fenster_, meldungen_);
-}
+bool Dateiablauf::nichtsAbgelehnt() { return fenster_ == nullptr || eingabenGueltig(*fenster_, meldungen_); }
 
 Dateiablauf::Ausgang Dateiablauf::sicherungsschritt() {
     if (!nichtsAbgelehnt()) return Ausgang::fehlgeschlagen;
@@ -216,6 +214,7 @@ bool Dateiablauf::lade(const QString& datei) {
     Q_EMIT programm_.ersetzt();
     programm_.zuweisen();
     merkeDateistand();
+    programm_.leereSchritte();
     if (benutzt && !lesung.fehler) benutzt(datei);
     return true;
 }
@@ -229,6 +228,7 @@ void Dateiablauf::setzeNeu() {
     programm_.Sperre = false;
     Q_EMIT programm_.ersetzt();
     programm_.zuweisen();
+    programm_.leereSchritte();
     programm_.setzeTitel(QStringLiteral("Neue Datei"));
     programm_.Dateiname.clear();
     programm_.Dateistand.reset();

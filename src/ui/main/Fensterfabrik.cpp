@@ -30,46 +30,40 @@ bool zeige(Programm& programm, Meldungen& meldungen, QWidget* fenster) {
     return Fensterklasse(programm, meldungen, fenster).exec() == QDialog::Accepted;
 }
 
+struct Eintrag {
+    Fensterart art;
+    bool (*zeige)(Programm&, Meldungen&, QWidget*);
+    const char* schritt;  // what a change in it is called in "Rückgängig: ..."
+};
+
+constexpr Eintrag eintraege[] = {
+    {Fensterart::rippen, zeige<Form2>, "Rippen"},
+    {Fensterart::beplankung, zeige<Form4>, "Beplankung"},
+    {Fensterart::verbindungsmittel, zeige<Form5>, "Verbindungsmittel"},
+    {Fensterart::verankerung, zeige<Form7>, "Verankerung"},
+    {Fensterart::belastung, zeige<Form9>, "Belastung"},
+    {Fensterart::bemessung, zeige<Form12>, "Bemessungsoptionen"},
+    {Fensterart::projektdaten, zeige<Form15>, "Projektdaten"},
+    {Fensterart::bemerkungen, zeige<Form222>, "Bemerkungen"},
+    {Fensterart::eigeneMaterialien, zeige<Form99>, "Eigene Materialien"},
+    {Fensterart::rechner, zeige<Form3>, "Taschenrechner"},
+    {Fensterart::kalender, zeige<Form60>, "Kalender"},
+    {Fensterart::systemkonfiguration, zeige<Form13>, "Systemkonfiguration"},
+    {Fensterart::randbedingungen, zeige<Form10>, "Randbedingungen"},
+    {Fensterart::ueberstaende, zeige<Form11>, "Überstände"},
+    {Fensterart::seitenkopf, zeige<Form8>, "Seitenkopf"},
+    {Fensterart::druck, zeige<Form6>, "Druck"},
+    {Fensterart::ergebnisse, zeige<Form23>, "Ergebnisse"},
+    {Fensterart::ueber, zeige<Ueber>, "Über"},
+};
+
 }  // namespace
 
 bool Fensterfabrik::oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) {
-    switch (art) {
-        case Fensterart::rippen:
-            return zeige<Form2>(programm, meldungen, fenster);
-        case Fensterart::beplankung:
-            return zeige<Form4>(programm, meldungen, fenster);
-        case Fensterart::verbindungsmittel:
-            return zeige<Form5>(programm, meldungen, fenster);
-        case Fensterart::verankerung:
-            return zeige<Form7>(programm, meldungen, fenster);
-        case Fensterart::belastung:
-            return zeige<Form9>(programm, meldungen, fenster);
-        case Fensterart::bemessung:
-            return zeige<Form12>(programm, meldungen, fenster);
-        case Fensterart::projektdaten:
-            return zeige<Form15>(programm, meldungen, fenster);
-        case Fensterart::bemerkungen:
-            return zeige<Form222>(programm, meldungen, fenster);
-        case Fensterart::eigeneMaterialien:
-            return zeige<Form99>(programm, meldungen, fenster);
-        case Fensterart::rechner:
-            return zeige<Form3>(programm, meldungen, fenster);
-        case Fensterart::kalender:
-            return zeige<Form60>(programm, meldungen, fenster);
-        case Fensterart::systemkonfiguration:
-            return zeige<Form13>(programm, meldungen, fenster);
-        case Fensterart::randbedingungen:
-            return zeige<Form10>(programm, meldungen, fenster);
-        case Fensterart::ueberstaende:
-            return zeige<Form11>(programm, meldungen, fenster);
-        case Fensterart::seitenkopf:
-            return zeige<Form8>(programm, meldungen, fenster);
-        case Fensterart::druck:
-            return zeige<Form6>(programm, meldungen, fenster);
-        case Fensterart::ergebnisse:
-            return zeige<Form23>(programm, meldungen, fenster);
-        case Fensterart::ueber:
-            return zeige<Ueber>(programm, meldungen, fenster);
+    for (const Eintrag& eintrag : eintraege) {
+        if (eintrag.art != art) continue;
+        const Schritt schritt(programm, qtext(eintrag.schritt));
+        return eintrag.zeige(programm, meldungen, fenster);
     }
     return false;
 }

@@ -2,22 +2,25 @@
 
 #include <QMainWindow>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/main/Dateiablauf.h"
+#include "ui/main/Menuetabelle.h"
 #include "ui/main/Sicherungskopie.h"
 
 class QGroupBox;
 class QPushButton;
-class QVBoxLayout;
 
 namespace rippenscheibe {
 
+class Eingabezeile;
 class Hinweisliste;
-class Kurzzeile;
+class Urteilsanzeige;
 class Werteingabe;
 class Zeichnungsansicht;
+class ZuletztMenue;
 
 // The application window: the three basic dimensions, the buttons that open the input dialogs, the live
 // drawing of the wall, the findings and the two start buttons.
@@ -43,32 +46,60 @@ class Form1 : public QMainWindow {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
-    struct Zeile {
-        Kurzzeile* schild;
-        QString (*text)(const Wand&);
+    // One of the three fields.
+    struct Massfeld {
+        Werteingabe* eingabe;
+        double Grundmasse::*mass;
+        QString schritt;
+    };
+    // What opens an input dialog: a row of the left column and an entry of the menu.
+    struct Eingabeeintrag {
+        QString name;
+        QString text;
+        Fensterart art;
+        QString (*zusammenfassung)(const Wand&);
+        QString symbol;
+        QKeySequence taste;
+        QString menuename;
+        QString menuetext;
+    };
+    struct Symboltraeger {
+        std::function<void(const QIcon&)> setze;
+        QString name;
     };
 
+    static const std::vector<Eingabeeintrag>& eingabeeintraege();
+
     void baueMenue();
-    void baueWerkzeugleiste();
+    Menue dateimenue();
+    Menue bearbeitenmenue();
+    Menue projektmenue();
+    Menue bemerkungenmenue();
+    Menue optionenmenue();
+    Menue extrasmenue();
+    Menue hilfemenue();
     void baueStatuszeile();
     QWidget* baueLinkeSpalte();
     QWidget* baueRechteSpalte();
     QGroupBox* baueAbmessungen();
     QGroupBox* baueEingabe();
-    QAction* befehl(QMenu* menue, const QString& name, const QString& text,
-                    const std::function<void()>& ausfuehren);
+    QGroupBox* baueHinweise();
     void setzeFarben();
+    void stelleGroesseHer();
 
     void zeige();
     void zeigeTitel();
     void zeigeHinweise();
-    void uebernimmFeld(double Grundmasse::*feld, double wert);
+    void zeigeHinweisstand();
+    void zeigeSchritte();
+    void uebernimmFeld(const Massfeld& feld, double wert);
+    void beendeFeldbesuch();
     bool oeffneFenster(Fensterart art);
+    void oeffneErgebnis(int abschnitt);
     void oeffneZu(const QString& hinweis);
+    void oeffneMass(double Grundmasse::*mass);
     void beende();
     void starteProjektmanager();
-    void merkeDatei(const QString& datei);
-    void fuelleZuletzt();
     QString einstellungsdateiname() const;
 
     Programm& programm_;
@@ -76,18 +107,16 @@ class Form1 : public QMainWindow {
     Dateiablauf ablauf_;
     Sicherungskopie sicherung_;
 
-    struct Symboltraeger {
-        std::function<void(const QIcon&)> setze;
-        QString name;
-    };
-
-    std::vector<std::pair<Werteingabe*, double Grundmasse::*>> felder_;
-    std::vector<Zeile> zeilen_;
+    std::vector<Massfeld> felder_;
+    std::vector<std::pair<Eingabezeile*, QString (*)(const Wand&)>> zeilen_;
     std::vector<Symboltraeger> symbole_;
     Zeichnungsansicht* ansicht_ = nullptr;
+    Urteilsanzeige* urteil_ = nullptr;
     Hinweisliste* hinweise_ = nullptr;
     QPushButton* einsehen_ = nullptr;
-    QMenu* zuletzt_ = nullptr;
+    ZuletztMenue* zuletzt_ = nullptr;
+    std::optional<Eingabestand> geprueft_;  // what the list of findings belongs to
+    bool feldbesuch_ = false;               // a field is being edited
     bool endeBestaetigt_ = false;
 };
 

@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -158,6 +159,9 @@ void Form23::lade() {
     }
     text_->setReadOnly(true);
     text_->moveCursor(QTextCursor::Start);
+    if (programm_.Ergebnisziel)  // once the window has its size
+        QTimer::singleShot(0, this,
+                           [this, ziel = *programm_.Ergebnisziel] { zeigeZeile(abschnitte_, ziel - 1); });
 }
 
 void Form23::speichere() {

@@ -3,6 +3,7 @@
 #include "support/Gerechnet.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/main/Form1_Hauptfenster.h"
+#include "ui/main/Hinweisliste.h"
 
 namespace rippenscheibe {
 namespace {
@@ -234,6 +235,7 @@ TEST_F(Hauptfenster, NothingStartsOrIsSavedWhileARefusedTextStands) {
 
 TEST_F(Hauptfenster, EnterMovesOnAndNeverStartsARun) {
     programm.w.Hinweise = {"unberührt"};
+    QTest::keyClick(&fenster, Qt::Key_P, Qt::ControlModifier);
     QWidget* feld = &wert(fenster, "Textbox1(0)");
     feld->setFocus();
     for (const char* naechstes : {"Textbox1(1)", "Textbox1(2)", "Command5"}) {
@@ -246,6 +248,87 @@ TEST_F(Hauptfenster, EnterMovesOnAndNeverStartsARun) {
     }
     EXPECT_EQ(programm.w.Hinweise, Texte{"unberührt"});
     EXPECT_TRUE(meldungen.gezeigt.empty());
+}
+
+// F5 was such a key once: it opens the anchorage now.
+TEST_F(Hauptfenster, TheFunctionKeysOpenTheSixInputs) {
+    const std::pair<Qt::Key, const char*> fensternamen[] = {{Qt::Key_F2, "Form2"}, {Qt::Key_F3, "Form4"},
+                                                            {Qt::Key_F4, "Form5"}, {Qt::Key_F5, "Form7"},
+                                                            {Qt::Key_F6, "Form9"}, {Qt::Key_F7, "Form12"}};
+    for (const auto& [taste, name] : fensternamen) {
+        QString gesehen;
+        QApplication::setActiveWindow(&fenster);
+        mitFenster([&, t = taste] { QTest::keyClick(&fenster, t); },
+                   [&](QWidget& form) { gesehen = form.objectName(); });
+        EXPECT_EQ(gesehen, QLatin1String(name));
+    }
+}
+
+TEST_F(Hauptfenster, FindingsAreThoseOfTheLastCheck) {
+    auto& liste = finde<Hinweisliste>("List1");
+    using Stand = Hinweisliste::Stand;
+    EXPECT_EQ(liste.stand(), Stand::ungeprueft);
+    tippe(fenster, "Textbox1(2)", "1,25");  // 50 t is 0.75 m
+    klicke(fenster, "ComErgEin2");
+    EXPECT_EQ(liste.stand(), Stand::aktuell);
+    ASSERT_EQ(liste.count(), 1);
+    liste.setFocus();
+    liste.setCurrentRow(0);
+    QTest::keyClick(&liste, Qt::Key_Return);
+    EXPECT_EQ(fenster.focusWidget()->objectName(), QStringLiteral("Textbox1(2)"));
+    tippe(fenster, "Textbox1(2)", "1,0");
+    EXPECT_EQ(liste.stand(), Stand::veraltet);
+    EXPECT_TRUE(liste.standzeile()->isVisible());
+}
+
+TEST_F(Hauptfenster, OneVisitIsOneStepOfUndo) {
+    const auto text = [this](const char* name) { return finde<QAction>(name).text(); };
+    EXPECT_FALSE(finde<QAction>("mnuRueckgaengig").isEnabled());
+    tippe(fenster, "Textbox1(0)", "7,25");
+    wert(fenster, "Textbox1(1)").setFocus();
+    mitFenster([this] { klicke(fenster, "Command2"); },
+               [](QWidget& form) {
+                   tippe(form, "Textbox1(4)", "75");
+                   klicke(form, "ComEnde");
+               });
+    mitFenster([this] { klicke(fenster, "Command4"); },
+               [](QWidget& form) { tippe(form, "Textbox1(0)", "9"); });  // and Abbruch: no step
+    EXPECT_EQ(text("mnuRueckgaengig"), QStringLiteral("R&ückgängig: Verbindungsmittel"));
+    programm.setzeGesichert(true);
+    loese("mnuRueckgaengig");
+    EXPECT_FALSE(programm.Gesichert());
+    EXPECT_EQ(programm.w.av[Seite::eins], 60);
+    EXPECT_EQ(text("mnuRueckgaengig"), QStringLiteral("R&ückgängig: Wandlänge"));
+    loese("mnuRueckgaengig");
+    EXPECT_EQ(wert(fenster, "Textbox1(0)").text(), QStringLiteral("5,000"));
+    EXPECT_FALSE(finde<QAction>("mnuRueckgaengig").isEnabled());
+    loese("mnuWiederholen");
+    EXPECT_EQ(programm.w.Wandlaenge, 7.25);
+    EXPECT_EQ(text("mnuWiederholen"), QStringLiteral("&Wiederholen: Verbindungsmittel"));
+
+    // Still in the field: what was typed so far is the step.
+    QApplication::setActiveWindow(&fenster);
+    tippe(fenster, "Textbox1(1)", "3,1");
+    QTest::keyClick(&wert(fenster, "Textbox1(1)"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(programm.w.Wandhoehe, 2.5);
+    EXPECT_EQ(wert(fenster, "Textbox1(1)").text(), QStringLiteral("2,500"));
+    EXPECT_EQ(text("mnuRueckgaengig"), QStringLiteral("R&ückgängig: Wandlänge"));
+
+    // A refused accept keeps what it wrote; with Abbruch behind it, it is a step.
+    mitFenster([this] { klicke(fenster, "Command1"); },
+               [](QWidget& form) {
+                   waehle(form, "MaterialBox", 2);
+                   klicke(form, "Option3(1)");  // unfit for service class 2
+                   klicke(form, "ComEnde");
+                   EXPECT_TRUE(form.isVisible());
+                   klicke(form, "Command1");
+               });
+    EXPECT_EQ(text("mnuRueckgaengig"), QStringLiteral("R&ückgängig: Beplankung"));
+
+    meldungen.antworten = {Antwort::nein};
+    meldungen.dateien = {gespeicherte("a.rsw", 5)};
+    loese("mnuFOpen");
+    EXPECT_FALSE(finde<QAction>("mnuRueckgaengig").isEnabled());
 }
 
 TEST_F(Hauptfenster, SummariesFollowTheRecord) {

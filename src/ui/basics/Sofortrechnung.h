@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "run/Urteil.h"
+#include "run/Zuweisen.h"
+
+// What a start button would say of a position now, without pressing it.
+
+namespace rippenscheibe {
+
+struct Sofortergebnis {
+    QStringList hinweise;  // findings; there is no run then
+    Urteil urteil;
+    int ueberschritten = 0;                    // proofs above 1
+    std::vector<Abschnittsurteil> abschnitte;  // empty without a run
+    QStringList luecken;                       // demands without a proof, as sentences
+    // What a run after program start says, where it says something else.
+    std::optional<QString> frisch;
+};
+
+// Check and run on a copy of the record, with the results that stand in it; beside it a run from results as
+// after program start. The record is not touched.
+Sofortergebnis rechneSofort(const Wand& w, const Grundmasse& felder);
+
+// A run of this record from results as after program start; they stand in it afterwards.
+Sofortergebnis rechneFrischFuer(Wand& w, const Grundmasse& felder);
+
+// "✓ Alle Nachweise erfüllt", "✗ 2 Nachweise überschritten", "! 3 Hinweise, keine Berechnung".
+QString urteilstext(const Sofortergebnis& ergebnis);
+// "maßgebend 0,61 · 5.1 Scheibenschub parallel"; empty without a run.
+QString massgebendtext(const Urteil& urteil);
+// Two decimals; above 1 as many as tell the value from 1.
+QString etatext(double eta);
+
+}  // namespace rippenscheibe

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "ui/basics/Ausnutzungsbalken.h"
+#include "ui/basics/Sofortrechnung.h"
+
+class QLabel;
+class QStackedLayout;
+
+namespace rippenscheibe {
+
+class Kurzzeile;
+
+// The verdict as a slim line, for the foot of a dialog. What does not fit stands in its tool tip.
+class Urteilszeile : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit Urteilszeile(QWidget* parent = nullptr);
+
+    void zeige(const Sofortergebnis& ergebnis);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString urteil_;
+    QString rest_;
+    Balkenurteil art_ = Balkenurteil::ohneBedarf;
+};
+
+// The live verdict of the main window: verdict, decisive proof, what a fresh run says otherwise, and one bar
+// a section of the proofs, or the first findings. Old values stay until the new ones are there.
+class Urteilsanzeige : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit Urteilsanzeige(QWidget* parent = nullptr);
+
+    void zeige(const Sofortergebnis& ergebnis);
+
+  Q_SIGNALS:
+    void abschnittGewaehlt(int abschnitt);  // 5.x
+    void hinweisGewaehlt(const QString& hinweis);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    static constexpr int abschnitte = 8;
+    static constexpr int gezeigteHinweise = 2;
+
+    QWidget* baueBalken();
+    QWidget* baueHinweise();
+    void zeigeBalken();
+    void zeigeHinweise();
+    void faerbe();
+
+    Sofortergebnis ergebnis_;
+    Kurzzeile* urteil_;
+    Kurzzeile* massgebend_;
+    Kurzzeile* frisch_ = nullptr;
+    Kurzzeile* luecke_;
+    QStackedLayout* seiten_;
+    std::vector<Ausnutzungsbalken*> balken_;
+    std::vector<QAbstractButton*> hinweise_;
+    QLabel* weitere_;
+};
+
+}  // namespace rippenscheibe
