@@ -159,9 +159,11 @@ void Form23::lade() {
     }
     text_->setReadOnly(true);
     text_->moveCursor(QTextCursor::Start);
-    if (programm_.Ergebnisziel)  // once the window has its size
-        QTimer::singleShot(0, this,
-                           [this, ziel = *programm_.Ergebnisziel] { zeigeZeile(abschnitte_, ziel - 1); });
+    if (!programm_.Ergebnisziel) return;
+    const int ziel = *programm_.Ergebnisziel - 1;
+    zeigeZeile(abschnitte_, ziel);
+    // Once more when the window has its size.
+    QTimer::singleShot(0, this, [this, ziel] { zeigeZeile(abschnitte_, ziel); });
 }
 
 void Form23::speichere() {
