@@ -113,7 +113,9 @@ Menue Form1::extrasmenue() {
          {qtext("mnuMaterialien"), qtext("&Eigene Materialien ..."),
           [this] { oeffneFenster(Fensterart::eigeneMaterialien); }},
          {qtext("mnuSysConfig"), qtext("&Systemkonfiguration"),
-          [this] { oeffneFenster(Fensterart::systemkonfiguration); }}}};
+          [this] { oeffneFenster(Fensterart::systemkonfiguration); }},
+         trenner,
+         {qtext("mnuVerwerfen"), qtext("Ergebnisse &verwerfen"), [this] { programm_.verwirfErgebnisse(); }}}};
 }
 
 Menue Form1::hilfemenue() {

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "model/Feldangaben.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Urteilsanzeige.h"
@@ -29,6 +30,7 @@ namespace {
 
 constexpr int raster = 8;
 constexpr int schmalsteSpalte = 340;  // px
+constexpr double mmJeM = 1000;
 
 }  // namespace
 
@@ -107,14 +109,16 @@ QWidget* Form1::baueLinkeSpalte() {
 QGroupBox* Form1::baueAbmessungen() {
     struct Masszeile {
         QString text;
-        double max;  // m
+        std::string_view feld;
+        double teiler;  // mm a metre where the record holds mm
         double Grundmasse::*mass;
         QString schritt;  // what a change is called in "Rückgängig: ..."
     };
     const std::vector<Masszeile> zeilen{
-        {QStringLiteral("Wandlänge l ="), 100, &Grundmasse::Wandlaenge, QStringLiteral("Wandlänge")},
-        {QStringLiteral("Wandhöhe h ="), 100, &Grundmasse::Wandhoehe, QStringLiteral("Wandhöhe")},
-        {QStringLiteral("Abstand Rippen ar ="), 5, &Grundmasse::Rippenabstand,
+        {QStringLiteral("Wandlänge l ="), "Wandlaenge", 1, &Grundmasse::Wandlaenge,
+         QStringLiteral("Wandlänge")},
+        {QStringLiteral("Wandhöhe h ="), "Wandhoehe", 1, &Grundmasse::Wandhoehe, QStringLiteral("Wandhöhe")},
+        {QStringLiteral("Abstand Rippen ar ="), "Rippenabstand", mmJeM, &Grundmasse::Rippenabstand,
          QStringLiteral("Rippenabstand")}};
     auto* rahmen = new QGroupBox(QStringLiteral("Abmessungen"), this);
     auto* grid = new QGridLayout(rahmen);
@@ -123,10 +127,10 @@ QGroupBox* Form1::baueAbmessungen() {
     grid->setColumnStretch(2, 1);
     int index = 0;
     for (const Masszeile& zeile : zeilen) {
-        auto* wert = new Werteingabe(
-            QStringLiteral("Textbox1(%1)").arg(index),
-            {.beschriftung = zeile.text, .einheit = QStringLiteral("m"), .min = 0.2, .max = zeile.max},
-            rahmen);
+        const Wertschild schild{QStringLiteral("Textbox1(%1)").arg(index), zeile.text, QStringLiteral("m"),
+                                zeile.teiler};
+        auto* wert =
+            new Werteingabe(schild.name, wertvorgabe(eingabeangabe(zeile.feld).value(), schild), rahmen);
         wert->setzeInZeile(grid, index++);
         wert->installEventFilter(this);
         felder_.push_back({wert, zeile.mass, zeile.schritt});
