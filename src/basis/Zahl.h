@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 #include "basis/Herkunft.h"
 
@@ -69,9 +70,10 @@ inline Zahl pow(Zahl x, Zahl y) {
 }
 // The largest whole number not above x.
 inline Zahl Int(Zahl x) { return std::floor(x.value()); }
-// x times 10^stellen, rounded half to even, divided by 10^stellen.
+// x times 10^stellen, rounded half to even, divided by 10^stellen; 0 to 22 places.
 inline Zahl Round(Zahl x, int stellen) {
-    const double faktor = std::pow(10.0, stellen);
+    double faktor = 1;  // powers of ten up to 10^22 are exact
+    for (int i = 0; i < stellen; ++i) faktor *= 10;
     return Zahl(std::nearbyint((x * faktor).value())) / faktor;
 }
 
@@ -159,11 +161,27 @@ class Rippenfeld {
 
     Stelle operator()(Zahl i) { return Stelle(enthaelt(i) ? &werte_[index(i)] : nullptr); }
     Zahl operator()(Zahl i) const { return enthaelt(i) ? Zahl(werte_[index(i)]) : Zahl::fehlgeschlagen(); }
+    // The same by a whole number, as the loops over the ribs count: there is nothing to round.
+    template <std::integral I>
+    Stelle operator()(I i) {
+        return Stelle(enthaelt(i) ? &werte_[static_cast<std::size_t>(i)] : nullptr);
+    }
+    template <std::integral I>
+    Zahl operator()(I i) const {
+        return enthaelt(i) ? Zahl(werte_[static_cast<std::size_t>(i)]) : Zahl::fehlgeschlagen();
+    }
+
+    // Sets every element to 0.
+    void leere() { werte_.fill(0.0); }
 
   private:
     static bool enthaelt(Zahl i) {
         const double ganz = std::nearbyint(i.value());
         return ganz >= 0.0 && ganz < static_cast<double>(laenge);
+    }
+    template <std::integral I>
+    static bool enthaelt(I i) {
+        return std::in_range<std::size_t>(i) && static_cast<std::size_t>(i) < laenge;
     }
     static std::size_t index(Zahl i) { return static_cast<std::size_t>(std::nearbyint(i.value())); }
 

@@ -36,10 +36,8 @@ void momente(Wand& w, int erste, Zahl letzte, const auto& hebel) {
 
 // Sum of the moments about the support at the compressed edge.
 void zugkraftGenau(Wand& w) {
-    for (std::size_t i = 0; i < Rippenfeld::laenge; ++i) {
-        w.MStab(i) = 0;
-        w.MDst(i) = 0;
-    }
+    w.MStab.leere();
+    w.MDst.leere();
     const Zahl n = w.AnzahlRippen;
     const Zahl a = w.Rippenabstand / 1000;
     const Zahl rest = w.RippenabstandRest / 1000;

@@ -292,6 +292,10 @@ class Rippenfeld {
     Stelle operator()(Zahl i) { return Stelle(this, std::nearbyint(i.value())); }
     Zahl operator()(Zahl i) const { return lies(std::nearbyint(i.value())); }
 
+    void leere() {
+        for (std::size_t i = 0; i < laenge; ++i) weiseZu(static_cast<double>(i), 0);
+    }
+
     void setze(std::size_t i, double wert) { werte_[i] = wert; }
     void setze(Ort feld) { feld_ = feld; }
 
