@@ -226,7 +226,10 @@ void Fenster::bringeAufDenSchirm() {
     ensurePolished();
     layout()->activate();
     bedarf_ = flaeche_->minimumSizeHint();
-    const QSize gewuenscht = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    QSize gewuenscht = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    // The bar that scrolls the rest takes its own width, not that of the content.
+    if (gewuenscht.height() > platz().height())
+        gewuenscht.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     eigeneGroesse_ = gewuenscht.boundedTo(platz());
     resize(merker.value(schluesselGroesse, eigeneGroesse_).toSize().boundedTo(platz()));
     const QPoint ort = merker.value(schluesselOrt).toPoint();
