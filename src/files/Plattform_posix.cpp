@@ -124,9 +124,10 @@ bool uebertrageAttribute(const fs::path& alt, int neu, bool gruppeBehalten) {
     const ssize_t laenge = ::listxattr(alt.c_str(), namen.data(), namen.size());
     if (laenge <= 0) return true;  // none, or a file system without attributes
     bool behalten = true;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(laenge); ++i) {
-        const std::string name = namen.c_str() + i;
-        i += name.size();
+    for (std::size_t i = 0; i < static_cast<std::size_t>(laenge);) {
+        const std::size_t ende = namen.find('\0', i);
+        const std::string name = namen.substr(i, ende - i);
+        i = ende + 1;
         const bool liste = name == zugriffsliste;
         if (!liste && !name.starts_with("user.")) continue;
         std::optional<std::string> wert = attribut(alt, name);
