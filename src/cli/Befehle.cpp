@@ -313,6 +313,12 @@ Rueckgabe fuehreAus(const Auftrag& auftrag, const fs::path& programmordner, cons
         case Befehl::herleite:
             return arbeit.herleite();
         case Befehl::stapel:
+        case Befehl::variiere:
+        case Befehl::legeAus:
+        case Befehl::hilft:
+        case Befehl::tafel:
+        case Befehl::stueckliste:
+        case Befehl::lastfaelle:
             return arbeit.studie();
     }
     return Rueckgabe::aufruf;

@@ -17,6 +17,9 @@ struct Ausgaben {
     // once (false when nobody reads it any more).
     std::function<std::size_t(char*, std::size_t)> lies{};
     std::function<bool(std::string_view)> strom{};
+    // Whether the user asked a long computation to end, and how far it is; empty where nobody watches.
+    std::function<bool()> abgebrochen{};
+    std::function<void(std::string_view)> fortschritt{};
 };
 
 // Carries a command out. `programmordner` is where the own materials lie when the command names none.

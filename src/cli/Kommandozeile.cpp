@@ -237,7 +237,7 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
         {[&](const std::string& name, const std::string& erklaerung, int welcher) -> CLI::App& {
              return befehl(name, erklaerung, static_cast<Befehl>(welcher));
          },
-         [&](CLI::App& verb) { fuegeDateienHinzu(verb, auftrag.dateien, true); },
+         [&](CLI::App& verb, bool mehrere) { fuegeDateienHinzu(verb, auftrag.dateien, mehrere); },
          [&](CLI::App& verb) {
              fuegeDateiHinzu(
                  verb, "--vorlage", auftrag.vorlage,

@@ -17,7 +17,21 @@ namespace rippenscheibe {
 // What the program tells its caller; with several files the highest.
 enum class Rueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
 
-enum class Befehl { rechne, pruefe, neu, uebertrage, felder, herleite, stapel };
+enum class Befehl {
+    rechne,
+    pruefe,
+    neu,
+    uebertrage,
+    felder,
+    herleite,
+    stapel,
+    variiere,
+    legeAus,
+    hilft,
+    tafel,
+    stueckliste,
+    lastfaelle
+};
 enum class Ausgabeart { text, rtf, json };
 enum class Zustand { jeDatei, gemeinsam };  // a fresh position for each file, or one for all
 

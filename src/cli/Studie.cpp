@@ -1,122 +1,97 @@
 #include "cli/Studie.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <thread>
 #include <utility>
 
 #include "cli/Befehle.h"
+#include "files/Dateischreiber.h"
+#include "files/Pfad.h"
+#include "study/Lastfaelle.h"
+#include "study/Tafel.h"
+#include "study/Variation.h"
+#include "study/WasHilft.h"
 
 namespace rippenscheibe {
 
 namespace {
 
-template <class T>
-struct Wort {
-    std::string_view wort;
-    T wert;
+// Why a verb ends early: what is told, and the code.
+struct Abbruch {
+    std::string satz;
+    Rueckgabe rueckgabe = Rueckgabe::aufruf;
 };
 
-// An option of which one word is chosen.
-template <class T, std::size_t N>
-void fuegeWahlHinzu(CLI::App& befehl, const std::string& option, const std::array<Wort<T>, N>& woerter,
-                    T& ziel, const std::string& erklaerung) {
-    std::string erlaubt;
-    for (const Wort<T>& wort : woerter) erlaubt.append(erlaubt.empty() ? "" : "|").append(wort.wort);
-    befehl
-        .add_option_function<std::string>(
-            option,
-            [woerter, &ziel, option, erlaubt](const std::string& wert) {
-                const auto treffer = std::find_if(woerter.begin(), woerter.end(),
-                                                  [&](const Wort<T>& w) { return w.wort == wert; });
-                if (treffer == woerter.end())
-                    throw CLI::ValidationError(option, "\"" + wert + "\" geht nicht, möglich: " + erlaubt);
-                ziel = treffer->wert;
-            },
-            erklaerung)
-        ->option_text(erlaubt);
+// Asks whether the user wants an end, as long as a computation runs.
+class Wache {
+  public:
+    explicit Wache(const std::function<bool()>& abgebrochen) {
+        if (!abgebrochen) return;
+        faden_ = std::jthread([this, abgebrochen](const std::stop_token& schluss) {
+            while (!schluss.stop_requested()) {
+                if (abgebrochen()) halt_.request_stop();
+                std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            }
+        });
+    }
+    std::stop_token halt() const { return halt_.get_token(); }
+
+  private:
+    std::stop_source halt_;
+    std::jthread faden_;
+};
+
+std::string mitKomma(double wert) {
+    std::string text = zahltext(wert);
+    std::replace(text.begin(), text.end(), '.', ',');
+    return text;
 }
 
-// A number of at least `mindestens`.
-template <class T>
-void fuegeZahlHinzu(CLI::App& befehl, const std::string& option, T mindestens, const std::string& erlaubt,
-                    std::function<void(T)> setze, const std::string& erklaerung) {
-    befehl
-        .add_option_function<std::string>(
-            option,
-            [=](const std::string& wert) {
-                T zahl{};
-                const char* const ende = wert.data() + wert.size();
-                const auto [stelle, fehler] = std::from_chars(wert.data(), ende, zahl);
-                if (fehler != std::errc{} || stelle != ende || !(zahl >= mindestens))
-                    throw CLI::ValidationError(option, "\"" + wert + "\" geht nicht, möglich: " + erlaubt);
-                setze(zahl);
-            },
-            erklaerung)
-        ->option_text("N");
-}
-
-// Names between commas.
-void fuegeNamenHinzu(CLI::App& befehl, const std::string& option, std::vector<std::string>& ziel,
-                     const std::string& erklaerung) {
-    befehl
-        .add_option_function<std::string>(
-            option, [&ziel](const std::string& wert) { ziel = CLI::detail::split(wert, ','); }, erklaerung)
-        ->option_text("NAME,...");
-}
-
-constexpr std::array<Wort<Grenzen>, 2> grenzwahl{{{"an", Grenzen::beachten}, {"aus", Grenzen::uebergehen}}};
-constexpr std::array<Wort<Zeilenform>, 2> zeilenformen{
-    {{"json", Zeilenform::json}, {"csv", Zeilenform::csv}}};
-constexpr std::array<Wort<char>, 3> trenner{{{"semikolon", ';'}, {"komma", ','}, {"tab", '\t'}}};
-constexpr std::array<Wort<char>, 2> dezimalzeichen{{{"punkt", '.'}, {"komma", ','}}};
-constexpr std::array<Wort<Studienausgabe>, 2> stapelausgaben{
-    {{"json", Studienausgabe::json}, {"csv", Studienausgabe::csv}}};
-
-void fuegeCsvHinzu(CLI::App& befehl, Studienauftrag& auftrag) {
-    fuegeWahlHinzu(befehl, "--trenner", trenner, auftrag.csv.trenner,
-                   "Trennzeichen der CSV-Zeilen (sonst semikolon)");
-    fuegeWahlHinzu(befehl, "--dezimal", dezimalzeichen, auftrag.csv.dezimal,
-                   "Dezimalzeichen der CSV-Zeilen (sonst punkt)");
-}
-
-void fuegeFaedenHinzu(CLI::App& befehl, Studienauftrag& auftrag) {
-    fuegeZahlHinzu<int>(
-        befehl, "--faeden", 1, "eine ganze Zahl ab 1", [&](int zahl) { auftrag.faeden = zahl; },
-        "so viele Kerne nutzen (sonst alle); das Ergebnis hängt nicht davon ab");
-}
-
-void fuegeStapelHinzu(const Studienverben& verben, Studienauftrag& auftrag) {
-    CLI::App& stapel = verben.befehl("stapel", "rechnet JSON-Zeilen von der Standardeingabe",
-                                     static_cast<int>(Befehl::stapel));
-    verben.vorlage(stapel);
-    fuegeNamenHinzu(stapel, "--felder", auftrag.felder, "Eingaben und Ergebnisse, die jede Antwort enthält");
-    verben.material(stapel);
-    verben.laeufe(stapel);
-    fuegeWahlHinzu(stapel, "--grenzen", grenzwahl, auftrag.grenzen,
-                   "aus: auch Werte, die kein Dialog annimmt");
-    fuegeWahlHinzu(stapel, "--eingabe", zeilenformen, auftrag.eingabe, "Form der Zeilen (sonst json)");
-    auftrag.ausgabe = Studienausgabe::json;
-    fuegeWahlHinzu(stapel, "--ausgabe", stapelausgaben, auftrag.ausgabe, "Form der Antworten (sonst json)");
-    fuegeCsvHinzu(stapel, auftrag);
-    fuegeFaedenHinzu(stapel, auftrag);
-    stapel.add_flag("--streng", auftrag.streng, "Rückgabewert 1 und 2 wie bei rechne");
-    stapel.add_flag("--schema", auftrag.schema, "gibt das JSON-Schema einer Zeile aus");
-}
+std::string_view feldname(int feld) { return eingabefelder()[static_cast<std::size_t>(feld)].angabe.name; }
 
 // Carries one verb out.
 class Studie {
   public:
-    explicit Studie(const Studienumgebung& umgebung) : u_(umgebung), auftrag_(umgebung.auftrag.studie) {}
+    explicit Studie(const Studienumgebung& umgebung)
+        : u_(umgebung),
+          auftrag_(umgebung.auftrag.studie),
+          wache_(umgebung.auftrag.befehl == Befehl::stapel ? std::function<bool()>{}
+                                                           : umgebung.ausgaben.abgebrochen) {}
 
+    Rueckgabe fuehreAus() {
+        try {
+            switch (u_.auftrag.befehl) {
+                case Befehl::stapel:
+                    return stapel();
+                case Befehl::variiere:
+                    return variiere();
+                case Befehl::legeAus:
+                    return legeAus();
+                case Befehl::hilft:
+                    return hilft();
+                case Befehl::tafel:
+                    return tafel();
+                case Befehl::stueckliste:
+                    return stueckliste();
+                default:
+                    return lastfaelle();
+            }
+        } catch (const Abbruch& abbruch) {
+            u_.ausgaben.meldungen(abbruch.satz + "\n");
+            return abbruch.rueckgabe;
+        }
+    }
+
+  private:
     Rueckgabe stapel() {
         if (auftrag_.schema) {
             u_.gibAus(stapelschema());
             return Rueckgabe::erfuellt;
         }
-        if (const std::string fremd = fremdesFeld(auftrag_.felder); !fremd.empty())
-            return weiseZurueck("Unbekanntes Feld: " + fremd + "\nAlle Felder: rippenscheibe-cli felder");
+        pruefeFelder();
         Stapelauftrag stapelauftrag;
         if (!u_.vorlagen.empty()) stapelauftrag.vorlage = u_.vorlagen.front().eingaben;
         stapelauftrag.materialien = u_.materialien;
@@ -134,27 +109,382 @@ class Studie {
         return ergebnis.nichtErfuellt > 0 ? Rueckgabe::nichtErfuellt : Rueckgabe::erfuellt;
     }
 
-  private:
+    Rueckgabe variiere() {
+        pruefeFelder();
+        Variationsauftrag v{eingaben(), u_.materialien, regel(), raster(auftrag_.achsen), auftrag_.felder};
+        if (v.raster.achsen().empty()) throw Abbruch{"Es fehlt --feld FELD=WERTE."};
+        pruefeLasten(v.raster);
+        Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
+        rippenscheibe::variiere(v, ausfuehrung(), [&](const Variationspunkt& punkt) {
+            Studienzeile zeile{.vorn = {}, .gruppe = "felder", .innen = {}, .hinten = {}};
+            for (std::size_t i = 0; i < v.raster.achsen().size(); ++i)
+                anfuegeZuweisungen(zeile.innen, v.raster.wert(punkt.nummer, i).setzt);
+            const bool besteht = punkt.bewertung.ausgang == Ausgang::besteht;
+            zeile.hinten.emplace_back("besteht", besteht ? "true" : "false");
+            anfuegeUrteil(zeile.hinten, punkt.bewertung, v.regel);
+            anfuegeRichtung(zeile.hinten, punkt.bewertung);
+            zeile.hinten.emplace_back("hinweis", jsonOderNull(punkt.bewertung.hinweis));
+            zeile.hinten.emplace_back("luecken", jsonListe(punkt.luecken));
+            for (std::size_t i = 0; i < punkt.felder.size(); ++i)
+                zeile.hinten.emplace_back(auftrag_.felder[i], punkt.felder[i]);
+            u_.gibAus(ausgabe.zeile(zeile));
+            return true;
+        });
+        u_.gibAus(ausgabe.schluss());
+        return Rueckgabe::erfuellt;
+    }
+
+    Rueckgabe legeAus() {
+        Auslegungsauftrag a{};
+        a.vorlage = eingaben();
+        a.materialien = u_.materialien;
+        a.regel = regel();
+        a.raster = auftrag_.achsen.empty() ? standardraster() : raster(auftrag_.achsen);
+        a.ziel = auftrag_.ziel;
+        a.reihen.zwischenrippen = auftrag_.zwischenrippen;
+        a.eigengewicht = auftrag_.eigengewicht;
+        a.zahl = auftrag_.zahl;
+        if (const std::string fest = festesFeld(a.raster); !fest.empty())
+            throw Abbruch{fest + " wird beim Auslegen nicht verändert"};
+        if (a.ziel == Auslegungsziel::kosten) a.preise = preise();
+        auto ergebnis = rippenscheibe::legeAus(a, ausfuehrung());
+        if (const auto* fehler = std::get_if<std::string>(&ergebnis))
+            throw Abbruch{*fehler, Rueckgabe::dateifehler};
+        zeigeFortschritt({});
+        return gibAus(a, std::get<0>(ergebnis));
+    }
+
+    Rueckgabe gibAus(const Auslegungsauftrag& a, const Auslegungsergebnis& ergebnis) {
+        const bool gefunden = !ergebnis.entwuerfe.empty();
+        const bool text = auftrag_.ausgabe == Studienausgabe::text;
+        const auto sage = [&](const std::string& satz) {
+            text ? u_.gibAus(satz + "\n") : u_.ausgaben.meldungen(satz + "\n");
+        };
+        sage(auswertung(ergebnis));
+        if (a.ziel == Auslegungsziel::kosten && !a.preise.herkunft().empty()) sage(a.preise.herkunft());
+        if (!gefunden)
+            sage(ergebnis.knappVerfehlt.empty() ? "Keine Wand besteht."
+                                                : "Keine Wand besteht; am nächsten kommen:");
+        Pruefstand stand(a.vorlage, a.materialien, a.regel);
+        Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
+        int rang = 0;
+        for (const Entwurf& entwurf : gefunden ? ergebnis.entwuerfe : ergebnis.knappVerfehlt)
+            u_.gibAus(ausgabe.zeile(entwurfszeile(a, entwurf, gefunden ? ++rang : 0, stand)));
+        u_.gibAus(ausgabe.schluss());
+        if (text) u_.gibAus("Fest: " + festeAngaben(stand) + "\n");
+        return gefunden ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
+    }
+
+    Studienzeile entwurfszeile(const Auslegungsauftrag& a, const Entwurf& entwurf, int rang,
+                               Pruefstand& stand) const {
+        constexpr std::array<std::string_view, 3> namen{"kosten", "verbindungsmittel", "gewicht"};
+        Studienzeile zeile{.vorn = {}, .gruppe = "felder", .innen = {}, .hinten = {}};
+        zeile.vorn.emplace_back("rang", rang > 0 ? std::to_string(rang) : "null");
+        zeile.vorn.emplace_back(namen[static_cast<std::size_t>(a.ziel)], jsonWert(entwurf.wert));
+        anfuegeUrteil(zeile.vorn, entwurf.bewertung, a.regel);
+        for (std::size_t i = 0; i < a.raster.achsen().size(); ++i)
+            anfuegeZuweisungen(zeile.innen, a.raster.wert(entwurf.nummer, i).setzt);
+        setzeEntwurf(a, entwurf.nummer, stand);
+        if (a.eigengewicht) {
+            std::string gkWand;
+            stand.felder().anfuegeEingabe(gkWand, eingabeindex("gkWand"));
+            zeile.innen.emplace_back("gkWand", gkWand);
+        }
+        anfuegeRichtung(zeile.hinten, entwurf.bewertung);
+        if (!entwurf.bewertung.luecken.leer())
+            zeile.hinten.emplace_back("luecken", jsonListe(stand.lueckensaetze()));
+        if (auftrag_.ausgabe == Studienausgabe::json) zeile.hinten.emplace_back("fest", festesObjekt(stand));
+        return zeile;
+    }
+
+    static std::string festesObjekt(const Pruefstand& stand) {
+        std::string json = "{";
+        for (const int feld : festeFelder()) {
+            if (json.size() > 1) json += ',';
+            anfuegeJsonText(json, feldname(feld));
+            json += ':';
+            stand.felder().anfuegeEingabe(json, feld);
+        }
+        return json + "}";
+    }
+
+    static std::string festeAngaben(const Pruefstand& stand) {
+        std::string text;
+        for (const int feld : festeFelder()) {
+            if (!text.empty()) text += ", ";
+            text.append(feldname(feld)).append(" = ");
+            stand.felder().anfuegeEingabe(text, feld);
+        }
+        return text;
+    }
+
+    static std::string auswertung(const Auslegungsergebnis& e) {
+        std::string gruende;
+        const auto zaehle = [&](std::size_t zahl, const std::string& grund) {
+            if (zahl == 0) return;
+            gruende.append(gruende.empty() ? ": " : ", ")
+                .append(std::to_string(zahl))
+                .append(" ")
+                .append(grund);
+        };
+        for (const auto& [nachweis, zahl] : e.anNachweis) zaehle(zahl, "an " + std::string(nachweis));
+        zaehle(e.mitHinweis, "mit Hinweis");
+        for (const auto& [art, zahl] : e.anLuecke)
+            zaehle(zahl, "mit Lücke: " + std::string(lueckenursache(art)));
+        std::string text = std::to_string(e.geprueft) + " von " + std::to_string(e.kandidaten) +
+                           " Kandidaten geprüft, " + std::to_string(e.geprueft - e.bestanden) +
+                           " scheiden aus" + gruende;
+        if (!e.vollstaendig) text += " (abgebrochen; bis dahin sind die Ergebnisse bewiesen)";
+        return text;
+    }
+
+    Rueckgabe hilft() {
+        const Bewertungsregel r = regel();
+        const Hilfe hilfe = wasHilft(eingaben(), u_.materialien, r, ausfuehrung());
+        Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
+        const auto gib = [&](const std::string& schritt, const Bewertung& bewertung,
+                             const std::vector<std::pair<int, Feldwert>>& setzt) {
+            Studienzeile zeile;
+            zeile.vorn.emplace_back("schritt", jsonOderNull(schritt));
+            anfuegeUrteil(zeile.vorn, bewertung, r);
+            anfuegeRichtung(zeile.vorn, bewertung);
+            zeile.vorn.emplace_back("besteht", bewertung.ausgang == Ausgang::besteht ? "true" : "false");
+            zeile.vorn.emplace_back("scheitertAn", jsonOderNull(scheitertAn(bewertung, r)));
+            if (auftrag_.ausgabe == Studienausgabe::json) {
+                zeile.gruppe = "felder";
+                anfuegeZuweisungen(zeile.innen, setzt);
+            }
+            u_.gibAus(ausgabe.zeile(zeile));
+        };
+        gib("heute", hilfe.heute, {});
+        for (const Schritt& schritt : hilfe.schritte) gib(schritt.text, schritt.bewertung, schritt.setzt);
+        u_.gibAus(ausgabe.schluss());
+        return Rueckgabe::erfuellt;
+    }
+
+    Rueckgabe tafel() {
+        for (const auto& [option, text] : {std::pair("--groesste", auftrag_.groesste),
+                                           {"--zeilen", auftrag_.zeilen},
+                                           {"--spalten", auftrag_.spalten}})
+            if (text.empty()) throw Abbruch{std::string("Es fehlt ") + option + "."};
+        Tafelauftrag t{};
+        t.vorlage = eingaben();
+        t.materialien = u_.materialien;
+        t.regel = regel();
+        t.groesste = achse(auftrag_.groesste + "=" + auftrag_.von + ":" + ende() + ":" + auftrag_.stufe);
+        t.zeilen = achse(auftrag_.zeilen);
+        t.spalten = achse(auftrag_.spalten);
+        pruefeLasten(Raster({t.groesste, t.zeilen, t.spalten}));
+        const Tafel ergebnis = bemessungstafel(t, ausfuehrung());
+        zeigeFortschritt({});
+        if (!ergebnis.vollstaendig) throw Abbruch{"abgebrochen", Rueckgabe::nichtErfuellt};
+        switch (auftrag_.ausgabe) {
+            case Studienausgabe::json:
+                gibZellenAus(t, ergebnis);
+                break;
+            case Studienausgabe::rtf:
+                u_.gibAus(tafelRtf(t, ergebnis, u_.vorlagen.front().eingaben));
+                break;
+            default:
+                gibTafelAus(t, ergebnis);
+        }
+        return Rueckgabe::erfuellt;
+    }
+
+    // Where the search ends: as told, else where the dialog ends.
+    std::string ende() const {
+        if (!auftrag_.bis.empty()) return auftrag_.bis;
+        const int feld = eingabeindex(auftrag_.groesste.substr(0, auftrag_.groesste.find(',')));
+        if (feld < 0) throw Abbruch{"unbekanntes Feld \"" + auftrag_.groesste + "\""};
+        const auto& bereich = eingabefelder()[static_cast<std::size_t>(feld)].bereich;
+        if (!bereich) throw Abbruch{"Es fehlt --bis."};
+        return zahltext(bereich->bis);
+    }
+
+    void gibZellenAus(const Tafelauftrag& t, const Tafel& tafel) {
+        Zeilenausgabe ausgabe(Studienausgabe::json, auftrag_.csv);
+        const auto objekt = [](const Achsenwert& wert) {
+            Glieder glieder;
+            anfuegeZuweisungen(glieder, wert.setzt);
+            std::string json = "{";
+            for (const auto& [name, zahl] : glieder) {
+                if (json.size() > 1) json += ',';
+                anfuegeJsonText(json, name);
+                json += ":" + zahl;
+            }
+            return json + "}";
+        };
+        const auto zahl = [](const std::string& text) { return zahltext(std::stod(text)); };
+        for (std::size_t i = 0; i < tafel.zellen.size(); ++i) {
+            for (std::size_t j = 0; j < tafel.zellen[i].size(); ++j) {
+                const Tafelzelle& z = tafel.zellen[i][j];
+                Studienzeile zeile;
+                zeile.vorn = {{"zeile", objekt(t.zeilen.werte[i])},
+                              {"spalte", objekt(t.spalten.werte[j])},
+                              {"groesste", z.besteht() ? zahl(z.groesste) : "null"},
+                              {"massgebend", jsonOderNull(z.massgebend)}};
+                if (z.hatLoecher()) {
+                    std::string intervalle = "[";
+                    for (const auto& [von, bis] : z.intervalle)
+                        intervalle +=
+                            (intervalle.size() > 1 ? ",[" : "[") + zahl(von) + "," + zahl(bis) + "]";
+                    zeile.vorn.emplace_back("intervalle", intervalle + "]");
+                }
+                u_.gibAus(ausgabe.zeile(zeile));
+            }
+        }
+    }
+
+    // The table itself, then what its signs mean.
+    void gibTafelAus(const Tafelauftrag& t, const Tafel& tafel) {
+        const bool csv = auftrag_.ausgabe == Studienausgabe::csv;
+        std::vector<std::vector<std::string>> zeilen =
+            tafelzeilen(t, tafel, csv ? auftrag_.csv.dezimal : ',');
+        if (!csv) {
+            u_.gibAus(t.groesste.name + ", größter Wert\n" + alsTabelle(zeilen) + tafellegende(tafel));
+            return;
+        }
+        for (const auto& zeile : zeilen) u_.gibAus(csvZeile(zeile, auftrag_.csv));
+    }
+
+    Rueckgabe stueckliste() {
+        Mengen summe;
+        Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
+        for (const Vorlage& vorlage : u_.vorlagen) {
+            Wand w;
+            static_cast<Eingaben&>(w) = vorlage.eingaben;
+            w.eigeneMaterialien = u_.materialien;
+            const Mengen m = mengen(w, {auftrag_.zwischenrippen});
+            addiere(summe, m);
+            gibMengenAus(ausgabe, vorlage.datei, m);
+        }
+        if (u_.vorlagen.size() > 1) gibMengenAus(ausgabe, "Summe", summe);
+        u_.gibAus(ausgabe.schluss());
+        return Rueckgabe::erfuellt;
+    }
+
+    void gibMengenAus(Zeilenausgabe& ausgabe, const std::string& wand, const Mengen& m) {
+        const auto posten = [&](const std::string& art, const std::string& name, const std::string& mass,
+                                double stueck, double menge, const std::string& einheit) {
+            Studienzeile zeile;
+            zeile.vorn = {
+                {"wand", jsonOderNull(wand)},      {"art", jsonOderNull(art)},
+                {"name", jsonOderNull(name)},      {"mass", jsonOderNull(mass)},
+                {"stueck", jsonWert(stueck)},      {"menge", jsonWert(std::round(menge * 1e6) / 1e6)},
+                {"einheit", jsonOderNull(einheit)}};
+            u_.gibAus(ausgabe.zeile(zeile));
+        };
+        for (const Holzposten& p : m.holz)
+            posten("Holz", p.bezeichnung,
+                   mitKomma(p.b) + "x" + mitKomma(p.h) + ", l = " + mitKomma(std::round(p.laenge * 10) / 10),
+                   p.stueck, p.b * p.h * p.laenge * p.stueck * 1e-9, "m³");
+        for (const Plattenposten& p : m.platten)
+            posten("Platte", p.material, mitKomma(p.dicke) + " mm", p.stueck, p.flaeche, "m²");
+        for (const Stueckposten& p : m.verbindungsmittel)
+            posten("Verbindungsmittel", p.name, "", p.stueck, p.stueck, "Stück");
+        for (const Stueckposten& p : m.anker) posten("Anker", p.name, "", p.stueck, p.stueck, "Stück");
+    }
+
+    Rueckgabe lastfaelle() {
+        const auto faelle = vorgeschlageneLastfaelle(eingaben());
+        if (faelle.empty()) throw Abbruch{"Die Wand hat keine Lasten.", Rueckgabe::nichtErfuellt};
+        u_.gibAus(lastfaelletext(faelle, auftrag_.csv));
+        return Rueckgabe::erfuellt;
+    }
+
+    const Eingaben& eingaben() const { return u_.vorlagen.front().eingaben; }
     int faeden() const { return auftrag_.faeden.value_or(kernzahl()); }
 
-    Rueckgabe weiseZurueck(const std::string& satz) const {
-        u_.ausgaben.meldungen(satz + "\n");
-        return Rueckgabe::aufruf;
+    Ausfuehrung ausfuehrung() {
+        return {faeden(), wache_.halt(), [this](const Fortschritt& f) {
+                    const auto jetzt = std::chrono::steady_clock::now();
+                    if (jetzt - gezeigt_ < std::chrono::milliseconds(100)) return;
+                    gezeigt_ = jetzt;
+                    zeigeFortschritt(std::to_string(f.geprueft) + " von " + std::to_string(f.gesamt) +
+                                     ", gefunden " + std::to_string(f.gefunden));
+                }};
+    }
+
+    void zeigeFortschritt(std::string_view text) const {
+        if (u_.ausgaben.fortschritt) u_.ausgaben.fortschritt(text);
+    }
+
+    void pruefeFelder() const {
+        if (const std::string fremd = fremdesFeld(auftrag_.felder); !fremd.empty())
+            throw Abbruch{"Unbekanntes Feld: " + fremd + "\nAlle Felder: rippenscheibe-cli felder"};
+    }
+
+    void pruefeLasten(const Raster& r) const {
+        if (auftrag_.trotzdem) return;
+        if (const auto satz = geloeschteLast(r, eingaben())) throw Abbruch{*satz};
+    }
+
+    Bewertungsregel regel() const {
+        Bewertungsregel r{auftrag_.beideRichtungen, auftrag_.mitLuecken, auftrag_.hoechstens, {}};
+        if (!auftrag_.lastfaelle) return r;
+        auto faelle = lastfaelleAus(lies(*auftrag_.lastfaelle), auftrag_.csv);
+        if (const auto* fehler = std::get_if<std::string>(&faelle))
+            throw Abbruch{pfadtext(*auftrag_.lastfaelle) + ": " + *fehler, Rueckgabe::dateifehler};
+        r.lastfaelle = std::get<0>(std::move(faelle));
+        return r;
+    }
+
+    Preise preise() const {
+        const std::filesystem::path datei = auftrag_.preise.value_or(u_.programmordner / preisdatei);
+        auto gelesen = Preise::aus(lies(datei), auftrag_.csv);
+        if (const auto* fehler = std::get_if<std::string>(&gelesen))
+            throw Abbruch{pfadtext(datei) + ": " + *fehler, Rueckgabe::dateifehler};
+        return std::get<0>(std::move(gelesen));
+    }
+
+    static std::string lies(const std::filesystem::path& datei) {
+        Dateiinhalt inhalt = liesDatei(datei);
+        if (inhalt.fehler) throw Abbruch{inhalt.fehler->text, Rueckgabe::dateifehler};
+        return std::move(inhalt.bytes);
+    }
+
+    Achse achse(const std::string& text) const {
+        auto gelesen = achseAus(text, auftrag_.grenzen);
+        if (const auto* fehler = std::get_if<std::string>(&gelesen)) throw Abbruch{*fehler};
+        return std::get<Achse>(std::move(gelesen));
+    }
+
+    Raster raster(const std::vector<std::string>& texte) const {
+        std::vector<Achse> achsen;
+        for (const std::string& text : texte) achsen.push_back(achse(text));
+        return Raster(std::move(achsen));
+    }
+
+    Raster standardraster() const {
+        std::vector<std::string> gebiete = auftrag_.gebiete;
+        if (gebiete.empty()) gebiete = {"abstand", "verbindungsmittel"};
+        std::vector<Achse> achsen;
+        auto alle = standardachsen(eingaben());
+        for (const std::string& gebiet : gebiete) {
+            const auto treffer = std::find_if(alle.begin(), alle.end(),
+                                              [&](const Standardachse& a) { return a.name == gebiet; });
+            if (treffer == alle.end()) throw Abbruch{"--variiere: \"" + gebiet + "\" gibt es nicht"};
+            achsen.push_back(treffer->achse);
+        }
+        return Raster(std::move(achsen));
+    }
+
+    // The direction of Fv that governs; nothing without horizontal load or run.
+    void anfuegeRichtung(Glieder& glieder, const Bewertung& bewertung) const {
+        const bool gerechnet = bewertung.ausgang != Ausgang::hinweis && bewertung.massgebend;
+        glieder.emplace_back("richtung", !gerechnet            ? "null"
+                                         : bewertung.nachLinks ? "\"minus\""
+                                                               : "\"plus\"");
     }
 
     const Studienumgebung& u_;
     const Studienauftrag& auftrag_;
+    Wache wache_;
+    std::chrono::steady_clock::time_point gezeigt_{};
 };
 
 }  // namespace
 
-void fuegeStudienHinzu(const Studienverben& verben, Studienauftrag& auftrag) {
-    fuegeStapelHinzu(verben, auftrag);
-}
-
-Rueckgabe fuehreStudieAus(const Studienumgebung& umgebung) {
-    Studie studie(umgebung);
-    return studie.stapel();
-}
+Rueckgabe fuehreStudieAus(const Studienumgebung& umgebung) { return Studie(umgebung).fuehreAus(); }
 
 }  // namespace rippenscheibe

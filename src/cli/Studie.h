@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/Studienausgabe.h"
+#include "study/Auslegung.h"
 #include "study/Stapel.h"
 
 namespace CLI {
@@ -22,8 +24,6 @@ struct Auftrag;
 struct Ausgaben;
 enum class Rueckgabe : int;
 
-enum class Studienausgabe { text, csv, json, rtf };
-
 struct Studienauftrag {
     // all verbs
     Grenzen grenzen = Grenzen::beachten;
@@ -35,14 +35,35 @@ struct Studienauftrag {
     Zeilenform eingabe = Zeilenform::json;
     bool streng = false;
     bool schema = false;
+    // the verbs that judge walls
+    std::optional<std::filesystem::path> lastfaelle;
+    bool beideRichtungen = true;
+    bool mitLuecken = false;
+    bool trotzdem = false;
+    std::vector<std::string> achsen;  // --feld
+    // lege-aus
+    std::vector<std::string> gebiete;  // --variiere
+    std::size_t zahl = 5;
+    double hoechstens = 1;
+    Auslegungsziel ziel = Auslegungsziel::kosten;
+    std::optional<std::filesystem::path> preise;
+    bool eigengewicht = false;
+    double zwischenrippen = 1;
+    // tafel
+    std::string groesste;
+    std::string zeilen;
+    std::string spalten;
+    std::string von = "0";
+    std::string bis;
+    std::string stufe = "0.1";
 };
 
 // Adds the verbs to the command line. `befehl` makes a verb of a name and an explanation.
 struct Studienverben {
     std::function<CLI::App&(const std::string& name, const std::string& erklaerung, int befehl)> befehl;
-    std::function<void(CLI::App&)> dateien;   // positions to read
-    std::function<void(CLI::App&)> vorlage;   // --vorlage
-    std::function<void(CLI::App&)> material;  // --material
+    std::function<void(CLI::App&, bool mehrere)> dateien;  // positions to read
+    std::function<void(CLI::App&)> vorlage;                // --vorlage
+    std::function<void(CLI::App&)> material;               // --material
     std::function<void(CLI::App&)> laeufe;
     std::function<void(CLI::App&)> nach;  // -o
 };

@@ -42,6 +42,20 @@ bool reicheWeiter(std::string_view text) {
     return raeume();
 }
 
+volatile std::sig_atomic_t unterbrochen = 0;
+
+// Whether Ctrl+C was pressed since the first time somebody asked.
+bool istUnterbrochen() {
+    static const bool eingerichtet = std::signal(SIGINT, [](int) { unterbrochen = 1; }) != SIG_ERR;
+    return eingerichtet && unterbrochen != 0;
+}
+
+// One line on a terminal that the next one overwrites.
+void zeigeFortschritt(std::string_view text) {
+    if (::isatty(STDERR_FILENO) != 0)
+        std::fprintf(stderr, "\r%.*s\x1b[K", static_cast<int>(text.size()), text.data());
+}
+
 Rueckgabe laufe(const std::vector<std::string>& angaben) {
     const auto gelesen = liesKommandozeile(angaben);
     if (const auto* auskunft = std::get_if<Auskunft>(&gelesen)) {
@@ -49,7 +63,11 @@ Rueckgabe laufe(const std::vector<std::string>& angaben) {
         return auskunft->rueckgabe;
     }
     const Ausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
-                            [](std::string_view text) { schreibe(stderr, text); }, liesEingabe, reicheWeiter};
+                            [](std::string_view text) { schreibe(stderr, text); },
+                            liesEingabe,
+                            reicheWeiter,
+                            istUnterbrochen,
+                            zeigeFortschritt};
     return fuehreAus(std::get<Auftrag>(gelesen), programmordner(), ausgaben);
 }
 

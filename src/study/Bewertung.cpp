@@ -8,6 +8,26 @@
 
 namespace rippenscheibe {
 
+std::string massgebendText(const Bewertung& bewertung, const Bewertungsregel& regel) {
+    std::string text(bewertung.massgebend.value_or(""));
+    if (text.empty() || bewertung.lastfall < 0) return text;
+    return regel.lastfaelle[static_cast<std::size_t>(bewertung.lastfall)].name + ": " + text;
+}
+
+std::string scheitertAn(const Bewertung& bewertung, const Bewertungsregel& regel) {
+    switch (bewertung.ausgang) {
+        case Ausgang::hinweis:
+            return "Hinweis: " + bewertung.hinweis;
+        case Ausgang::luecke:
+            return "Lücke: " + std::string(lueckenursache(bewertung.ausschluss.arten().front()));
+        case Ausgang::ueberschritten:
+            return massgebendText(bewertung, regel);
+        case Ausgang::besteht:
+            break;
+    }
+    return {};
+}
+
 Pruefstand::Pruefstand(const Eingaben& vorlage, const EigeneMaterialien& materialien, Bewertungsregel regel)
     : vorlage_(vorlage), stand_(vorlage), felder_(wand_), regel_(std::move(regel)) {
     static_cast<Eingaben&>(wand_) = vorlage;

@@ -45,6 +45,11 @@ struct Bewertung {
     std::string hinweis;      // the first finding
 };
 
+// The governing proof, behind the name of its load case where there are cases. Empty without one.
+std::string massgebendText(const Bewertung& bewertung, const Bewertungsregel& regel);
+// What a wall fails at: the proof, or the finding or gap that drops it. Empty when it passes.
+std::string scheitertAn(const Bewertung& bewertung, const Bewertungsregel& regel);
+
 // Holds one record and computes walls on it, one after another; each thread needs its own. Allocates nothing
 // for a wall without findings.
 class Pruefstand {
@@ -52,9 +57,13 @@ class Pruefstand {
     // The inputs of the template as they were read, before `zuweisen`.
     Pruefstand(const Eingaben& vorlage, const EigeneMaterialien& materialien, Bewertungsregel regel = {});
 
+    Pruefstand(const Pruefstand&) = delete;
+    Pruefstand& operator=(const Pruefstand&) = delete;
+
     // Back to the inputs of the template; then fields can be set.
     void beginne();
     Feldzugriff& felder() { return felder_; }
+    const Feldzugriff& felder() const { return felder_; }
     const Wand& wand() const { return wand_; }
 
     // Judges the inputs as they stand now and leaves them so; results are those of the last run.

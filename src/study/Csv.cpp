@@ -1,6 +1,7 @@
 #include "study/Csv.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace rippenscheibe {
 
@@ -71,6 +72,19 @@ std::string mitPunkt(std::string_view zahl, const Csvform& form) {
 std::string mitDezimalzeichen(std::string zahl, const Csvform& form) {
     if (form.dezimal != '.' && istZahl(zahl)) std::replace(zahl.begin(), zahl.end(), '.', form.dezimal);
     return zahl;
+}
+
+std::string zelleAusJson(std::string_view json, const Csvform& form) {
+    if (json.empty() || json == "null") return {};
+    if (json.front() != '"' && json.front() != '[') return mitDezimalzeichen(std::string(json), form);
+    const auto wert = nlohmann::json::parse(json);
+    if (wert.is_string()) return wert.get<std::string>();
+    std::string text;
+    for (const auto& element : wert) {
+        if (!text.empty()) text += " | ";
+        text += element.is_string() ? element.get<std::string>() : mitDezimalzeichen(element.dump(), form);
+    }
+    return text;
 }
 
 std::vector<std::string_view> zeilenVon(std::string_view text) {

@@ -25,6 +25,9 @@ std::string mitPunkt(std::string_view zahl, const Csvform& form);
 // The other way round; texts that are no number stay.
 std::string mitDezimalzeichen(std::string zahl, const Csvform& form);
 
+// A JSON value as a cell: texts bare, lists joined by " | ", null empty.
+std::string zelleAusJson(std::string_view json, const Csvform& form);
+
 // The lines of a text without their ends (LF or CR LF), a byte order mark left out.
 std::vector<std::string_view> zeilenVon(std::string_view text);
 

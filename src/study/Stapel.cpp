@@ -255,21 +255,7 @@ struct Zeilenrechner::Innen {
         aus += csvZeile(zellen, auftrag.csv);
     }
 
-    // A JSON value as a cell: texts bare, lists joined by " | ", null empty.
-    std::string zelle(std::string_view json) const {
-        if (json.empty() || json == "null") return {};
-        if (json.front() != '"' && json.front() != '[')
-            return mitDezimalzeichen(std::string(json), auftrag.csv);
-        const auto wert = nlohmann::json::parse(json);
-        if (wert.is_string()) return wert.get<std::string>();
-        std::string text;
-        for (const auto& element : wert) {
-            if (!text.empty()) text += " | ";
-            text += element.is_string() ? element.get<std::string>()
-                                        : mitDezimalzeichen(element.dump(), auftrag.csv);
-        }
-        return text;
-    }
+    std::string zelle(std::string_view json) const { return zelleAusJson(json, auftrag.csv); }
 
     static constexpr std::size_t spaltenVorFeldern = 8;
 
