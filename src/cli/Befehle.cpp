@@ -19,7 +19,9 @@
 #include "plausibility/Plausibilitaetslauf.h"
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"
+#include "run/Urteil.h"
 #include "run/Zuweisen.h"
+#include "study/Lastfaelle.h"
 #include "trace/Herleitung.h"
 
 namespace rippenscheibe {
@@ -38,7 +40,7 @@ class Arbeit {
 
     Rueckgabe rechne() {
         if (schriebeUeberEingabe()) return Rueckgabe::aufruf;
-        if (!ladeMaterialien()) return Rueckgabe::dateifehler;
+        if (!ladeMaterialien() || !ladeLastfaelle()) return Rueckgabe::dateifehler;
         Rueckgabe rueckgabe = Rueckgabe::erfuellt;
         auto wand = frischeWand();
         for (const fs::path& datei : auftrag_.dateien) {
@@ -127,19 +129,67 @@ class Arbeit {
         return w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
     }
 
+    // With load cases each of them in a record of its own; which one governs is told at the end.
     Rueckgabe rechneDatei(const fs::path& datei, Wand& w) {
+        if (lastfaelle_.empty()) return rechneFall(datei, w, nullptr).rueckgabe;
+        Rueckgabe rueckgabe = Rueckgabe::erfuellt;
+        double groesster = 0;
+        std::string massgebend;
+        for (const Lastfallzeile& fall : lastfaelle_) {
+            const auto eigene = frischeWand();
+            const Fallergebnis ergebnis = rechneFall(datei, *eigene, &fall);
+            rueckgabe = hoehere(rueckgabe, ergebnis.rueckgabe);
+            if (ergebnis.urteil.maxEta.value_or(0) <= groesster) continue;
+            groesster = *ergebnis.urteil.maxEta;
+            massgebend = fall.name + ": " + std::string(ergebnis.urteil.massgebend.value_or(""));
+        }
+        if (!massgebend.empty()) melde(datei, "maßgebend " + massgebend);
+        return rueckgabe;
+    }
+
+    struct Fallergebnis {
+        Rueckgabe rueckgabe = Rueckgabe::dateifehler;
+        Urteil urteil{};
+    };
+
+    Fallergebnis rechneFall(const fs::path& datei, Wand& w, const Lastfallzeile* fall) {
         const std::optional<Grundmasse> felder = lade(datei, w);
-        if (!felder) return Rueckgabe::dateifehler;
+        if (!felder) return {};
+        if (fall != nullptr) {
+            Feldzugriff zugriff(w);
+            for (const auto& [feld, wert] : fall->werte) zugriff.setze(feld, wert);
+        }
         Laufergebnis ergebnis = Laufergebnis::hinweise;
         for (int lauf = 0; lauf < auftrag_.laeufe; ++lauf) {
             zuweisen(w, *felder);
             ergebnis = starte(w, auftrag_.hinweise);
         }
         const bool gerechnet = ergebnis == Laufergebnis::gerechnet;
+        if (fall != nullptr) melde(datei, "Lastfall " + fall->name);
         meldeErgebnis(datei, w, gerechnet);
-        gibErgebnisAus(datei, w, gerechnet);
-        if (!w.Hinweise.empty()) return Rueckgabe::hinweise;
-        return w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
+        gibErgebnisAus(datei, w, gerechnet, fall);
+        const Rueckgabe rueckgabe = !w.Hinweise.empty()       ? Rueckgabe::hinweise
+                                    : w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt
+                                                              : Rueckgabe::nichtErfuellt;
+        return {rueckgabe, urteil(w, ergebnis)};
+    }
+
+    // The load cases of the command; false when they cannot be read.
+    bool ladeLastfaelle() {
+        if (!auftrag_.studie.lastfaelle) return true;
+        const fs::path& datei = *auftrag_.studie.lastfaelle;
+        const Dateiinhalt inhalt = liesDatei(datei);
+        if (inhalt.fehler) {
+            ausgaben_.meldungen(inhalt.fehler->text + "\n");
+            return false;
+        }
+        auto gelesen = lastfaelleAus(inhalt.bytes, auftrag_.studie.csv);
+        if (const auto* fehler = std::get_if<std::string>(&gelesen)) {
+            melde(datei, *fehler);
+            return false;
+        }
+        lastfaelle_ = std::get<0>(std::move(gelesen));
+        return true;
     }
 
     Rueckgabe pruefeDatei(const fs::path& datei, Wand& w) {
@@ -187,9 +237,11 @@ class Arbeit {
         }
     }
 
-    void gibErgebnisAus(const fs::path& datei, const Wand& w, bool gerechnet) {
+    void gibErgebnisAus(const fs::path& datei, const Wand& w, bool gerechnet, const Lastfallzeile* fall) {
         if (auftrag_.ausgabe == Ausgabeart::json) {
-            gibAus(jsonZeile(pfadtext(datei), w, gerechnet));
+            std::string zeile = jsonZeile(pfadtext(datei), w, gerechnet);
+            if (fall != nullptr) zeile.insert(1, "\"lastfall\":" + jsonText(fall->name) + ",");
+            gibAus(zeile);
             return;
         }
         if (!gerechnet) return;
@@ -289,6 +341,7 @@ class Arbeit {
     const fs::path& programmordner_;
     const Ausgaben& ausgaben_;
     EigeneMaterialien materialien_;
+    std::vector<Lastfallzeile> lastfaelle_;
     Eingaben eingaben_;  // of the last position, as they were read
     std::string zieldatei_;
     bool gelesen_ = false;  // a position could be read

@@ -188,6 +188,8 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     fuegeDateiHinzu(rechne, "--material", auftrag.material,
                     "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
     fuegeLaeufeHinzu(rechne, auftrag.laeufe);
+    fuegeDateiHinzu(rechne, "--lastfaelle", auftrag.studie.lastfaelle,
+                    "Tabelle der Lastfälle (CSV): jeder von ihnen statt der Lasten der Position");
     rechne.add_flag_callback(
         "--sitzung", [&] { auftrag.zustand = Zustand::gemeinsam; },
         "alle Dateien nacheinander in einem Zustand, wie im Fensterprogramm");

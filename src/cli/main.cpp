@@ -1,4 +1,5 @@
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <optional>
 #include <string>
@@ -52,7 +53,7 @@ bool istUnterbrochen() {
 
 // One line on a terminal that the next one overwrites.
 void zeigeFortschritt(std::string_view text) {
-    if (::isatty(STDERR_FILENO) != 0)
+    if (plattform::istTerminal(stderr))
         std::fprintf(stderr, "\r%.*s\x1b[K", static_cast<int>(text.size()), text.data());
 }
 

@@ -262,5 +262,46 @@ TEST_F(Befehle, ANewPositionHasAllDefaults) {
     EXPECT_EQ(tool({"rechne", datei("neu.rsw")}).meldungen, "");
 }
 
+TEST_F(Befehle, VerbsOverManyWallsAnswerWithCodeAndSentence) {
+    const std::string wand = beispiel("zuganker");
+    const std::string preise = (beispiele / "Preise.csv").string();
+    struct Fall {
+        std::vector<std::string> angaben;
+        int rueckgabe;
+        std::string text;
+    };
+    const Fall faelle[] = {
+        {{"variiere", wand}, 64, "Es fehlt --feld FELD=WERTE."},
+        {{"variiere", wand, "--feld", "av3=50"}, 64, "unbekanntes Feld \"av3\""},
+        {{"variiere", wand, "--feld", "gk=1,2"},
+         64,
+         "gk wirkt nicht bei Lastfall 1 (nur horizontal); --trotzdem lässt es zu"},
+        {{"variiere", wand, "--feld", "gk=1,2", "--trotzdem"}, 0, ""},
+        {{"variiere", wand, "--feld", "av1=60", "--felder", "quatsch"}, 64, "Unbekanntes Feld: quatsch"},
+        {{"lege-aus", wand, "--feld", "KLED=1,2", "--preise", preise},
+         64,
+         "KLED wird beim Auslegen nicht verändert"},
+        {{"lege-aus", wand, "--preise", datei("fehlt.csv")}, 3, "fehlt.csv\" kann nicht gelesen werden"},
+        {{"lege-aus", wand, "--feld", "Plattendicke1=14", "--preise", preise}, 3, "kein Preis für Platte"},
+        {{"lege-aus", wand, "--feld", "av1=150", "--preise", preise}, 1, "1 von 1 Kandidaten geprüft"},
+        {{"lege-aus", wand, "--preise", preise, "--ausgabe", "json"}, 0, "Beispielpreise"},
+        {{"tafel", wand, "--groesste", "Fvk", "--zeilen", "Wandlaenge=5"}, 64, "Es fehlt --spalten."},
+        {{"rechne", wand, "--lastfaelle", schreibe("f.csv", "name;Fvk\nA;3\nB;7\n")}, 0, "maßgebend B: 5."},
+    };
+    for (const Fall& fall : faelle) {
+        const Ergebnis e = tool(fall.angaben);
+        EXPECT_EQ(e.rueckgabe, fall.rueckgabe) << fall.text << e.meldungen;
+        EXPECT_NE((e.meldungen + e.ausgabe).find(fall.text), std::string::npos) << e.meldungen << e.ausgabe;
+    }
+    const auto entwurf = json({"lege-aus", wand, "--preise", preise, "--ausgabe", "json", "--zahl", "1"});
+    EXPECT_EQ(entwurf["rang"], 1);
+    EXPECT_TRUE(entwurf["felder"].contains("av1"));
+    const auto zelle = json({"tafel", wand, "--groesste", "Fvk", "--zeilen", "Wandlaenge=2.5", "--spalten",
+                             "av1,av2=100", "--bis", "20", "--ausgabe", "json"});
+    EXPECT_EQ(zelle["zeile"]["Wandlaenge"], 2.5);
+    EXPECT_EQ(zelle["groesste"], 8.2);
+    EXPECT_EQ(zelle["massgebend"], "5.1 Scheibenschub parallel");
+}
+
 }  // namespace
 }  // namespace rippenscheibe

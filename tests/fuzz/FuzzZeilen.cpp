@@ -1,0 +1,30 @@
+#include <algorithm>
+#include <string>
+
+#include "fuzz/Eingang.h"
+#include "support/Strom.h"
+
+// A stream of walls as JSON lines or as a table, told by its first byte: one line out for each line in.
+
+using namespace rippenscheibe;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t laenge) {
+    std::string text(fuzz::eingang(bytes, laenge));
+    if (text.empty()) return 0;
+    Stapelauftrag auftrag;
+    auftrag.felder = {"av1", "Rd1", "Ftd", "Position"};
+    if (text.front() == 'c') auftrag.eingabe = auftrag.ausgabe = Zeilenform::csv;
+    text.erase(0, 1);
+    if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
+    tests::Textstrom strom(text, 7);
+    const Stapelergebnis ergebnis = stapel(auftrag, strom.strom(), {});
+    const auto zeilen = [](const std::string& t) {
+        return static_cast<std::size_t>(std::count(t.begin(), t.end(), '\n'));
+    };
+    const bool kopf = auftrag.eingabe == Zeilenform::csv && strom.ausgabe.starts_with("id;ok;");
+    if (auftrag.eingabe == Zeilenform::json)
+        fuzz::erwarte(ergebnis.zeilen == zeilen(text) + (text.empty() || text.ends_with('\n') ? 0 : 1));
+    fuzz::erwarte(zeilen(strom.ausgabe) == ergebnis.zeilen + (kopf ? 1 : 0));
+    fuzz::erwarte(ergebnis.fehlerhaft <= ergebnis.zeilen);
+    return 0;
+}
