@@ -314,7 +314,7 @@ class Studie {
             }
             return json + "}";
         };
-        const auto zahl = [](const std::string& text) { return zahltext(std::stod(text)); };
+        const auto zahl = [](const std::string& text) { return zahltext(zahlAus(text)); };
         for (std::size_t i = 0; i < tafel.zellen.size(); ++i) {
             for (std::size_t j = 0; j < tafel.zellen[i].size(); ++j) {
                 const Tafelzelle& z = tafel.zellen[i][j];

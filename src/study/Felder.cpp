@@ -236,6 +236,12 @@ std::string zahltext(double wert) {
     return text;
 }
 
+double zahlAus(std::string_view text) {
+    double zahl = 0;
+    std::from_chars(text.data(), text.data() + text.size(), zahl);
+    return zahl;
+}
+
 double wieGetippt(float wert) {
     std::string text;
     anfuegeZahl(text, wert);

@@ -76,6 +76,8 @@ void uebernimmBemessungseingaben(const Eingaben& von, Eingaben& nach);
 void anfuegeZahl(std::string& text, double wert);
 void anfuegeZahl(std::string& text, float wert);
 std::string zahltext(double wert);
+// The number of such a text whatever the locale, 0 when it is none.
+double zahlAus(std::string_view text);
 // The double of the shortest decimal text of a single-precision value: 0.35 as it was typed.
 double wieGetippt(float wert);
 // A text in quotes, escaped for JSON; bytes that are no UTF-8 become the replacement character.

@@ -44,7 +44,7 @@ class Schrittliste {
         for (const Seite n : beideSeiten) {
             if (n == Seite::zwei && wand_.Einseitig) continue;
             const int feld = eingabeindex(std::string(name) + std::to_string(nummer(n)));
-            const std::optional<double> neu = wert(std::stod(heute(feld)));
+            const std::optional<double> neu = wert(zahlAus(heute(feld)));
             if (!neu) continue;
             nimmAuf({{feld, *neu}});
             beide.emplace_back(feld, *neu);
@@ -56,7 +56,7 @@ class Schrittliste {
     void gemeinsam(std::initializer_list<std::string_view> namen, Wert wert) {
         Zuweisungen setzt;
         for (const std::string_view name : namen)
-            if (const std::optional<double> neu = wert(std::stod(heute(eingabeindex(name)))))
+            if (const std::optional<double> neu = wert(zahlAus(heute(eingabeindex(name)))))
                 setzt.emplace_back(eingabeindex(name), *neu);
         nimmAuf(std::move(setzt));
     }
@@ -111,7 +111,7 @@ auto naechster(std::span<const double> werte) {
 
 std::vector<double> dickenVon(int material) {
     std::vector<double> werte;
-    for (const std::string& text : ueblicheDicken(material)) werte.push_back(std::stod(text));
+    for (const std::string& text : ueblicheDicken(material)) werte.push_back(zahlAus(text));
     return werte;
 }
 
