@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <numeric>
+#include <sstream>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -221,12 +222,14 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     CLI::App& herleite = befehl("herleite", "zeigt, woher jede Zahl eines Laufs kommt", Befehl::herleite);
     fuegeDateienHinzu(herleite, auftrag.dateien, false);
     herleite
-        .add_option_function<std::vector<std::string>>(
+        .add_option_function<std::string>(
             "--felder",
-            [&auftrag](const std::vector<std::string>& namen) { auftrag.herleitung.felder = namen; },
+            [&auftrag](const std::string& namen) {
+                std::istringstream strom(namen);
+                for (std::string name; std::getline(strom, name, ',');)
+                    auftrag.herleitung.felder.push_back(name);
+            },
             "nur diese Felder, mit ihrem letzten Schritt (sonst alle Schritte)")
-        ->delimiter(',')
-        ->expected(1)
         ->option_text("NAME,...");
     herleite.add_flag_callback(
         "--tief", [&] { auftrag.herleitung.tief = true; }, "mit allen Schritten, auf denen sie beruhen");

@@ -171,25 +171,24 @@ std::string Darstellung::zeile(const Schritt& s) const {
                : zeichen(x) + " = " + formelzeichen + " = " + wert;
 }
 
-bool Darstellung::liestSichSelbst(const Schritt& s) const {
-    const Stand& eigener = stand(s);
-    bool liest = false;
-    jederOperand(graph_, s.ausdruck, [&](Ort ort) {
-        const Stand* x = standAus(ort);
-        liest = liest || (x != nullptr && x->feld == eigener.feld && x->rippe == eigener.rippe);
-    });
-    return liest;
+// Whether a value is a share of what its field held before: the loads are reduced so from pass to pass.
+bool Darstellung::mindertSich(const Schritt& s) const {
+    const Knoten& k = knoten(s.ausdruck);
+    if (k.op != Op::mal) return false;
+    const Stand* davor = standAus(k.a);
+    return davor != nullptr && davor->feld == stand(s).feld && davor->rippe == stand(s).rippe &&
+           standAus(k.b) != nullptr;
 }
 
-// Counts how often a value has been formed from itself.
+// Counts the passes that have reduced a value, this one included; 0 for any other step.
 int Darstellung::durchgang(const Schritt& s) const {
-    if (!liestSichSelbst(s)) return 0;
+    if (!mindertSich(s)) return 0;
     int zaehler = 1;
     for (Ort vorher = s.vorher; vorher != keiner;) {
         const Ort schritt = graph_.staende[static_cast<std::size_t>(vorher)].schritt;
         if (schritt == keiner) break;
         const Schritt& davor = graph_.schritte[static_cast<std::size_t>(schritt)];
-        if (!liestSichSelbst(davor)) break;
+        if (!mindertSich(davor)) break;
         ++zaehler;
         vorher = davor.vorher;
     }

@@ -50,7 +50,7 @@ class Darstellung {
 
   private:
     int durchgang(const herleitung::Schritt& s) const;
-    bool liestSichSelbst(const herleitung::Schritt& s) const;
+    bool mindertSich(const herleitung::Schritt& s) const;
     std::string seite(herleitung::Ort knoten) const;
     std::string bedingung(const herleitung::Bedingung& b) const;
 

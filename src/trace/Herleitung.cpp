@@ -22,8 +22,13 @@ class Leser {
         for (std::size_t i = 0; i < Rippenfeld::laenge; ++i) inhalt_.zahlen.push_back(feld(i).value());
     }
     void operator()(const Feldangabe&, const std::string& feld) { inhalt_.texte.push_back(feld); }
-    template <class Texte>
-    void operator()(const Feldangabe&, const Texte&) {}
+    void operator()(const Feldangabe&, const Vorbemerkungszeilen& feld) {
+        inhalt_.texte.insert(inhalt_.texte.end(), feld.begin(), feld.end());
+    }
+    void operator()(const Feldangabe&, const Texte& feld) {
+        inhalt_.zahlen.push_back(static_cast<double>(feld.size()));
+        inhalt_.texte.insert(inhalt_.texte.end(), feld.begin(), feld.end());
+    }
 
   private:
     Wandinhalt& inhalt_;
@@ -47,9 +52,9 @@ Wandinhalt inhalt(const Wand& w, const Grundmasse& felder) {
 
 }  // namespace
 
-herleitung::Graph leiteHer(const Wand& vorDemLauf, const Grundmasse& felder) {
+herleitung::Graph leiteHer(const Wand& vorDemLauf, const Grundmasse& felder, char dezimalzeichen) {
     herleitung::Graph graph;
-    herleitung::laufeMitSpur(inhalt(vorDemLauf, felder), graph);
+    herleitung::laufeMitSpur(inhalt(vorDemLauf, felder), dezimalzeichen, graph);
     for (herleitung::Feldeintrag& feld : graph.felder) {
         const Feldzeichen z = feldzeichen(feld.name);
         feld.zeichen = z.zeichen;

@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "cli/Befehle.h"
 #include "cli/Herleitung.h"
 #include "files/Dateischreiber.h"
 #include "files/EigeneMaterialienDatei.h"
@@ -168,6 +169,24 @@ TEST(Herleitung, EveryFormulaYieldsTheBitsOfItsFieldInRandomWalls) {
 std::string gelesen(Wand w, const std::string& feld) {
     zuweisen(w, grundmasse(w));
     return herleitungText(leiteHer(w, grundmasse(w)), {{feld}, true});
+}
+
+// What the tool says with these arguments, messages behind the output.
+std::string tool(const std::vector<std::string>& angaben) {
+    std::string text;
+    const auto sammle = [&](std::string_view stueck) { text += stueck; };
+    const auto gelesen = liesKommandozeile(angaben);
+    if (const auto* auskunft = std::get_if<Auskunft>(&gelesen)) return auskunft->text;
+    fuehreAus(std::get<Auftrag>(gelesen), RIPPENSCHEIBE_BEISPIELE, {sammle, sammle});
+    return text;
+}
+
+TEST(Herleitung, TheToolTellsTheFieldsAskedFor) {
+    const std::string datei = std::string(RIPPENSCHEIBE_BEISPIELE) + "/zweiseitig.rsw";
+    const std::string text = tool({"herleite", datei, "--felder", "fmd,Rd1"});
+    EXPECT_EQ(std::count(text.begin(), text.end(), '['), 2) << text;
+    EXPECT_NE(tool({"herleite", datei, "--felder", "fmd,fxy"}).find("Unbekanntes Feld: fxy"),
+              std::string::npos);
 }
 
 TEST(Herleitung, AStepReadsAsFormulaNumbersAndReason) {

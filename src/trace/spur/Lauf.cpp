@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <span>
 
 #include "report/Bericht.h"
 #include "report/Fliesstext.h"
@@ -44,13 +45,17 @@ class Fueller {
         neu(angabe, Typ::text);
         feld = inhalt_.texte[text_++];
     }
-    // Remarks have no part in the calculation.
-    template <class Texte>
-    void operator()(const Feldangabe& angabe, Texte&) {
-        neu(angabe, Typ::text);
+    void operator()(const Feldangabe& angabe, Vorbemerkungszeilen& feld) { nimm(angabe, feld); }
+    void operator()(const Feldangabe& angabe, Texte& feld) {
+        feld.resize(static_cast<std::size_t>(zahl()));
+        nimm(angabe, feld);
     }
 
   private:
+    void nimm(const Feldangabe& angabe, std::span<std::string> texte) {
+        neu(angabe, Typ::text);
+        for (std::string& text : texte) text = inhalt_.texte[text_++];
+    }
     double zahl() { return inhalt_.zahlen[zahl_++]; }
     Ort neu(const Feldangabe& angabe, Typ typ) {
         graph_.felder.push_back({angabe.name, angabe.einheit, angabe.bedeutung, {}, {}, typ, eingabe});
@@ -102,7 +107,7 @@ class Zeilensammler {
 
 namespace herleitung {
 
-void laufeMitSpur(const Wandinhalt& inhalt, Graph& graph) {
+void laufeMitSpur(const Wandinhalt& inhalt, char dezimalzeichen, Graph& graph) {
     using namespace rippenscheibe;
     const auto wand = std::make_unique<Wand>();
     fuelle(*wand, inhalt, graph);
@@ -115,7 +120,8 @@ void laufeMitSpur(const Wandinhalt& inhalt, Graph& graph) {
     const double rippen = std::nearbyint(static_cast<double>(wand->AnzahlRippen.value()));
     graph.rippen = static_cast<int>(std::clamp(rippen, 0.0, static_cast<double>(Rippenfeld::laenge - 1)));
     Zeilensammler sammler(graph, aufzeichnung);
-    for (const Zeile& zeile : bericht(*wand, Form::ansicht)) std::visit(sammler, zeile);
+    for (const Zeile& zeile : bericht(*wand, Form::ansicht, {.dezimalzeichen = dezimalzeichen}))
+        std::visit(sammler, zeile);
 }
 
 }  // namespace herleitung

@@ -36,6 +36,7 @@ class Programm : public QObject {
 
     Wand w;
     Grundmasse felder;
+    Wand vorDemLauf;  // the record before the last run: the derivation repeats that run
 
     std::filesystem::path ordner;
     Einstellungen einstellungen;

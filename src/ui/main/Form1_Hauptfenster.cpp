@@ -238,6 +238,7 @@ void Form1::beendeFeldbesuch() {
 
 void Form1::rechneUndZeige(Fensterart ausgabe) {
     if (!eingabenGueltig(*this, meldungen_)) return;
+    programm_.vorDemLauf = programm_.w;
     programm_.zuweisen();
     const Laufergebnis ergebnis = rippenscheibe::starte(programm_.w);
     geprueft_ = programm_.eingabestand();

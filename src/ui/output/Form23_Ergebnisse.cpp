@@ -24,6 +24,7 @@
 #include "ui/drawings/Ausgabe.h"
 #include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Form23_Text.h"
+#include "ui/output/Herleitungsansicht.h"
 #include "ui/output/PdfAusgabe.h"
 #include "ui/output/Urteilsstreifen.h"
 
@@ -43,7 +44,7 @@ Form23::Form23(Programm& programm, Meldungen& meldungen, QWidget* parent)
     teiler->setObjectName(QStringLiteral("Teiler"));
     teiler->setChildrenCollapsible(false);
     teiler->addWidget(streifen_);
-    teiler->addWidget(baueText());
+    teiler->addWidget(mitHerleitung(baueText()));
     teiler->setStretchFactor(1, 1);
     teiler->setSizes({170, 480});
     inhalt()->addWidget(teiler, 1);
@@ -116,6 +117,24 @@ QWidget* Form23::baueSuchzeile() {
     addAction(sucheBeenden_);
     suchzeile_->hide();
     return suchzeile_;
+}
+
+// Beside the text stands where the number at the caret comes from.
+QWidget* Form23::mitHerleitung(QWidget* spalte) {
+    auto* teiler = new QSplitter(Qt::Horizontal, this);
+    auto* herleitung = new Herleitungsansicht(programm_, meldungen_, teiler);
+    teiler->addWidget(spalte);
+    teiler->addWidget(herleitung);
+    teiler->setStretchFactor(0, 1);
+    teiler->setSizes({680, 380});
+    connect(text_, &QTextEdit::cursorPositionChanged, herleitung, [this, herleitung] {
+        const QTextCursor marke = text_->textCursor();
+        std::vector<QString> davor;
+        for (QTextBlock block = text_->document()->begin(); block != marke.block(); block = block.next())
+            davor.push_back(block.text());
+        herleitung->zeigeStelle(davor, marke.block().text(), marke.positionInBlock());
+    });
+    return teiler;
 }
 
 void Form23::baueSchaltflaechen() {

@@ -29,6 +29,7 @@ class Form23 : public Fenster {
   private:
     QWidget* baueText();
     QWidget* baueSuchzeile();
+    QWidget* mitHerleitung(QWidget* spalte);
     void baueSchaltflaechen();
 
     void lade();

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QFont>
+#include <QPalette>
+#include <QPointF>
+#include <QSizeF>
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "trace/Darstellung.h"
+
+class QPainter;
+
+namespace rippenscheibe {
+
+// A typeset expression as boxes that lie on a base line: text with indices, fractions, roots, powers,
+// brackets, lists of a minimum. Lengths are logical pixels.
+struct Formelkasten {
+    enum class Art { reihe, text, bruch, wurzel, klammern, schranken, liste };
+    Art art = Art::reihe;
+    double breite = 0;
+    double oben = 0;   // above the base line
+    double unten = 0;  // below it
+    QString text;
+    double groesse = 0;  // font size in pixels
+    bool kursiv = false;
+    bool fett = false;
+    herleitung::Ort knoten = herleitung::keiner;  // of a leaf that leads on
+    struct Teil {
+        QPointF ort;  // of its base line's left end
+        std::size_t kasten;
+    };
+    std::vector<Teil> teile;
+};
+
+enum class Formelstil { zeichen, zahlen };
+
+// One formula, laid out once.
+class Formelbild {
+  public:
+    // "R_{d,1} = min { ... }" in symbols, in numbers, and the value.
+    static Formelbild gleichung(const Darstellung& d, const herleitung::Schritt& schritt,
+                                const QFont& schrift);
+    // The same for a value that the report itself forms.
+    static Formelbild ausdruck(const Darstellung& d, herleitung::Ort ort, const QFont& schrift);
+
+    QSizeF groesse() const;
+    void male(QPainter& maler, QPointF ecke, const QPalette& farben) const;
+    // The leaf under a point that leads on.
+    std::optional<herleitung::Ort> treffer(QPointF punkt) const;
+
+  private:
+    friend class Formelsetzer;
+    std::vector<Formelkasten> kaesten_;
+    std::vector<Formelkasten::Teil> zeilen_;
+    QString familie_;
+};
+
+}  // namespace rippenscheibe
