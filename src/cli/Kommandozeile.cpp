@@ -135,7 +135,8 @@ std::string vorschlag(const std::string& wort, const CLI::App& app) {
 }
 
 // What CLI11 complains about, in German. Its texts begin with the name of the option.
-std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app) {
+std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app,
+                       std::span<const std::string> angaben) {
     std::string text = fehler.what();
     const std::string option = text.substr(0, text.find_first_of(": "));
     std::string unbekannt;
@@ -148,8 +149,10 @@ std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app) {
         return "Unbekannter Befehl:" + (meinung.empty() ? unbekannt : " " + wort + "." + meinung);
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&fehler) != nullptr) {
-        return text.find("At Most") != std::string::npos ? option + " darf nur einmal stehen."
-                                                         : option + " fehlt der Wert.";
+        const auto genannt = std::count_if(angaben.begin(), angaben.end(), [&](const std::string& angabe) {
+            return angabe == option || angabe.starts_with(option + "=");
+        });
+        return genannt > 1 ? option + " darf nur einmal stehen." : option + " fehlt der Wert.";
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) return "Unbekannte Angabe:" + unbekannt;
     return text;
@@ -265,7 +268,8 @@ std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> a
     } catch (const CLI::CallForVersion& version) {
         return Auskunft{version.what() + std::string("\n"), Rueckgabe::erfuellt};
     } catch (const CLI::ParseError& fehler) {
-        return Auskunft{aufDeutsch(fehler, app) + "\nHilfe: rippenscheibe-cli --help\n", Rueckgabe::aufruf};
+        return Auskunft{aufDeutsch(fehler, app, angaben) + "\nHilfe: rippenscheibe-cli --help\n",
+                        Rueckgabe::aufruf};
     }
     return auftrag;
 }

@@ -354,9 +354,11 @@ bool Form6::setzeUndSende() {
     drucker.setFullPage(true);
     drucker.setDocName(dokumenttitel(programm_.w));
     drucker.setCreator(QStringLiteral("Rippenscheibe"));
-    if (!aufGeraet(drucker, programm_.w, a,
-                   [&](Zeichenflaeche& f) { puffer.spiele(f, erstesBlatt_, letztesBlatt_); }))
-        return false;
+    const auto abgeschnitten = aufGeraet(
+        drucker, programm_.w, a, [&](Zeichenflaeche& f) { puffer.spiele(f, erstesBlatt_, letztesBlatt_); });
+    if (!abgeschnitten) return false;
+    if (!abgeschnitten->isEmpty())
+        meldungen_.hinweis(this, QStringLiteral("Drucken"), abgeschnittenText(*abgeschnitten));
     merkeSeite(ergebnis);
     return true;
 }

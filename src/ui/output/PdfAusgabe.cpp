@@ -51,14 +51,22 @@ Druckergebnis setze(Zeichenflaeche& flaeche, const Wand& w, const Ausdruck& ausd
     return druckeSeiten(flaeche, bericht(w, ausdruck.form, ausdruck.optionen), ausdruck.auftrag);
 }
 
-bool aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const Ausdruck& ausdruck,
-               const std::function<void(Zeichenflaeche&)>& zeichne) {
+std::optional<QString> aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const Ausdruck& ausdruck,
+                                 const std::function<void(Zeichenflaeche&)>& zeichne) {
     QPainter painter;
-    if (!painter.begin(&geraet)) return false;
+    if (!painter.begin(&geraet)) return std::nullopt;
     Seitenmaler maler(painter, geraet.logicalDpiY() / mmJeZoll,
                       {w, ausdruck.logo, ausdruck.optionen.dezimalzeichen}, [&] { geraet.newPage(); });
     zeichne(maler);
-    return painter.end();
+    if (!painter.end()) return std::nullopt;
+    return maler.abgeschnitten();
+}
+
+QString abgeschnittenText(const QString& zeile) {
+    return QStringLiteral(
+               "Diese Zeile reicht über den rechten Rand des Papiers und ist abgeschnitten:\n%1\n"
+               "Wahrscheinlich fehlt die Schrift Liberation Sans (Paket fonts-liberation).")
+        .arg(zeile.trimmed());
 }
 
 Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
@@ -77,7 +85,8 @@ Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
 #endif
     Druckpuffer seiten;
     datei.ergebnis = setze(seiten, w, ausdruck);
-    aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { seiten.spiele(f); });
+    datei.abgeschnitten =
+        aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { seiten.spiele(f); }).value_or(QString());
     puffer.close();
     Lesezeichensammler sammler;
     seiten.spiele(sammler);
@@ -100,6 +109,8 @@ std::optional<Druckergebnis> speicherePdf(Programm& programm, Meldungen& meldung
         meldungen.kritisch(fenster, QStringLiteral("Fehler"), qtext(fehler->text));
         return std::nullopt;
     }
+    if (!datei.abgeschnitten.isEmpty())
+        meldungen.hinweis(fenster, QStringLiteral("PDF"), abgeschnittenText(datei.abgeschnitten));
     return datei.ergebnis;
 }
 

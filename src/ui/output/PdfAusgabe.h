@@ -39,15 +39,19 @@ QString dokumenttitel(const Wand& w);
 Druckergebnis setze(Zeichenflaeche& flaeche, const Wand& w, const Ausdruck& ausdruck);
 
 // Opens a printer or a PDF and hands `zeichne` the surface of its pages, which begin at the corner of the
-// paper. False when the device cannot be drawn on.
-bool aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const Ausdruck& ausdruck,
-               const std::function<void(Zeichenflaeche&)>& zeichne);
+// paper. The first line that the right edge of the paper cuts off comes back, empty when none does; nothing
+// when the device cannot be drawn on.
+std::optional<QString> aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const Ausdruck& ausdruck,
+                                 const std::function<void(Zeichenflaeche&)>& zeichne);
+// What is said of such a line.
+QString abgeschnittenText(const QString& zeile);
 
 // The printout as a PDF file on A4: text is text, fonts are embedded. The same input gives the same bytes
 // except for the dates.
 struct Pdf {
     QByteArray bytes;
     Druckergebnis ergebnis;
+    QString abgeschnitten;  // the first line that the paper cuts off, empty when none is
 };
 Pdf pdf(const Wand& w, const Ausdruck& ausdruck);
 

@@ -85,8 +85,9 @@ class Pdflauf {
         Ausdruck ausdruck = standardausdruck(*w_, einstellungen, liesLogo(ordner_));
         ausdruck.form = auftrag_.form;
         ausdruck.optionen.dezimalzeichen = ',';  // the same file in every locale
-        const QByteArray bytes = pdf(*w_, ausdruck).bytes;
-        const auto fehler = schreibeDauerhaft(auftrag_.ziel, bytes.toStdString());
+        const Pdf datei = pdf(*w_, ausdruck);
+        if (!datei.abgeschnitten.isEmpty()) melde(utf8(abgeschnittenText(datei.abgeschnitten)));
+        const auto fehler = schreibeDauerhaft(auftrag_.ziel, datei.bytes.toStdString());
         return fehler ? scheitere(*fehler) : true;
     }
 

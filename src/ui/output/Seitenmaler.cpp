@@ -12,6 +12,7 @@ namespace {
 
 constexpr double mmJeZoll = 25.4;
 constexpr double punkteJeZoll = 72.0;
+constexpr double rechterRand = 210.0;  // mm, of the A4 paper
 
 QColor qfarbe(Farbe farbe) { return QColor::fromRgb(static_cast<QRgb>(farbe)); }
 
@@ -38,11 +39,14 @@ void Seitenmaler::setzeStrich(double breite) { strich_ = breite * mm_; }
 
 void Seitenmaler::text(double x, double y, std::string_view text) {
     const QPointF grundlinie(x * mm_, (y + mass_.oberlaenge) * mm_);
+    const QString worte = qtext(text);
     painter_.setPen(textfarbe_);
-    painter_.drawText(grundlinie, qtext(text));
+    painter_.drawText(grundlinie, worte);
+    const double breite = QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(worte.trimmed());
+    if (abgeschnitten_.isEmpty() && grundlinie.x() + breite > rechterRand * mm_) abgeschnitten_ = worte;
     if (schrift_.unterstrichen)
         unterstreiche(grundlinie,
-                      QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(qtext(text)));
+                      QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(worte));
 }
 
 // The fonts say where their underline lies, and some of them cut through the letters: this one stands clear

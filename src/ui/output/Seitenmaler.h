@@ -34,6 +34,10 @@ class Seitenmaler final : public Zeichenflaeche {
     void neueSeite() override;
     double texthoehe(std::string_view text) const override;
 
+    // The first line that reached beyond the right edge of the paper, which cuts it off; empty when none did.
+    // It happens where the fonts of the report are not installed and another one is wider.
+    const QString& abgeschnitten() const { return abgeschnitten_; }
+
   private:
     QRectF inEinheiten(const Rechteck& r) const;
     void unterstreiche(QPointF grundlinie, double breite);
@@ -43,6 +47,7 @@ class Seitenmaler final : public Zeichenflaeche {
     Bildquelle bilder_;
     std::function<void()> neueSeite_;
     QColor textfarbe_ = Qt::black;
+    QString abgeschnitten_;
     double strich_ = 0.0;  // painter units
     Schrift schrift_;      // the current font
     Schriftmass mass_;     // of it
