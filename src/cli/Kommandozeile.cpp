@@ -152,7 +152,8 @@ std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app,
         const auto genannt = std::count_if(angaben.begin(), angaben.end(), [&](const std::string& angabe) {
             return angabe == option || angabe.starts_with(option + "=");
         });
-        return genannt > 1 ? option + " darf nur einmal stehen." : option + " fehlt der Wert.";
+        const bool datei = !option.starts_with("-");  // stands without its name
+        return genannt > 1 || datei ? option + " darf nur einmal stehen." : option + " fehlt der Wert.";
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) return "Unbekannte Angabe:" + unbekannt;
     return text;

@@ -32,7 +32,8 @@ inline void setze(Wand& w, Seite n, const Mittel& m) {
     if (n == Seite::zwei) w.Plattendicke2 = m.t;
 }
 
-// A wall with this fastener on both sides in timber C24 and kmod = 0.9. The own materials differ in column 7 alone: row 1 has 1, and so on to row 5.
+// A wall with this fastener on both sides in timber C24 and kmod = 0.9. The own materials differ in column 7
+// alone: row 1 has 1, and so on to row 5.
 inline Wand wand(const Mittel& m, Verfahren verfahren) {
     Wand w;
     w.rhok = 350;

@@ -42,11 +42,11 @@ void Seitenmaler::text(double x, double y, std::string_view text) {
     const QString worte = qtext(text);
     painter_.setPen(textfarbe_);
     painter_.drawText(grundlinie, worte);
-    const double breite = QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(worte.trimmed());
+    const double breite =
+        QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(worte.trimmed());
     if (abgeschnitten_.isEmpty() && grundlinie.x() + breite > rechterRand * mm_) abgeschnitten_ = worte;
     if (schrift_.unterstrichen)
-        unterstreiche(grundlinie,
-                      QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(worte));
+        unterstreiche(grundlinie, QFontMetricsF(painter_.font(), painter_.device()).horizontalAdvance(worte));
 }
 
 // The fonts say where their underline lies, and some of them cut through the letters: this one stands clear
