@@ -102,11 +102,11 @@ const Stand* Darstellung::standAus(Ort ort) const {
 }
 
 const Schritt* Darstellung::letzter(Ort feld, int rippe) const {
-    for (auto s = graph_.schritte.rbegin(); s != graph_.schritte.rend(); ++s) {
-        const Stand& x = stand(*s);
-        if (x.feld == feld && x.rippe == rippe) return &*s;
-    }
-    return nullptr;
+    const auto& alle = graph_.schritte;
+    const auto treffer = std::find_if(alle.rbegin(), alle.rend(), [&](const Schritt& s) {
+        return stand(s).feld == feld && stand(s).rippe == rippe;
+    });
+    return treffer == alle.rend() ? nullptr : &*treffer;
 }
 
 std::string Darstellung::zeichen(const Stand& s) const {

@@ -314,7 +314,8 @@ void Form1::dropEvent(QDropEvent* event) {
     if (datei.isEmpty()) return;
     event->acceptProposedAction();
     // Boxes only once the drag is over: the program it came from waits for that.
-    QTimer::singleShot(0, this, [this, datei] { ablauf_.oeffnen(datei); });
+    QMetaObject::invokeMethod(
+        this, [this, datei] { ablauf_.oeffnen(datei); }, Qt::QueuedConnection);
 }
 
 void Form1::changeEvent(QEvent* event) {
