@@ -33,6 +33,7 @@ void rippentragfaehigkeit(Wand& w) {
         // Meant: the left edge rib has no contact area here, so that its term is 0.
         const Zahl Aef = ort == Rippenlage::links ? Zahl(0) : innen ? w.AefInnenrippe : w.AefRechts;
         term2 = w.kc90 * Aef * w.fc90d * 1.2 * 100;
+        soVorgegeben("die Verteilung nimmt das Widerstandsmoment der schwachen Achse");
         w.RdRippe(i) = Min(term2, term1);
         w.RdRippenSumme(i) = w.RdRippenSumme(i - 1) + w.RdRippe(i);
     });
@@ -86,7 +87,10 @@ void verteileVertikallastenGenau(Wand& w) {
     w.sv90d =
         (w.gd + w.qd + w.AnzahlRippen * w.Fcgd / w.Wandlaenge + w.AnzahlRippen * w.Fcqd / w.Wandlaenge) *
         w.AnteilBeplankung;
-    for (Feld* last : {&w.gd, &w.qd, &w.Fcgd, &w.Fcqd}) *last *= w.AnteilRippen;
+    for (Feld* last : {&w.gd, &w.qd, &w.Fcgd, &w.Fcqd}) {
+        soVorgegeben("jeder Durchgang eines Laufs mindert die Lasten erneut um den Anteil der Rippen");
+        *last *= w.AnteilRippen;
+    }
 }
 
 void windAufRippe(Wand& w, int i) {

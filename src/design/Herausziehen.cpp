@@ -128,7 +128,10 @@ void nachweisHerausziehen(Wand& w) {
             w.etaHerausziehenRippe(i) = 100;
         } else {
             // Meant: one row halves the force in place, two rows do not.
-            if (!w.Zweireihig[S1]) w.Faxd(i) = w.Faxd(i) / 2;
+            if (!w.Zweireihig[S1]) {
+                soVorgegeben("bei einer Reihe wird die Kraft halbiert, bei zweien nicht");
+                w.Faxd(i) = w.Faxd(i) / 2;
+            }
             w.etaHerausziehenRippe(i) = Round(w.Faxd(i) / w.Rxd[S1], 4);
         }
     });

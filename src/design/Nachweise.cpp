@@ -36,8 +36,10 @@ void schubKombiniert(Wand& w) {
         w.fv90dKombi = 0.7 * w.fv90d;
         // Meant: the parallel quotient always governs, and the perpendicular utilisation is taken with
         // the parallel strength. Both overwrite the rounded values of the single proofs, unrounded.
+        soVorgegeben("der kombinierte Nachweis nimmt nur den Quotienten parallel zum Rand");
         w.etaKombi = w.sv0d / w.fv0dKombi;
         w.etaSv0 = w.sv0d / w.fv0d;
+        soVorgegeben("bei Kombination steht fv,0,d im Nenner, wo der Bericht fv,90,d nennt");
         w.etaSv90 = w.sv90d / w.fv0d;
     } else if (w.sv0d != 0) {
         w.etaKombi = w.sv0d / w.fv0d;

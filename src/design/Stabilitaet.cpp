@@ -66,6 +66,8 @@ void nachweisSchwellenpressung(Wand& w) {
         // Meant: the left edge rib has no contact area here, so that its stress keeps what it held.
         if (lage(w, i) == Rippenlage::rechts) w.SigmaC90d(i) = 10 * w.FcdSchwelle(i) / w.AefRechts;
         if (lage(w, i) == Rippenlage::innen) w.SigmaC90d(i) = 10 * w.FcdSchwelle(i) / w.AefInnenrippe;
+        if (lage(w, i) == Rippenlage::links)
+            soVorgegeben("die linke Randrippe hat keine Aufstandsfläche: ihre Spannung bleibt, wie sie war");
         w.etaC90(i) = Round(w.SigmaC90d(i) / (1.2 * w.kc90 * w.fc90d), 4);
     });
 }

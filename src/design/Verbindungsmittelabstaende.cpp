@@ -74,6 +74,7 @@ void klammern(Wand& w, Seite n) {
     }
     // Meant: the sine takes the degrees as they stand, without conversion to radians.
     const Zahl sinus = sin(w.beta);
+    soVorgegeben("der Sinus nimmt die Gradzahl, ohne sie umzurechnen");
     w.a1[n] = (w.beta >= 30 ? 10 * sinus + 5 : Zahl(10)) * d;
     w.a2[n] = (5 * sinus + 5) * d;
     w.a3[n] = 10 * d;

@@ -142,6 +142,7 @@ void gebrauchstauglichkeit(Wand& w) {
     w.svCharakt = w.sv0d / teiler;
     w.SigmaC90Charakt = w.SigmaC90d(druckrandrippe(w)) / teiler;
     // Meant: the anchor force is not divided.
+    soVorgegeben("die Ankerzugkraft wird nicht auf den Gebrauchszustand zurückgerechnet");
     w.FtCharakt = w.Ftdst > 0 ? Zahl(w.Ftdst) : Zahl(0);
     const Anteile u = anteileGebrauch(w);
     berechne(w,

@@ -33,6 +33,7 @@ void setzeGruppeSeite2(Wand& w) {
     if (plattenmaterial(w, n) < Platte::GKB || istSpanplatteMitZulassung(plattenmaterial(w, n))) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
     } else {
+        soVorgegeben("Nägel auf Seite 2 kennen außer Holzwerkstoffen keine Gruppe: A = 0");
         setzeBeiwerte(w, n, {0, 7 * d, 9 * d});
     }
 }
@@ -40,6 +41,8 @@ void setzeGruppeSeite2(Wand& w) {
 // Both sides alike. Chipboard P4 takes the formula of gypsum fibre board here, P5 to P7 do not: meant.
 void setzeLochleibungGenau(Wand& w, Seite n) {
     if (plattenmaterial(w, n) == Platte::P4) {
+        if (hatFormel(w, n, Lochleibung::gipsfaser))
+            soVorgegeben("Spanplatte P4 rechnet mit der Formel der Gipsfaserplatte");
         setzeLochleibung(w, n, Lochleibung::gipsfaser);
     } else if (istOsb(w, n) || istSpanplatteMitZulassung(plattenmaterial(w, n))) {
         setzeLochleibung(w, n, Lochleibung::holzwerkstoff);

@@ -25,6 +25,7 @@ void setzeGruppen(Wand& w, Seite n) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
     } else if (n == Seite::zwei) {
         // Side difference: side 2 has no gypsum group; all the rest has A = 0 and no fhkPlatte2. Meant.
+        soVorgegeben("Sondernägel auf Seite 2 kennen außer Holzwerkstoffen keine Gruppe: A = 0");
         setzeBeiwerte(w, n, {0, 7 * d, 9 * d});
     } else if (istGipskarton(w, n)) {
         setzeGruppe(w, n, Lochleibung::gipskarton, {1.1, 10 * d, 9 * d});

@@ -183,7 +183,10 @@ void gipsplatte(Wand& w, Seite n, std::span<const Plattendickenwert> dicken, dou
 void gipskarton(Wand& w, Seite n, std::span<const Plattendickenwert> dicken, double rhok) {
     gipsplatte(w, n, dicken, rhok, 700);
     // Meant: the shear strength of 12.5 mm GKB is 2 on side 2, against 1 on side 1.
-    if (n == Seite::zwei && plattenmaterial(w, n) == Platte::GKB && w.t[n] == 12.5) w.fvk[n] = 2;
+    if (n == Seite::zwei && plattenmaterial(w, n) == Platte::GKB && w.t[n] == 12.5) {
+        soVorgegeben("GKB von 12,5 mm hat auf Seite 2 die Schubfestigkeit 2, auf Seite 1 die 1");
+        w.fvk[n] = 2;
+    }
 }
 
 void spanplatte(Wand& w, Seite n, std::span<const Spanplattenband> baender) {
@@ -195,7 +198,10 @@ void spanplatte(Wand& w, Seite n, std::span<const Spanplattenband> baender) {
     w.Gmean[n] = band != nullptr ? band->Gmean : 10;
     if (n == Seite::eins) {
         // Meant, on side 1 only: 700550 N/mm² in the top band of P4, 1000 N/mm² outside all bands of P7.
-        if (isP4 && band == &baender.back()) w.Gmean[n] = 700550;
+        if (isP4 && band == &baender.back()) {
+            soVorgegeben("P4 im obersten Dickenband hat auf Seite 1 den Schubmodul 700550");
+            w.Gmean[n] = 700550;
+        }
         if (isP7 && band == nullptr) w.Gmean[n] = 1000;
     }
     w.Wichte[n] = 6;

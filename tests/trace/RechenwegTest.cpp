@@ -58,6 +58,9 @@ TEST(Rechenweg, TellsEachStepOnceInTheOrderOfTheReport) {
     EXPECT_LT(text.find("\nfm,d = "), text.find("\nRd,1 = "));
     EXPECT_LT(text.find("\nRd,1 = "), text.find("\nuges,T = "));
     EXPECT_NE(text.find("3. Durchgang"), std::string::npos) << "the loads are reduced from pass to pass";
+    EXPECT_EQ(wieOft(text, "\n- jeder Durchgang eines Laufs mindert"), 1U)
+        << "the first page says what is odd";
+    EXPECT_GE(wieOft(text, "so vorgegeben: jeder Durchgang eines Laufs mindert"), 1U);
     EXPECT_NE(text.find("Rippen 2 bis 8"), std::string::npos) << "inner ribs that are alike";
     EXPECT_NE(text.find("im Bericht: Fc,d,g(2) + Fc,d,q(2) = "), std::string::npos);
 }
