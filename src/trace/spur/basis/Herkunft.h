@@ -29,6 +29,7 @@ class Tabellenwert {
     requires std::integral<T> || std::floating_point<T>
     constexpr Tabellenwert(T wert) : wert_(static_cast<double>(wert)) {}  // NOLINT: implicit by design
     constexpr Tabellenwert(const Tabellenwert& andere) : wert_(andere.wert_), zelle_(andere.zelle()) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): it owns nothing
     constexpr Tabellenwert& operator=(const Tabellenwert& andere) {
         wert_ = andere.wert_;
         zelle_ = andere.zelle();

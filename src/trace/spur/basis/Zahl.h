@@ -277,6 +277,7 @@ class Rippenfeld {
             feld_->weiseZu(index_, z);
             return *this;
         }
+        // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a step like any other
         Stelle& operator=(const Stelle& andere) { return *this = Zahl(andere); }
         Stelle(const Stelle&) = default;
         Stelle& operator+=(Zahl z) { return *this = Zahl(*this) + z; }
