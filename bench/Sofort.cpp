@@ -8,9 +8,9 @@
 
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Sofortrechnung.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/main/Form1_Hauptfenster.h"
+#include "ui/verdict/Sofortrechnung.h"
 
 // How long the main window takes from a key in a field until verdict, summaries and drawing are painted, and
 // the two runs behind the verdict alone. Fails when the median is more than a frame of 60 Hz.

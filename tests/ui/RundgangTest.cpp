@@ -1,6 +1,6 @@
 #include "support/Gerechnet.h"
 #include "ui/basics/Fensteroeffner.h"
-#include "ui/basics/Symbol.h"
+#include "ui/controls/Symbol.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
 namespace rippenscheibe {

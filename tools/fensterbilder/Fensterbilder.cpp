@@ -13,7 +13,7 @@
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/main/Fensterfabrik.h"
 #include "ui/main/Form1_Hauptfenster.h"
 

@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "ui/basics/Meldungen.h"
-#include "ui/basics/Pfadwahl.h"
 #include "ui/basics/Programm.h"
+#include "ui/controls/Pfadwahl.h"
 #include "ui/main/Form0_Startbild.h"
 #include "ui/main/Form1_Hauptfenster.h"
 

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 namespace rippenscheibe {
 

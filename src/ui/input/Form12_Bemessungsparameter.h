@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/basics/Eingabedialog.h"
+#include "ui/input/Eingabedialog.h"
 
 namespace rippenscheibe {
 

@@ -12,7 +12,7 @@
 #include "materials/Materialkennwerte.h"
 #include "materials/Querschnittswerte.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 namespace rippenscheibe {
 

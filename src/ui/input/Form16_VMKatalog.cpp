@@ -11,7 +11,7 @@
 #include "model/VMKatalog.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 namespace rippenscheibe {
 

@@ -11,7 +11,7 @@
 #include "model/Kataloge.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 
 namespace rippenscheibe {

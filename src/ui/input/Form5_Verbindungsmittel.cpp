@@ -15,7 +15,7 @@
 #include "model/Kataloge.h"
 #include "plausibility/Plausibilitaetslauf.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/input/Form16_VMKatalog.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "basis/Seite.h"
-#include "ui/basics/Eingabedialog.h"
+#include "ui/input/Eingabedialog.h"
 
 namespace rippenscheibe {
 

@@ -16,7 +16,7 @@
 #include "design/Verankerung.h"
 #include "model/Kataloge.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 
 namespace rippenscheibe {

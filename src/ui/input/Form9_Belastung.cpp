@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/input/Form14_Eigengewicht.h"
 

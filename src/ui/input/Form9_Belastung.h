@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "ui/basics/Eingabedialog.h"
+#include "ui/input/Eingabedialog.h"
 
 namespace rippenscheibe {
 

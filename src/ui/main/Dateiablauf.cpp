@@ -6,8 +6,8 @@
 
 #include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
-#include "ui/basics/Werteingabe.h"
 #include "ui/basics/Zieldatei.h"
+#include "ui/controls/Werteingabe.h"
 
 namespace rippenscheibe {
 

@@ -6,7 +6,7 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "ui/basics/Kurzzeile.h"
+#include "ui/controls/Kurzzeile.h"
 
 namespace rippenscheibe {
 

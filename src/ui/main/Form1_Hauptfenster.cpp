@@ -19,14 +19,14 @@
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Meldungen.h"
-#include "ui/basics/Symbol.h"
-#include "ui/basics/Urteilsanzeige.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Symbol.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/main/Eingabezeile.h"
 #include "ui/main/Fensterfabrik.h"
 #include "ui/main/Hinweisliste.h"
 #include "ui/main/ZuletztMenue.h"
+#include "ui/verdict/Urteilsanzeige.h"
 
 namespace rippenscheibe {
 

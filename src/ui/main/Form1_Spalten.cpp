@@ -14,13 +14,13 @@
 #include "model/Feldangaben.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Kuerzel.h"
-#include "ui/basics/Urteilsanzeige.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/main/Eingabezeile.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/main/Form1_Zusammenfassung.h"
 #include "ui/main/Hinweisliste.h"
+#include "ui/verdict/Urteilsanzeige.h"
 
 // The two columns of the main window and its status bar.
 

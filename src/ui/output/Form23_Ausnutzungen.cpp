@@ -6,8 +6,8 @@
 #include <cmath>
 
 #include "basis/Zahlenformat.h"
-#include "ui/basics/Ausnutzungsbalken.h"
 #include "ui/basics/Programm.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 
 namespace rippenscheibe {
 

@@ -21,12 +21,12 @@
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
+#include "ui/derivation/Herleitungsansicht.h"
 #include "ui/drawings/Ausgabe.h"
 #include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Form23_Text.h"
-#include "ui/output/Herleitungsansicht.h"
-#include "ui/output/PdfAusgabe.h"
 #include "ui/output/Urteilsstreifen.h"
+#include "ui/paper/PdfAusgabe.h"
 
 namespace rippenscheibe {
 

@@ -11,7 +11,7 @@
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"
 #include "ui/basics/Programm.h"
-#include "ui/output/Seitenmaler.h"
+#include "ui/paper/Seitenmaler.h"
 
 namespace rippenscheibe {
 

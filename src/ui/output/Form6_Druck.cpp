@@ -19,9 +19,9 @@
 
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
-#include "ui/output/Druckdialog.h"
-#include "ui/output/Druckpuffer.h"
+#include "ui/controls/Werteingabe.h"
+#include "ui/paper/Druckdialog.h"
+#include "ui/paper/Druckpuffer.h"
 
 namespace rippenscheibe {
 

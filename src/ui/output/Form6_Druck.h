@@ -3,7 +3,7 @@
 #include <QPrinter>
 
 #include "ui/basics/Fenster.h"
-#include "ui/output/PdfAusgabe.h"
+#include "ui/paper/PdfAusgabe.h"
 
 class QCheckBox;
 class QGroupBox;

@@ -16,10 +16,10 @@
 #include "report/Seitenkopf.h"
 #include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
-#include "ui/basics/Pfadwahl.h"
 #include "ui/basics/Programm.h"
-#include "ui/output/PdfAusgabe.h"
-#include "ui/output/Seitenmaler.h"
+#include "ui/controls/Pfadwahl.h"
+#include "ui/paper/PdfAusgabe.h"
+#include "ui/paper/Seitenmaler.h"
 
 namespace rippenscheibe {
 

@@ -10,11 +10,11 @@
 #include "report/Bericht.h"
 #include "run/Luecken.h"
 #include "run/Urteil.h"
-#include "ui/basics/Ausnutzungsbalken.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
 #include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Frischvergleich.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 
 namespace rippenscheibe {
 

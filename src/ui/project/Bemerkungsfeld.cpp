@@ -8,8 +8,8 @@
 #include <algorithm>
 
 #include "model/Bemerkungen.h"
-#include "ui/basics/Papierschrift.h"
 #include "ui/basics/Programm.h"
+#include "ui/paper/Papierschrift.h"
 
 namespace rippenscheibe {
 

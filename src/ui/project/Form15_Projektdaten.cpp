@@ -11,12 +11,12 @@
 #include <utility>
 
 #include "files/Positionsdatei.h"
-#include "ui/basics/Ausnutzungsbalken.h"
 #include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
-#include "ui/basics/Papierschrift.h"
-#include "ui/basics/Pfadwahl.h"
 #include "ui/basics/Programm.h"
+#include "ui/controls/Pfadwahl.h"
+#include "ui/paper/Papierschrift.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 
 namespace rippenscheibe {
 

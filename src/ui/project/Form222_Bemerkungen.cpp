@@ -10,8 +10,8 @@
 #include "files/Positionsdatei.h"
 #include "model/Bemerkungen.h"
 #include "ui/basics/Freitext.h"
-#include "ui/basics/Papierschrift.h"
 #include "ui/basics/Programm.h"
+#include "ui/paper/Papierschrift.h"
 #include "ui/project/Bemerkungsfeld.h"
 #include "ui/project/Form800_Textvorlagen.h"
 

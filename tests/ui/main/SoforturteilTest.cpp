@@ -1,9 +1,9 @@
 #include <limits>
 
 #include "support/Gerechnet.h"
-#include "ui/basics/Ausnutzungsbalken.h"
-#include "ui/basics/Urteilsanzeige.h"
 #include "ui/main/Form1_Hauptfenster.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
+#include "ui/verdict/Urteilsanzeige.h"
 
 namespace rippenscheibe {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "files/Projektliste.h"
 #include "support/Gerechnet.h"
-#include "ui/output/Druckdialog.h"
 #include "ui/output/Form6_Druck.h"
+#include "ui/paper/Druckdialog.h"
 
 namespace rippenscheibe {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "model/Wand.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 // Hands for the window tests: they find controls by name, type, click, and answer modal windows.
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/Bedienung.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 namespace rippenscheibe {
 namespace {

@@ -5,10 +5,10 @@
 #include "files/Projektliste.h"
 #include "report/Bericht.h"
 #include "support/Gerechnet.h"
-#include "ui/output/Druckpuffer.h"
-#include "ui/output/PdfAusgabe.h"
-#include "ui/output/PdfBefehl.h"
-#include "ui/output/Seitenmaler.h"
+#include "ui/paper/Druckpuffer.h"
+#include "ui/paper/PdfAusgabe.h"
+#include "ui/paper/PdfBefehl.h"
+#include "ui/paper/Seitenmaler.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
 
 namespace rippenscheibe {

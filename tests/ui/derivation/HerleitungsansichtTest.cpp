@@ -7,8 +7,8 @@
 #include <QTextEdit>
 
 #include "support/Gerechnet.h"
+#include "ui/derivation/Herleitungsansicht.h"
 #include "ui/output/Form23_Ergebnisse.h"
-#include "ui/output/Herleitungsansicht.h"
 
 namespace rippenscheibe {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/output/Herleitungsansicht.h"
+#include "ui/derivation/Herleitungsansicht.h"
 
 #include <QLabel>
 #include <QListWidget>

@@ -1,4 +1,4 @@
-#include "ui/basics/Eingabedialog.h"
+#include "ui/input/Eingabedialog.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -17,9 +17,9 @@
 #include "ui/basics/Freitext.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Urteilsanzeige.h"
 #include "ui/basics/Wandansicht.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
+#include "ui/verdict/Urteilsanzeige.h"
 
 namespace rippenscheibe {
 

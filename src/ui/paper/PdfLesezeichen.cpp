@@ -1,4 +1,4 @@
-#include "ui/output/PdfLesezeichen.h"
+#include "ui/paper/PdfLesezeichen.h"
 
 #include <QRegularExpression>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "ui/basics/Pfadwahl.h"
+#include "ui/controls/Pfadwahl.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "ui/basics/Sofortrechnung.h"
+#include "ui/verdict/Sofortrechnung.h"
 
 #include <algorithm>
 #include <cmath>

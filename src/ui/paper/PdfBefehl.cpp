@@ -1,4 +1,4 @@
-#include "ui/output/PdfBefehl.h"
+#include "ui/paper/PdfBefehl.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -15,7 +15,7 @@
 #include "run/Berechnungslauf.h"
 #include "run/Zuweisen.h"
 #include "ui/basics/Programm.h"
-#include "ui/output/PdfAusgabe.h"
+#include "ui/paper/PdfAusgabe.h"
 
 namespace rippenscheibe {
 

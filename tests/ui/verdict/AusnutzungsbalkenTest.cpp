@@ -4,7 +4,7 @@
 #include <QTest>
 #include <limits>
 
-#include "ui/basics/Ausnutzungsbalken.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 
 namespace rippenscheibe {
 namespace {

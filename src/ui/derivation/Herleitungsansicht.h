@@ -6,7 +6,7 @@
 
 #include "model/Wand.h"
 #include "trace/Darstellung.h"
-#include "ui/output/Formelbild.h"
+#include "ui/derivation/Formelbild.h"
 
 class QLabel;
 class QListWidget;

@@ -1,4 +1,4 @@
-#include "ui/output/PdfAusgabe.h"
+#include "ui/paper/PdfAusgabe.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -11,9 +11,9 @@
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
-#include "ui/output/Druckpuffer.h"
-#include "ui/output/PdfLesezeichen.h"
-#include "ui/output/Seitenmaler.h"
+#include "ui/paper/Druckpuffer.h"
+#include "ui/paper/PdfLesezeichen.h"
+#include "ui/paper/Seitenmaler.h"
 
 namespace rippenscheibe {
 

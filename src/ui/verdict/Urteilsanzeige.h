@@ -3,8 +3,8 @@
 #include <QWidget>
 #include <vector>
 
-#include "ui/basics/Ausnutzungsbalken.h"
-#include "ui/basics/Sofortrechnung.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
+#include "ui/verdict/Sofortrechnung.h"
 
 class QLabel;
 class QStackedLayout;

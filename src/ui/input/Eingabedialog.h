@@ -14,7 +14,7 @@
 #include "model/Feldangaben.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 class QGridLayout;
 class QGroupBox;

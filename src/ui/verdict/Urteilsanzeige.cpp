@@ -1,4 +1,4 @@
-#include "ui/basics/Urteilsanzeige.h"
+#include "ui/verdict/Urteilsanzeige.h"
 
 #include <QAccessible>
 #include <QEvent>
@@ -8,9 +8,9 @@
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
-#include "ui/basics/Ausnutzungsbalken.h"
-#include "ui/basics/Kurzzeile.h"
 #include "ui/basics/Programm.h"
+#include "ui/controls/Kurzzeile.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/output/Formelbild.h"
+#include "ui/derivation/Formelbild.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

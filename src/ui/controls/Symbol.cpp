@@ -1,4 +1,4 @@
-#include "ui/basics/Symbol.h"
+#include "ui/controls/Symbol.h"
 
 #include <QIconEngine>
 #include <QPainter>

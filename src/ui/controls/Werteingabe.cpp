@@ -1,4 +1,4 @@
-#include "ui/basics/Werteingabe.h"
+#include "ui/controls/Werteingabe.h"
 
 #include <QFocusEvent>
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-#include "ui/basics/Papierschrift.h"
+#include "ui/paper/Papierschrift.h"
 
 #include <QFontMetricsF>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "ui/basics/Ausnutzungsbalken.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 
 #include <QEvent>
 #include <QPainter>

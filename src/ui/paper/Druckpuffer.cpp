@@ -1,9 +1,9 @@
-#include "ui/output/Druckpuffer.h"
+#include "ui/paper/Druckpuffer.h"
 
 #include <string>
 #include <utility>
 
-#include "ui/output/Seitenmaler.h"
+#include "ui/paper/Seitenmaler.h"
 
 namespace rippenscheibe {
 

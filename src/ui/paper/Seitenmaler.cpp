@@ -1,4 +1,4 @@
-#include "ui/output/Seitenmaler.h"
+#include "ui/paper/Seitenmaler.h"
 
 #include <QFontMetricsF>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "ui/output/Druckdialog.h"
+#include "ui/paper/Druckdialog.h"
 
 #include <QPrintDialog>
 #include <QPrinterInfo>

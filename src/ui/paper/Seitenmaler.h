@@ -6,7 +6,7 @@
 
 #include "model/Wand.h"
 #include "report/Zeichenflaeche.h"
-#include "ui/basics/Papierschrift.h"
+#include "ui/paper/Papierschrift.h"
 
 // The pages of the report on paper: a surface in millimetres on any painter, be it that of a printer, of a
 // PDF, of a preview or of a widget.

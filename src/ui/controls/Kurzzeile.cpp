@@ -1,4 +1,4 @@
-#include "ui/basics/Kurzzeile.h"
+#include "ui/controls/Kurzzeile.h"
 
 #include <QPainter>
 #include <QTextLayout>
