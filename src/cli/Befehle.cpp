@@ -372,6 +372,7 @@ Rueckgabe fuehreAus(const Auftrag& auftrag, const fs::path& programmordner, cons
         case Befehl::tafel:
         case Befehl::stueckliste:
         case Befehl::lastfaelle:
+        case Befehl::projekt:
             return arbeit.studie();
     }
     return Rueckgabe::aufruf;

@@ -30,7 +30,8 @@ enum class Befehl {
     hilft,
     tafel,
     stueckliste,
-    lastfaelle
+    lastfaelle,
+    projekt
 };
 enum class Ausgabeart { text, rtf, json };
 enum class Zustand { jeDatei, gemeinsam };  // a fresh position for each file, or one for all

@@ -8,9 +8,11 @@
 #include <utility>
 
 #include "cli/Befehle.h"
+#include "cli/Projektausgabe.h"
 #include "files/Dateischreiber.h"
 #include "files/Pfad.h"
 #include "study/Lastfaelle.h"
+#include "study/Projekt.h"
 #include "study/Tafel.h"
 #include "study/Variation.h"
 #include "study/WasHilft.h"
@@ -44,12 +46,6 @@ class Wache {
     std::jthread faden_;
 };
 
-std::string mitKomma(double wert) {
-    std::string text = zahltext(wert);
-    std::replace(text.begin(), text.end(), '.', ',');
-    return text;
-}
-
 std::string_view feldname(int feld) { return eingabefelder()[static_cast<std::size_t>(feld)].angabe.name; }
 
 // Carries one verb out.
@@ -76,6 +72,8 @@ class Studie {
                     return tafel();
                 case Befehl::stueckliste:
                     return stueckliste();
+                case Befehl::projekt:
+                    return projekt();
                 default:
                     return lastfaelle();
             }
@@ -364,25 +362,30 @@ class Studie {
     }
 
     void gibMengenAus(Zeilenausgabe& ausgabe, const std::string& wand, const Mengen& m) {
-        const auto posten = [&](const std::string& art, const std::string& name, const std::string& mass,
-                                double stueck, double menge, const std::string& einheit) {
-            Studienzeile zeile;
-            zeile.vorn = {
-                {"wand", jsonOderNull(wand)},      {"art", jsonOderNull(art)},
-                {"name", jsonOderNull(name)},      {"mass", jsonOderNull(mass)},
-                {"stueck", jsonWert(stueck)},      {"menge", jsonWert(std::round(menge * 1e6) / 1e6)},
-                {"einheit", jsonOderNull(einheit)}};
+        for (const Mengenzeile& posten : mengenzeilen(m)) {
+            Studienzeile zeile{.vorn = mengenglieder(posten), .gruppe = {}, .innen = {}, .hinten = {}};
+            zeile.vorn.insert(zeile.vorn.begin(), {"wand", jsonOderNull(wand)});
             u_.gibAus(ausgabe.zeile(zeile));
-        };
-        for (const Holzposten& p : m.holz)
-            posten("Holz", p.bezeichnung,
-                   mitKomma(p.b) + "x" + mitKomma(p.h) + ", l = " + mitKomma(std::round(p.laenge * 10) / 10),
-                   p.stueck, p.b * p.h * p.laenge * p.stueck * 1e-9, "m³");
-        for (const Plattenposten& p : m.platten)
-            posten("Platte", p.material, mitKomma(p.dicke) + " mm", p.stueck, p.flaeche, "m²");
-        for (const Stueckposten& p : m.verbindungsmittel)
-            posten("Verbindungsmittel", p.name, "", p.stueck, p.stueck, "Stück");
-        for (const Stueckposten& p : m.anker) posten("Anker", p.name, "", p.stueck, p.stueck, "Stück");
+        }
+    }
+
+    Rueckgabe projekt() {
+        Projektausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv, u_.gibAus);
+        auto dateien = projektdateien(auftrag_.ordner);
+        if (auto* fehler = std::get_if<std::string>(&dateien)) throw Abbruch{*fehler, Rueckgabe::dateifehler};
+        const auto& liste = std::get<0>(dateien);
+        if (liste.empty())
+            throw Abbruch{"Im Ordner \"" + pfadtext(auftrag_.ordner) + "\" liegt keine Position.",
+                          Rueckgabe::dateifehler};
+        int hoechster = 0;
+        liesProjekt(liste, u_.materialien, ausfuehrung(), [&](const Projektposition& position) {
+            hoechster = std::max(hoechster, static_cast<int>(position.stand()));
+            ausgabe.gib(position);
+            return true;
+        });
+        zeigeFortschritt({});
+        ausgabe.schliesse();
+        return static_cast<Rueckgabe>(hoechster);
     }
 
     Rueckgabe lastfaelle() {

@@ -49,6 +49,8 @@ struct Studienauftrag {
     std::optional<std::filesystem::path> preise;
     bool eigengewicht = false;
     double zwischenrippen = 1;
+    // projekt
+    std::filesystem::path ordner;
     // tafel
     std::string groesste;
     std::string zeilen;

@@ -106,4 +106,10 @@ void anfuegeUrteil(Glieder& glieder, const Bewertung& bewertung, const Bewertung
     glieder.emplace_back("massgebend", gerechnet ? jsonOderNull(massgebendText(bewertung, regel)) : "null");
 }
 
+Glieder mengenglieder(const Mengenzeile& posten) {
+    return {{"art", jsonOderNull(posten.art)},   {"name", jsonOderNull(posten.name)},
+            {"mass", jsonOderNull(posten.mass)}, {"stueck", jsonWert(posten.stueck)},
+            {"menge", jsonWert(posten.menge)},   {"einheit", jsonOderNull(posten.einheit)}};
+}
+
 }  // namespace rippenscheibe

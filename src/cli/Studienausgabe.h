@@ -7,6 +7,7 @@
 
 #include "study/Bewertung.h"
 #include "study/Csv.h"
+#include "study/Mengen.h"
 #include "study/Raster.h"
 
 // Rows of a study as text, CSV or JSON lines.
@@ -49,5 +50,7 @@ std::string jsonListe(const std::vector<std::string>& texte);
 void anfuegeZuweisungen(Glieder& glieder, const std::vector<std::pair<int, Feldwert>>& setzt);
 // Utilisation, proof (with its load case), direction of Fv.
 void anfuegeUrteil(Glieder& glieder, const Bewertung& bewertung, const Bewertungsregel& regel);
+// A row of a list of quantities.
+Glieder mengenglieder(const Mengenzeile& posten);
 
 }  // namespace rippenscheibe

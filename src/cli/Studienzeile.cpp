@@ -208,6 +208,20 @@ void fuegeListenverbenHinzu(const Studienverben& verben, Studienauftrag& auftrag
     fuegeCsvHinzu(stueckliste, auftrag);
     verben.nach(stueckliste);
 
+    CLI::App& projekt = verben.befehl("projekt", "gibt die Übersicht aller Positionen eines Ordners aus",
+                                      static_cast<int>(Befehl::projekt));
+    projekt
+        .add_option_function<std::string>(
+            "ORDNER", [&](const std::string& wert) { auftrag.ordner = pfadAus(wert); },
+            "Ordner mit Positionsdateien (.rsw)")
+        ->required()
+        ->option_text(" ");
+    verben.material(projekt);
+    fuegeWahlHinzu(projekt, "--ausgabe", ausgaben, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
+    fuegeCsvHinzu(projekt, auftrag);
+    fuegeFaedenHinzu(projekt, auftrag);
+    verben.nach(projekt);
+
     CLI::App& lastfaelle =
         verben.befehl("lastfaelle", "schlägt Lastfälle einer Wand vor: lastfaelle neu DATEI",
                       static_cast<int>(Befehl::lastfaelle));

@@ -136,6 +136,24 @@ double holzvolumen(const Mengen& m) {
     return summe;
 }
 
+std::vector<Mengenzeile> mengenzeilen(const Mengen& m) {
+    std::vector<Mengenzeile> zeilen;
+    const auto gerundet = [](double menge) { return std::round(menge * 1e6) / 1e6; };
+    for (const Holzposten& p : m.holz)
+        zeilen.push_back(
+            {"Holz", p.bezeichnung,
+             mitKomma(p.b) + "x" + mitKomma(p.h) + ", l = " + mitKomma(std::round(p.laenge * 10) / 10),
+             p.stueck, gerundet(p.b * p.h * p.laenge * p.stueck * 1e-9), "m³"});
+    for (const Plattenposten& p : m.platten)
+        zeilen.push_back(
+            {"Platte", p.material, mitKomma(p.dicke) + " mm", p.stueck, gerundet(p.flaeche), "m²"});
+    for (const Stueckposten& p : m.verbindungsmittel)
+        zeilen.push_back({"Verbindungsmittel", p.name, "", p.stueck, gerundet(p.stueck), "Stück"});
+    for (const Stueckposten& p : m.anker)
+        zeilen.push_back({"Anker", p.name, "", p.stueck, gerundet(p.stueck), "Stück"});
+    return zeilen;
+}
+
 Mengensummen mengensummen(const Wand& w, const Reihenregel& regel) {
     Mengensummen m;
     jederHolzposten(w, [&](const char*, double b, double h, double laenge, double stueck) {

@@ -44,6 +44,18 @@ void addiere(Mengen& summe, const Mengen& posten);
 
 double holzvolumen(const Mengen& m);  // m³
 
+// One row of a list of quantities: "Holz", "Innenrippen", "60x120, l = 2380", 9 pieces, 0.154 m³. Fasteners
+// and anchors have no measure, and their quantity is that of pieces.
+struct Mengenzeile {
+    std::string art;
+    std::string name;
+    std::string mass;
+    double stueck;
+    double menge;
+    std::string einheit;
+};
+std::vector<Mengenzeile> mengenzeilen(const Mengen& m);
+
 // What a price needs of a wall. Allocates nothing.
 struct Mengensummen {
     double holz = 0;         // m³

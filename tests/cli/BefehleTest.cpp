@@ -231,7 +231,7 @@ TEST_F(Befehle, RunsInOneStateAreThoseOfAFileOpenedAgain) {
 
 TEST_F(Befehle, ExamplesAreTransferredByteForByte) {
     int anzahl = 0;
-    for (const auto& eintrag : fs::directory_iterator(beispiele)) {
+    for (const auto& eintrag : fs::recursive_directory_iterator(beispiele)) {
         if (eintrag.path().extension() != ".rsw") continue;
         ++anzahl;
         const Ergebnis e = tool({"uebertrage", eintrag.path().string(), "-o", datei("neu.rsw")});
@@ -286,6 +286,13 @@ TEST_F(Befehle, VerbsOverManyWallsAnswerWithCodeAndSentence) {
         {{"lege-aus", wand, "--feld", "av1=150", "--preise", preise}, 1, "1 von 1 Kandidaten geprüft"},
         {{"lege-aus", wand, "--preise", preise, "--ausgabe", "json"}, 0, "Beispielpreise"},
         {{"tafel", wand, "--groesste", "Fvk", "--zeilen", "Wandlaenge=5"}, 64, "Es fehlt --spalten."},
+        {{"projekt", beispiele.string()}, 2, "hinweise.rsw: Hinweis: "},
+        {{"projekt", beispiele.string(), "--ausgabe", "json"}, 2, "\"uebersprungen\":[],\"fehler\":null}"},
+        {{"projekt", beispiele.string()}, 2, "1 nicht erfüllt, 1 mit Hinweisen\n\nart "},
+        {{"projekt", (beispiele / "haus").string()}, 1, "13 erfüllt, 1 nicht erfüllt"},
+        {{"projekt", ordner.string()}, 3, "liegt keine Position."},
+        {{"projekt", datei("fehlt")}, 3, "kann nicht gelesen werden."},
+        {{"projekt"}, 64, "Es fehlt eine Angabe: ORDNER."},
         {{"rechne", wand, "--lastfaelle", schreibe("f.csv", "name;Fvk\nA;3\nB;7\n")}, 0, "maßgebend B: 5."},
     };
     for (const Fall& fall : faelle) {
