@@ -56,7 +56,7 @@ double nurGerechnet(const Programm& programm) {
         uhr.start();
         const Sofortergebnis ergebnis = rechneSofort(programm.w, programm.felder);
         zeiten.push_back(millisekunden(uhr));
-        if (!ergebnis.urteil.maxEta && ergebnis.hinweise.isEmpty()) return -1;
+        if (!ergebnis.urteil.maxEta && ergebnis.hinweise.empty()) return -1;
     }
     return mittlere(zeiten);
 }

@@ -19,6 +19,7 @@
 #include "plausibility/Plausibilitaetslauf.h"
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"
+#include "run/Positionslauf.h"
 #include "run/Urteil.h"
 #include "run/Zuweisen.h"
 #include "study/Lastfaelle.h"
@@ -114,19 +115,15 @@ class Arbeit {
     Rueckgabe leiteDateiHer(const fs::path& datei, Wand& w) {
         const std::optional<Grundmasse> felder = lade(datei, w);
         if (!felder) return Rueckgabe::dateifehler;
-        for (int lauf = 1; lauf < auftrag_.laeufe; ++lauf) {
-            zuweisen(w, *felder);
-            starte(w);
-        }
+        laufePosition(w, *felder, auftrag_.laeufe - 1);
         const Wand vorher = w;
-        zuweisen(w, *felder);
-        const bool gerechnet = starte(w) == Laufergebnis::gerechnet;
-        meldeErgebnis(datei, w, gerechnet);
-        if (!gerechnet) return Rueckgabe::hinweise;
+        const Positionslauf lauf = laufePosition(w, *felder);
+        melde(datei, lauf.meldungen);
+        if (!lauf.gerechnet()) return lauf.rueckgabe;
         const herleitung::Graph graph = leiteHer(vorher, *felder);
         gibAus(auftrag_.ausgabe == Ausgabeart::json ? herleitungJson(graph, auftrag_.herleitung)
                                                     : herleitungText(graph, auftrag_.herleitung));
-        return w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
+        return lauf.rueckgabe;
     }
 
     // With load cases each of them in a record of its own; which one governs is told at the end.
@@ -159,19 +156,11 @@ class Arbeit {
             Feldzugriff zugriff(w);
             for (const auto& [feld, wert] : fall->werte) zugriff.setze(feld, wert);
         }
-        Laufergebnis ergebnis = Laufergebnis::hinweise;
-        for (int lauf = 0; lauf < auftrag_.laeufe; ++lauf) {
-            zuweisen(w, *felder);
-            ergebnis = starte(w, auftrag_.hinweise);
-        }
-        const bool gerechnet = ergebnis == Laufergebnis::gerechnet;
+        const Positionslauf lauf = laufePosition(w, *felder, auftrag_.laeufe, auftrag_.hinweise);
         if (fall != nullptr) melde(datei, "Lastfall " + fall->name);
-        meldeErgebnis(datei, w, gerechnet);
-        gibErgebnisAus(datei, w, gerechnet, fall);
-        const Rueckgabe rueckgabe = !w.Hinweise.empty()       ? Rueckgabe::hinweise
-                                    : w.AlleNachweiseErfuellt ? Rueckgabe::erfuellt
-                                                              : Rueckgabe::nichtErfuellt;
-        return {rueckgabe, urteil(w, ergebnis)};
+        melde(datei, lauf.meldungen);
+        gibErgebnisAus(datei, w, lauf.gerechnet(), fall);
+        return {lauf.rueckgabe, urteil(w, lauf.ergebnis)};
     }
 
     // The load cases of the command; false when they cannot be read.
@@ -196,7 +185,7 @@ class Arbeit {
         if (!lade(datei, w)) return Rueckgabe::dateifehler;
         plausibilitaetslauf(w);
         std::string text;
-        for (const std::string& hinweis : w.Hinweise) text += pfadtext(datei) + ": " + hinweis + "\n";
+        for (const Hinweis& hinweis : w.Hinweise) text += pfadtext(datei) + ": " + hinweis.text + "\n";
         gibAus(w.Hinweise.empty() ? pfadtext(datei) + ": keine Hinweise\n" : text);
         return w.Hinweise.empty() ? Rueckgabe::erfuellt : Rueckgabe::hinweise;
     }
@@ -204,37 +193,17 @@ class Arbeit {
     // Opens a position as the window program does; the three fields of its main window come back. Nothing
     // when the file cannot be opened: it is reported and the record is untouched.
     std::optional<Grundmasse> lade(const fs::path& datei, Wand& w) {
-        if (const auto grund = einwand(datei)) {
-            melde(datei, *grund);
-            return std::nullopt;
-        }
-        const Dateiinhalt inhalt = liesDatei(datei);
-        if (inhalt.fehler) {
-            ausgaben_.meldungen(inhalt.fehler->text + "\n");
-            return std::nullopt;
-        }
-        meldeUnterbrochene(datei);
-        const std::string text = dekodiert(inhalt.bytes);
-        if (positionsbefund(text).ganzeAnweisungen == 0) {
-            melde(datei, std::string(keinePosition));
+        const Oeffnung oeffnung = oeffnePosition(datei, w, Einlass::nurPositionen);
+        if (oeffnung.gelesen) meldeUnterbrochene(datei);
+        if (oeffnung.fehler) {
+            ausgaben_.meldungen(*oeffnung.fehler + "\n");
             return std::nullopt;
         }
         gelesen_ = true;
-        for (const Uebersprungen& feld : liesPositionstext(text, w)) melde(datei, beschreibung(feld));
+        melde(datei, oeffnung.vorbehalte);
         eingaben_ = w;
-        const Grundmasse felder = grundmasse(w);
-        zuweisen(w, felder);
-        return felder;
-    }
-
-    void meldeErgebnis(const fs::path& datei, const Wand& w, bool gerechnet) const {
-        if (!gerechnet) {
-            melde(datei, "Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!");
-        }
-        for (const std::string& hinweis : w.Hinweise) melde(datei, hinweis);
-        if (gerechnet && !w.AlleNachweiseErfuellt) {
-            melde(datei, "Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! ");
-        }
+        zuweisen(w, oeffnung.felder);
+        return oeffnung.felder;
     }
 
     void gibErgebnisAus(const fs::path& datei, const Wand& w, bool gerechnet, const Lastfallzeile* fall) {
@@ -257,6 +226,9 @@ class Arbeit {
 
     void melde(const fs::path& datei, const std::string& text) const {
         ausgaben_.meldungen(pfadtext(datei) + ": " + text + "\n");
+    }
+    void melde(const fs::path& datei, const Texte& texte) const {
+        for (const std::string& text : texte) melde(datei, text);
     }
 
     void gibAus(std::string_view text) {

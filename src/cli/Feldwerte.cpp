@@ -154,7 +154,7 @@ void anfuegeJson(std::string& json, const Rippenfeld& wert, const Umfang& umfang
 std::string jsonZeile(std::string_view datei, const Wand& w, bool gerechnet) {
     const Umfang u = umfang(w);
     std::string json = "{\"datei\":" + jsonText(datei) + ",\"hinweise\":";
-    anfuegeTexte(json, w.Hinweise);
+    anfuegeTexte(json, texte(w.Hinweise));
     json += ",\"erfuellt\":";
     json += !gerechnet ? "null" : w.AlleNachweiseErfuellt ? "true" : "false";
     json += ",\"eingaben\":";

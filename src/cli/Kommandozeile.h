@@ -11,11 +11,9 @@
 #include "cli/Studie.h"
 #include "report/Bericht.h"
 #include "run/Berechnungslauf.h"
+#include "run/Positionslauf.h"
 
 namespace rippenscheibe {
-
-// What the program tells its caller; with several files the highest.
-enum class Rueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
 
 enum class Befehl {
     rechne,

@@ -5,6 +5,7 @@
 #include "model/EigeneMaterialien.h"
 #include "model/Eingaben.h"
 #include "model/Ergebnisse.h"
+#include "model/Hinweis.h"
 #include "model/Platten.h"
 #include "model/VMArten.h"
 
@@ -20,7 +21,7 @@ namespace rippenscheibe {
 // in cm², moduli in cm³.
 struct Wand : Eingaben, Ergebnisse {
     EigeneMaterialien eigeneMaterialien;  // the own-material table, loaded at start
-    Texte Hinweise;                       // findings of the last plausibility run
+    std::vector<Hinweis> Hinweise;        // findings of the last plausibility run
 };
 
 // Plattendicke of side n as it is stored. Side 1 is a double, side 2 single precision: the sides of

@@ -1,5 +1,7 @@
 #include "plausibility/Hinweistexte.h"
 
+#include "model/Kataloge.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -26,10 +28,9 @@ std::string mitSeite(std::string_view text, Seite n) {
     return fuerSeite(std::string(vorsatz).append(text), n);
 }
 
-std::string ohneSeite(std::string_view hinweis) {
-    std::string text = ersetze(hinweis, nameSeite2, nameSeite1);
-    if (text.starts_with(vorsatz)) text.erase(0, vorsatz.size());
-    return text;
+std::string ausgefuellt(std::string_view text, Art art, Platte platte) {
+    const std::string mitArt = ersetze(text, "{VMArt}", eintrag(VMArten(), static_cast<int>(art)));
+    return ersetze(mitArt, "{Material}", eintrag(Plattenmaterialien(), static_cast<int>(platte)));
 }
 
 }  // namespace rippenscheibe

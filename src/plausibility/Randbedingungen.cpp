@@ -8,6 +8,12 @@ namespace rippenscheibe {
 
 namespace {
 
+// One text of a finding and where its input is made.
+struct Meldung {
+    std::string_view text;
+    Eingabeort ort;
+};
+
 enum class Bedingung {
     imperfektionen,
     vereinfachteBerechnung,
@@ -29,11 +35,11 @@ enum class Bedingung {
 // proportions says b/h and the test is h/b: that is meant. So are the closing blank of the text on
 // overlapping fasteners and the limits of 150 and 200 mm, which decide nothing.
 constexpr std::array<Meldung, static_cast<std::size_t>(Bedingung::anzahl)> meldungen{{
-    {"Randbedingungen nach 8.7.5(8) nicht eingehalten! Nachweis der horizontalen Verformung und Berücksichtigung von Imperfektionen erforderlich!", Eingabeort::Abmessungen},
-    {"Randbedingungen zur vereinfachten Berechnung von Wandtafeln unter horizontaler Scheibenbeanspruchung nach 8.7.5(8) nicht eingehalten!",       Eingabeort::Abmessungen},
+    {"Randbedingungen nach 8.7.5(8) nicht eingehalten! Nachweis der horizontalen Verformung und Berücksichtigung von Imperfektionen erforderlich!", Eingabeort::Wandlaenge},
+    {"Randbedingungen zur vereinfachten Berechnung von Wandtafeln unter horizontaler Scheibenbeanspruchung nach 8.7.5(8) nicht eingehalten!",       Eingabeort::Wandlaenge},
     {"Verhältnis b/h der Randrippen darf bei einseitiger Beplankung maximal 4 sein!",                                                               Eingabeort::Rippen},
     {"Verhältnis b/h der Innenrippen darf bei einseitiger Beplankung maximal 4 sein!",                                                              Eingabeort::Rippen},
-    {"Rippenabstand zu groß bzw. Beplankungsdicke zu klein! Der Rippenabstand ar darf maximal 50*t betragen!",                                      Eingabeort::Abmessungen},
+    {"Rippenabstand zu groß bzw. Beplankungsdicke zu klein! Der Rippenabstand ar darf maximal 50*t betragen!",                                      Eingabeort::Rippenabstand},
     {"Wegen Spaltgefahr des Holzes müssen die Rippen bei nicht vorgebohrten Nagelverb. eine Mindesthöhe nach DIN 1052(2008) 12.5.2 (13) aufweisen!", Eingabeort::Rippen},
     {"Achtung! Laut DIN 1052(2008) 12.5.2 (12) dürfen sich Verbindungsmittel nicht übergreifen wenn (t2-lwand) größer als 4*d ist! ",               Eingabeort::Verbindungsmittel},
     {"Verbindungsmittelabstand av zu klein! av muss mindestens 20*d sein!",                                                                         Eingabeort::Verbindungsmittel},
@@ -44,10 +50,14 @@ constexpr std::array<Meldung, static_cast<std::size_t>(Bedingung::anzahl)> meldu
 }};
 // clang-format on
 
-std::string_view text(Bedingung b) { return meldungen[static_cast<std::size_t>(b)].text; }
+const Meldung& zeile(Bedingung b) { return meldungen[static_cast<std::size_t>(b)]; }
 
-void melde(Wand& w, Bedingung b) { w.Hinweise.emplace_back(text(b)); }
-void melde(Wand& w, Bedingung b, Seite n) { w.Hinweise.push_back(mitSeite(text(b), n)); }
+void melde(Wand& w, Bedingung b) {
+    w.Hinweise.push_back({std::string(zeile(b).text), std::nullopt, zeile(b).ort});
+}
+void melde(Wand& w, Bedingung b, Seite n) {
+    w.Hinweise.push_back({mitSeite(zeile(b).text, n), n, zeile(b).ort});
+}
 
 // Proportions of wall and panels, 8.7.5 (8). A horizontal joint of the panels makes no difference.
 void pruefeWandverhaeltnisse(Wand& w) {
@@ -139,12 +149,6 @@ void pruefeRandbedingungen(Wand& w) {
         pruefePlattenbreite(w, n);
         pruefeLaenge(w, n);
     }
-}
-
-std::optional<Eingabeort> ortDerRandbedingung(std::string_view hinweis) {
-    for (const Meldung& meldung : meldungen)
-        if (hinweis == meldung.text) return meldung.ort;
-    return std::nullopt;
 }
 
 }  // namespace rippenscheibe

@@ -71,7 +71,7 @@ bool Pruefstand::bewerteFall(Bewertung& bewertung, int lastfall) {
         }
         if (!wand_.Hinweise.empty()) {
             bewertung.ausgang = Ausgang::hinweis;
-            bewertung.hinweis = wand_.Hinweise.front();
+            bewertung.hinweis = wand_.Hinweise.front().text;
             return false;
         }
         const Urteil u = urteil(wand_);

@@ -146,7 +146,7 @@ std::vector<Fallurteil> fallurteile(const Eingaben& wand, const EigeneMaterialie
         static_cast<Eingaben&>(w) = wand;
         for (const auto& [feld, wert] : fall.werte) felder.setze(feld, wert);
         const Laufergebnis lauf = rechneFrisch(w);
-        urteile.push_back({fall.name, urteil(w, lauf), w.Hinweise, {}});
+        urteile.push_back({fall.name, urteil(w, lauf), texte(w.Hinweise), {}});
         if (lauf == Laufergebnis::hinweise) continue;
         for (const Lueckenart art : luecken(w).arten())
             urteile.back().luecken.emplace_back(art, lueckensatz(w, art));

@@ -213,7 +213,7 @@ struct Zeilenrechner::Innen {
         glied("maxEta", oderNull(u.maxEta.has_value(), [&](std::string& t) { anfuegeZahl(t, *u.maxEta); }));
         glied("massgebend",
               oderNull(u.massgebend.has_value(), [&](std::string& t) { anfuegeJsonText(t, *u.massgebend); }));
-        glied("hinweise", texte(w.Hinweise));
+        glied("hinweise", texte(rippenscheibe::texte(w.Hinweise)));
         glied("luecken", gerechnet ? texte(lueckensaetze(w)) : "[]");
         for (std::size_t i = 0; i < ausgabefelder.size(); ++i) {
             const auto [eingabe, ergebnis] = ausgabefelder[i];

@@ -59,7 +59,7 @@ TEST(Stapel, AnswersEachLineWithTheFreshRunOfItsWallWhateverStandsBefore) {
             const Wand& w = frisch.wand;
             const Urteil u = urteil(w, frisch.ergebnis);
             ASSERT_EQ(j["ok"], true) << text;
-            EXPECT_EQ(j["hinweise"].get<Texte>(), w.Hinweise);
+            EXPECT_EQ(j["hinweise"].get<Texte>(), texte(w.Hinweise));
             EXPECT_EQ(j["maxEta"].is_null(), !u.maxEta.has_value());
             if (!u.maxEta) continue;
             ++gerechnet;

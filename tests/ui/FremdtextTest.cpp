@@ -45,7 +45,7 @@ class Fremdtext : public Gerechnet {
         w.FreierAnkerName = w.Projekt = w.Position = w.PositionsBemerkung = w.Datum = markup;
         w.Ankertyp = 13;
         w.Vorbemerkungen.fill(markup);
-        w.Hinweise = {markup};
+        w.Hinweise = {Hinweis{markup}};
         w.eigeneMaterialien.zeilen.assign(1, {});
         w.eigeneMaterialien.zeilen[0].name = markup;
         for (const Seite n : beideSeiten) {

@@ -233,10 +233,10 @@ void Form5::lade(const Wand& w) {
 }
 
 std::optional<Eingabedialog::Ablehnung> Form5::ablehnung(const Wand& w) const {
-    const Texte funde = allgemeinePruefung(w);
+    const std::vector<Hinweis> funde = allgemeinePruefung(w);
     if (funde.empty()) return std::nullopt;
-    const std::string& text = funde.front();
-    const Seitenfelder& s = seiten_[text.starts_with("Beplankung 2") ? Seite::zwei : Seite::eins];
+    const std::string& text = funde.front().text;
+    const Seitenfelder& s = seiten_[funde.front().seite.value_or(Seite::eins)];
     const Ablehnungsort orte[] = {{"Gewinde-/Rillenlänge lg", s.lg},
                                   {"Kopfdurchmesser dk", s.dk},
                                   {"Die Länge l des VM", s.ln},

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "files/Positionsdatei.h"
+#include "run/Positionslauf.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Zieldatei.h"
 #include "ui/controls/Werteingabe.h"
@@ -200,14 +201,14 @@ bool Dateiablauf::lade(const QString& datei) {
     programm_.Sperre = true;
     // What is missing or does not parse keeps its value without a word: files of older layouts end early. A
     // file that is there but cannot be read leaves the position as it is.
-    const auto lesung = liesPosition(pfad(datei), programm_.w);
-    if (const auto stoerung = lesung.stoerung()) {
+    const Oeffnung oeffnung = oeffnePosition(pfad(datei), programm_.w, Einlass::jedeDatei);
+    if (oeffnung.fehler) {
         programm_.Sperre = false;
-        meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(stoerung->text));
+        meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(*oeffnung.fehler));
         programm_.Dateiname.clear();
         return false;
     }
-    programm_.felder = grundmasse(programm_.w);
+    programm_.felder = oeffnung.felder;
     programm_.setzeGesichert(false);  // a file just opened counts as changed; that is meant
     programm_.setzeTitel(datei);
     programm_.Sperre = false;
@@ -215,7 +216,7 @@ bool Dateiablauf::lade(const QString& datei) {
     programm_.zuweisen();
     merkeDateistand();
     programm_.leereSchritte();
-    if (benutzt && !lesung.fehler) benutzt(datei);
+    if (benutzt && oeffnung.gelesen) benutzt(datei);
     return true;
 }
 

@@ -14,8 +14,7 @@
 #include <QUrl>
 
 #include "files/EigeneMaterialienDatei.h"
-#include "plausibility/Plausibilitaetslauf.h"
-#include "run/Berechnungslauf.h"
+#include "run/Positionslauf.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Meldungen.h"
@@ -200,9 +199,7 @@ void Form1::zeigeTitel() {
 }
 
 void Form1::zeigeHinweise() {
-    QStringList texte;
-    for (const std::string& hinweis : programm_.w.Hinweise) texte << qtext(hinweis);
-    hinweise_->zeige(texte);
+    hinweise_->zeige(programm_.w.Hinweise);
     zeigeHinweisstand();
 }
 
@@ -240,20 +237,14 @@ void Form1::rechneUndZeige(Fensterart ausgabe) {
     if (!eingabenGueltig(*this, meldungen_)) return;
     programm_.vorDemLauf = programm_.w;
     programm_.zuweisen();
-    const Laufergebnis ergebnis = rippenscheibe::starte(programm_.w);
+    const Positionslauf lauf = laufePosition(programm_.w, programm_.felder);
     geprueft_ = programm_.eingabestand();
     zeigeHinweise();
-    if (ergebnis == Laufergebnis::hinweise) {
-        meldungen_.kritisch(
-            this, QStringLiteral(" Fehler"),
-            QStringLiteral("Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler "
-                           "beheben!"));
+    if (!lauf.gerechnet()) {
+        meldungen_.kritisch(this, QStringLiteral(" Fehler"), qtext(lauf.satz));
         return;
     }
-    if (!programm_.w.AlleNachweiseErfuellt)
-        meldungen_.hinweis(
-            this, QStringLiteral(" Hinweis"),
-            QStringLiteral("Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! "));
+    if (!lauf.satz.empty()) meldungen_.hinweis(this, QStringLiteral(" Hinweis"), qtext(lauf.satz));
     oeffneFenster(ausgabe);
 }
 
@@ -270,12 +261,14 @@ bool Form1::oeffneFenster(Fensterart art) {
     return uebernommen;
 }
 
-// The dialog where the input stands that a finding names.
-void Form1::oeffneZu(const QString& hinweis) {
-    switch (ort(utf8(hinweis))) {
-        case Eingabeort::Abmessungen:
-            oeffneMass(hinweis.contains(QStringLiteral("Rippenabstand ar")) ? &Grundmasse::Rippenabstand
-                                                                            : &Grundmasse::Wandlaenge);
+// The field or dialog where the input stands that a finding names.
+void Form1::oeffneZu(Eingabeort ort) {
+    switch (ort) {
+        case Eingabeort::Wandlaenge:
+            oeffneMass(&Grundmasse::Wandlaenge);
+            break;
+        case Eingabeort::Rippenabstand:
+            oeffneMass(&Grundmasse::Rippenabstand);
             break;
         case Eingabeort::Rippen:
             oeffneFenster(Fensterart::rippen);
@@ -285,8 +278,6 @@ void Form1::oeffneZu(const QString& hinweis) {
             break;
         case Eingabeort::Verbindungsmittel:
             oeffneFenster(Fensterart::verbindungsmittel);
-            break;
-        case Eingabeort::unbekannt:
             break;
     }
 }

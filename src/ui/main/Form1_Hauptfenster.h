@@ -96,7 +96,7 @@ class Form1 : public QMainWindow {
     void beendeFeldbesuch();
     bool oeffneFenster(Fensterart art);
     void oeffneErgebnis(int abschnitt);
-    void oeffneZu(const QString& hinweis);
+    void oeffneZu(Eingabeort ort);
     void oeffneMass(double Grundmasse::*mass);
     void beende();
     void starteProjektmanager();

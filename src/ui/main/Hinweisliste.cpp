@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "ui/basics/Programm.h"
+
 namespace rippenscheibe {
 
 Hinweisliste::Hinweisliste(QWidget* parent)
@@ -15,12 +17,17 @@ Hinweisliste::Hinweisliste(QWidget* parent)
     standzeile_->setForegroundRole(QPalette::PlaceholderText);
     standzeile_->hide();
     connect(this, &QListWidget::itemDoubleClicked, this,
-            [this](const QListWidgetItem* eintrag) { Q_EMIT geoeffnet(eintrag->text()); });
+            [this](const QListWidgetItem* eintrag) { oeffne(row(eintrag)); });
 }
 
-void Hinweisliste::zeige(const QStringList& hinweise) {
+void Hinweisliste::zeige(const std::vector<Hinweis>& hinweise) {
+    gezeigt_ = hinweise;
     clear();
-    addItems(hinweise);
+    for (const Hinweis& hinweis : hinweise) addItem(qtext(hinweis.text));
+}
+
+void Hinweisliste::oeffne(int zeile) {
+    if (zeile >= 0) Q_EMIT geoeffnet(gezeigt_[static_cast<std::size_t>(zeile)].ort);
 }
 
 void Hinweisliste::setzeStand(Stand stand) {
@@ -46,7 +53,7 @@ void Hinweisliste::paintEvent(QPaintEvent* event) {
 void Hinweisliste::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && currentItem() != nullptr) {
-        Q_EMIT geoeffnet(currentItem()->text());
+        oeffne(currentRow());
         return;
     }
     QListWidget::keyPressEvent(event);

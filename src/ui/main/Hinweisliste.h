@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QListWidget>
+#include <vector>
+
+#include "model/Hinweis.h"
 
 class QLabel;
 
@@ -16,20 +19,23 @@ class Hinweisliste : public QListWidget {
 
     enum class Stand { ungeprueft, aktuell, veraltet };
 
-    void zeige(const QStringList& hinweise);
+    void zeige(const std::vector<Hinweis>& hinweise);
     void setzeStand(Stand stand);
     Stand stand() const { return stand_; }
     // The line for what is older than the position; it stands beside the list and is hidden otherwise.
     QLabel* standzeile() const { return standzeile_; }
 
   Q_SIGNALS:
-    void geoeffnet(const QString& hinweis);  // double click or Enter on a finding
+    void geoeffnet(Eingabeort ort);  // double click or Enter on a finding
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void oeffne(int zeile);
+
+    std::vector<Hinweis> gezeigt_;  // a row each
     Stand stand_ = Stand::ungeprueft;
     QLabel* standzeile_;
 };

@@ -61,7 +61,7 @@ void meldeFehlendeAnzeige() {
                  "Es ist keine Anzeige erreichbar. Ohne Anzeige schreibt \"rippenscheibe --pdf AUS.pdf "
                  "DATEI\" den "
                  "Ausdruck.\n");
-        std::_Exit(static_cast<int>(Pdfrueckgabe::aufruf));
+        std::_Exit(static_cast<int>(Rueckgabe::aufruf));
     });
 }
 

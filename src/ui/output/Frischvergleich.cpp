@@ -46,8 +46,7 @@ QString urteilssatz(const Wand& w, Laufergebnis ergebnis) {
 
 QString massgebendsatz(const Wand& w, Laufergebnis ergebnis) {
     const Urteil u = urteil(w, ergebnis);
-    if (!u.maxEta)
-        return qtext(w.Hinweise.empty() ? std::string_view() : std::string_view(w.Hinweise.front()));
+    if (!u.maxEta) return w.Hinweise.empty() ? QString() : qtext(w.Hinweise.front().text);
     if (!u.massgebend) return QStringLiteral("keine Beanspruchung");
     return QStringLiteral("maßgebend %1 · %2")
         .arg(ausnutzungstext(*u.maxEta, dezimalzeichen()), qtext(*u.massgebend));

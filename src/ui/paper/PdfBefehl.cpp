@@ -11,9 +11,7 @@
 #include "files/Einstellungsdatei.h"
 #include "files/Pfad.h"
 #include "files/Positionsdatei.h"
-#include "files/Zeichensatz.h"
-#include "run/Berechnungslauf.h"
-#include "run/Zuweisen.h"
+#include "run/Positionslauf.h"
 #include "ui/basics/Programm.h"
 #include "ui/paper/PdfAusgabe.h"
 
@@ -43,38 +41,23 @@ class Pdflauf {
     Pdflauf(const Pdfauftrag& auftrag, const std::filesystem::path& ordner, const Pdfausgaben& ausgaben)
         : auftrag_(auftrag), ordner_(ordner), ausgaben_(ausgaben), w_(std::make_unique<Wand>()) {}
 
-    Pdfrueckgabe laufe() {
-        if (!lade()) return Pdfrueckgabe::dateifehler;
-        if (starte(*w_) == Laufergebnis::hinweise) {
-            melde("Es liegen konstruktive Fehler vor, bitte Hinweise beachten und Fehler beheben!");
-            for (const std::string& hinweis : w_->Hinweise) melde(hinweis);
-            return Pdfrueckgabe::hinweise;
-        }
-        if (!schreibe()) return Pdfrueckgabe::dateifehler;
-        if (w_->AlleNachweiseErfuellt) return Pdfrueckgabe::erfuellt;
-        melde("Es werden nicht alle Nachweise erfüllt, bitte Ergebnisse prüfen! ");
-        return Pdfrueckgabe::nichtErfuellt;
+    Rueckgabe laufe() {
+        if (!lade()) return Rueckgabe::dateifehler;
+        const Positionslauf lauf = laufePosition(*w_, grundmasse(*w_));
+        if (lauf.gerechnet() && !schreibe()) return Rueckgabe::dateifehler;
+        for (const std::string& meldung : lauf.meldungen) melde(meldung);
+        return lauf.rueckgabe;
     }
 
   private:
     bool lade() {
-        if (const auto grund = einwand(auftrag_.position)) {
-            melde(*grund);
-            return false;
-        }
-        const Dateiinhalt inhalt = liesDatei(auftrag_.position);
-        if (inhalt.fehler) return scheitere(*inhalt.fehler);
-        if (positionsbefund(dekodiert(inhalt.bytes)).ganzeAnweisungen == 0) {
-            melde(std::string(keinePosition));
-            return false;
-        }
         // The table of the window, delivered rows included; a command leaves no file behind but the PDF.
         auto materialien = ladeEigeneMaterialien(ordner_);
         if (const auto stoerung = materialien.stoerung()) return scheitere(*stoerung);
         w_->eigeneMaterialien = std::move(materialien.wert);
-        for (const Uebersprungen& feld : liesPositionstext(dekodiert(inhalt.bytes), *w_))
-            melde(beschreibung(feld));
-        zuweisen(*w_, grundmasse(*w_));
+        const Oeffnung oeffnung = oeffnePosition(auftrag_.position, *w_, Einlass::nurPositionen);
+        if (oeffnung.fehler) return scheitere({*oeffnung.fehler});
+        for (const std::string& vorbehalt : oeffnung.vorbehalte) melde(vorbehalt);
         return true;
     }
 
@@ -97,7 +80,7 @@ class Pdflauf {
     }
 
     void melde(const std::string& text) const {
-        ausgaben_.meldungen(auftrag_.position.string() + ": " + text + "\n");
+        ausgaben_.meldungen(pfadtext(auftrag_.position) + ": " + text + "\n");
     }
 
     const Pdfauftrag& auftrag_;
@@ -140,21 +123,21 @@ void beschreibeAufruf(QCommandLineParser& befehlszeile) {
                                        QStringLiteral("[DATEI]"));
 }
 
-std::optional<Pdfrueckgabe> beantworteAufruf(QCommandLineParser& befehlszeile, const QStringList& argumente,
-                                             const Pdfausgaben& ausgaben) {
+std::optional<Rueckgabe> beantworteAufruf(QCommandLineParser& befehlszeile, const QStringList& argumente,
+                                          const Pdfausgaben& ausgaben) {
     if (!befehlszeile.parse(argumente)) {
         ausgaben.meldungen(utf8(aufruffehler(befehlszeile)) + hilfeverweis);
-        return Pdfrueckgabe::aufruf;
+        return Rueckgabe::aufruf;
     }
     if (befehlszeile.isSet(QStringLiteral("help"))) {
         ausgaben.standard(utf8(aufrufhilfe(befehlszeile)));
-        return Pdfrueckgabe::erfuellt;
+        return Rueckgabe::erfuellt;
     }
     if (befehlszeile.isSet(QStringLiteral("version"))) {
         ausgaben.standard(utf8(QCoreApplication::applicationName() + QLatin1Char(' ') +
                                QCoreApplication::applicationVersion()) +
                           "\n");
-        return Pdfrueckgabe::erfuellt;
+        return Rueckgabe::erfuellt;
     }
     return std::nullopt;
 }
@@ -165,13 +148,13 @@ bool istPdfBefehl(const QStringList& argumente) {
     });
 }
 
-Pdfrueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem::path& programmordner,
-                                const Pdfausgaben& ausgaben) {
+Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem::path& programmordner,
+                             const Pdfausgaben& ausgaben) {
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
     const auto falscherAufruf = [&](const QString& grund) {
         ausgaben.meldungen(utf8(grund) + hilfeverweis);
-        return Pdfrueckgabe::aufruf;
+        return Rueckgabe::aufruf;
     };
     if (const auto antwort = beantworteAufruf(befehlszeile, argumente, ausgaben)) return *antwort;
     const std::optional<Form> form = formAus(befehlszeile.value(optionForm));

@@ -6,15 +6,14 @@
 #include <optional>
 #include <string_view>
 
+#include "run/Positionslauf.h"
+
 class QCommandLineParser;
 
 namespace rippenscheibe {
 
 // `rippenscheibe --pdf AUS.pdf [--form lang|kurz] DATEI`: the printed report of a position as a PDF,
 // without a window and without a display.
-
-// What the program tells its caller; the numbers of the command-line tool.
-enum class Pdfrueckgabe : int { erfuellt = 0, nichtErfuellt = 1, hinweise = 2, dateifehler = 3, aufruf = 64 };
 
 // Where the texts for the user go, UTF-8.
 struct Pdfausgaben {
@@ -27,8 +26,8 @@ void beschreibeAufruf(QCommandLineParser& befehlszeile);
 
 // Reads the arguments, the first being the program's name, and answers what needs no window: a wrong call in
 // German, help and version. Nothing when the program is to go on with what was read.
-std::optional<Pdfrueckgabe> beantworteAufruf(QCommandLineParser& befehlszeile, const QStringList& argumente,
-                                             const Pdfausgaben& ausgaben);
+std::optional<Rueckgabe> beantworteAufruf(QCommandLineParser& befehlszeile, const QStringList& argumente,
+                                          const Pdfausgaben& ausgaben);
 
 // Whether these arguments ask for it.
 bool istPdfBefehl(const QStringList& argumente);
@@ -36,7 +35,7 @@ bool istPdfBefehl(const QStringList& argumente);
 // Carries it out; the first argument is the program's name. Settings, logo and own materials are those of
 // the program's folder. Pages are numbered from 1, and the page number file is left alone. Findings that
 // block the run, and faults, write no file.
-Pdfrueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem::path& programmordner,
-                                const Pdfausgaben& ausgaben);
+Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem::path& programmordner,
+                             const Pdfausgaben& ausgaben);
 
 }  // namespace rippenscheibe

@@ -20,7 +20,7 @@ QStringList qtexte(const std::vector<std::string>& texte) {
 
 Sofortergebnis lies(const Wand& w, Laufergebnis lauf) {
     Sofortergebnis ergebnis;
-    ergebnis.hinweise = qtexte(w.Hinweise);
+    ergebnis.hinweise = w.Hinweise;
     ergebnis.urteil = urteil(w, lauf);
     if (lauf == Laufergebnis::hinweise) return ergebnis;
     const auto werte = nachweiswerte(w);
@@ -55,7 +55,7 @@ Sofortergebnis rechneFrischFuer(Wand& w, const Grundmasse& felder) {
 }
 
 QString urteilstext(const Sofortergebnis& ergebnis) {
-    const qsizetype hinweise = ergebnis.hinweise.size();
+    const std::size_t hinweise = ergebnis.hinweise.size();
     if (!ergebnis.urteil.maxEta)
         return hinweise == 1 ? QStringLiteral("! 1 Hinweis, keine Berechnung")
                              : QStringLiteral("! %1 Hinweise, keine Berechnung").arg(hinweise);

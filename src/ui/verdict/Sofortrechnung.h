@@ -13,7 +13,7 @@
 namespace rippenscheibe {
 
 struct Sofortergebnis {
-    QStringList hinweise;  // findings; there is no run then
+    std::vector<Hinweis> hinweise;  // there is no run then
     Urteil urteil;
     int ueberschritten = 0;                    // proofs above 1
     std::vector<Abschnittsurteil> abschnitte;  // empty without a run

@@ -122,7 +122,8 @@ Urteilszeile::Urteilszeile(QWidget* parent) : QWidget(parent) {
 
 void Urteilszeile::zeige(const Sofortergebnis& ergebnis) {
     urteil_ = urteilstext(ergebnis);
-    rest_ = ergebnis.hinweise.isEmpty() ? massgebendtext(ergebnis.urteil) : ergebnis.hinweise.constFirst();
+    rest_ =
+        ergebnis.hinweise.empty() ? massgebendtext(ergebnis.urteil) : qtext(ergebnis.hinweise.front().text);
     if (ergebnis.urteil.maxEta && !ergebnis.luecken.isEmpty())
         rest_ += QStringLiteral(" · ") + ergebnis.luecken.constFirst();
     if (ergebnis.frisch) rest_ += QStringLiteral(" · frisch gerechnet: ") + *ergebnis.frisch;
@@ -192,11 +193,12 @@ QWidget* Urteilsanzeige::baueHinweise() {
     auto* reihe = new QVBoxLayout(seite);
     reihe->setContentsMargins(0, 0, 0, 0);
     reihe->setSpacing(2);
-    for (int i = 0; i < gezeigteHinweise; ++i) {
+    for (std::size_t i = 0; i < gezeigteHinweise; ++i) {
         auto* knopf = new Hinweisknopf(seite);
         knopf->setObjectName(QStringLiteral("SofortHinweis(%1)").arg(i + 1));
-        connect(knopf, &QAbstractButton::clicked, this,
-                [this, i] { Q_EMIT hinweisGewaehlt(ergebnis_.hinweise.value(i)); });
+        connect(knopf, &QAbstractButton::clicked, this, [this, i] {
+            if (i < ergebnis_.hinweise.size()) Q_EMIT hinweisGewaehlt(ergebnis_.hinweise[i].ort);
+        });
         reihe->addWidget(knopf);
         hinweise_.push_back(knopf);
     }
@@ -236,13 +238,14 @@ void Urteilsanzeige::zeigeBalken() {
 }
 
 void Urteilsanzeige::zeigeHinweise() {
-    const QStringList& texte = ergebnis_.hinweise;
+    const std::vector<Hinweis>& hinweise = ergebnis_.hinweise;
     for (std::size_t i = 0; i < hinweise_.size(); ++i)
-        static_cast<Hinweisknopf*>(hinweise_[i])->setzeHinweis(texte.value(static_cast<qsizetype>(i)));
-    const qsizetype rest = texte.size() - gezeigteHinweise;
-    weitere_->setText(rest < 1    ? QString()
-                      : rest == 1 ? QStringLiteral("und 1 weiterer")
-                                  : QStringLiteral("und %1 weitere").arg(rest));
+        static_cast<Hinweisknopf*>(hinweise_[i])
+            ->setzeHinweis(i < hinweise.size() ? qtext(hinweise[i].text) : QString());
+    const std::size_t weitere = hinweise.size() - std::min(hinweise.size(), gezeigteHinweise);
+    weitere_->setText(weitere == 0   ? QString()
+                      : weitere == 1 ? QStringLiteral("und 1 weiterer")
+                                     : QStringLiteral("und %1 weitere").arg(weitere));
 }
 
 void Urteilsanzeige::faerbe() {

@@ -45,14 +45,14 @@ class Urteilsanzeige : public QWidget {
 
   Q_SIGNALS:
     void abschnittGewaehlt(int abschnitt);  // 5.x
-    void hinweisGewaehlt(const QString& hinweis);
+    void hinweisGewaehlt(Eingabeort ort);
 
   protected:
     void changeEvent(QEvent* event) override;
 
   private:
     static constexpr int abschnitte = 8;
-    static constexpr int gezeigteHinweise = 2;
+    static constexpr std::size_t gezeigteHinweise = 2;
 
     QWidget* baueBalken();
     QWidget* baueHinweise();

@@ -24,7 +24,7 @@ bool schreibePdf(const fs::path& ordner) {
     const QStringList angaben{QStringLiteral("rippenscheibe"), QStringLiteral("--pdf"),
                               text(ordner / "aus.pdf"),        QStringLiteral("--form"),
                               QStringLiteral("kurz"),          text(ordner / "eingabe.rsw")};
-    return fuehrePdfBefehlAus(angaben, kopienordner(ordner), stumm) <= Pdfrueckgabe::nichtErfuellt;
+    return fuehrePdfBefehlAus(angaben, kopienordner(ordner), stumm) <= Rueckgabe::nichtErfuellt;
 }
 
 // Two whole documents of the same position differ in their dates only.

@@ -55,7 +55,7 @@ TEST_F(Ablauf, EachActionAsksUnderItsOwnTitle) {
 TEST_F(Ablauf, CancelOnNewStillResetsThePosition) {
     programm.w.Projekt = "Haus am Hang";
     programm.w.Position = "7";
-    programm.w.Hinweise = {"alt"};
+    programm.w.Hinweise = {Hinweis{"alt"}};
     aendere();
     meldungen.antworten = {Antwort::abbrechen};
     ablauf.neu();

@@ -234,7 +234,7 @@ TEST_F(Hauptfenster, NothingStartsOrIsSavedWhileARefusedTextStands) {
 }
 
 TEST_F(Hauptfenster, EnterMovesOnAndNeverStartsARun) {
-    programm.w.Hinweise = {"unberührt"};
+    programm.w.Hinweise = {Hinweis{"unberührt"}};
     QTest::keyClick(&fenster, Qt::Key_P, Qt::ControlModifier);
     QWidget* feld = &wert(fenster, "Textbox1(0)");
     feld->setFocus();
@@ -246,7 +246,7 @@ TEST_F(Hauptfenster, EnterMovesOnAndNeverStartsARun) {
         finde<QPushButton>(knopf).setFocus();
         QTest::keyClick(&finde<QPushButton>(knopf), Qt::Key_Return);
     }
-    EXPECT_EQ(programm.w.Hinweise, Texte{"unberührt"});
+    EXPECT_EQ(texte(programm.w.Hinweise), Texte{"unberührt"});
     EXPECT_TRUE(meldungen.gezeigt.empty());
 }
 

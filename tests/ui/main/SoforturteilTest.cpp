@@ -33,7 +33,7 @@ TEST_F(Soforturteil, SaysWhatTheStartButtonWouldSayAndTouchesNothing) {
 
         const bool gerechnet = starte(programm.w) == Laufergebnis::gerechnet;
         ASSERT_EQ(sofort.urteil.maxEta.has_value(), gerechnet);
-        EXPECT_EQ(static_cast<std::size_t>(sofort.hinweise.size()), programm.w.Hinweise.size());
+        EXPECT_EQ(sofort.hinweise.size(), programm.w.Hinweise.size());
         programm.w.Hinweise.clear();
         if (!gerechnet) continue;
         EXPECT_EQ(sofort.urteil.erfuellt(), programm.w.AlleNachweiseErfuellt);

@@ -39,7 +39,7 @@ class Pdfausgabe : public Gerechnet {
     Ausdruck ausdruck() { return standardausdruck(programm.w, programm.einstellungen, {}); }
 
     // Runs the command as from a shell.
-    Pdfrueckgabe befehl(QStringList angaben) {
+    Rueckgabe befehl(QStringList angaben) {
         angaben.prepend(QStringLiteral("rippenscheibe"));
         gesagt.clear();
         return fuehrePdfBefehlAus(angaben, programm.ordner,
@@ -158,33 +158,27 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
     struct Fall {
         const char* name;
         QStringList angaben;
-        Pdfrueckgabe rueckgabe;
+        Rueckgabe rueckgabe;
         const char* gesagt;
     };
     const QString ziel = datei("aus.pdf");
     const auto rsw = [](const char* name) { return QString::fromStdString(beispiel(name).string()); };
     const QString option = QStringLiteral("--pdf");
     const std::vector<Fall> faelle{
-        {"passed", {option, ziel, rsw("windsog")}, Pdfrueckgabe::erfuellt, ""},
-        {"joined by =", {option + QStringLiteral("=") + ziel, rsw("windsog")}, Pdfrueckgabe::erfuellt, ""},
-        {"failed",
-         {option, ziel, rsw("nicht_erfuellt")},
-         Pdfrueckgabe::nichtErfuellt,
-         "nicht alle Nachweise"},
-        {"findings", {option, ziel, rsw("hinweise")}, Pdfrueckgabe::hinweise, "konstruktive Fehler"},
-        {"missing file", {option, ziel, datei("fehlt.rsw")}, Pdfrueckgabe::dateifehler, "fehlt.rsw"},
-        {"other kind", {option, ziel, datei("bild.jpg")}, Pdfrueckgabe::dateifehler, "Datei passt nicht"},
-        {"no place", {option, datei("nirgends/a.pdf"), rsw("windsog")}, Pdfrueckgabe::dateifehler, "a.pdf"},
-        {"no file", {option, ziel}, Pdfrueckgabe::aufruf, "genau eine Positionsdatei"},
-        {"two files", {option, ziel, rsw("windsog"), rsw("zuganker")}, Pdfrueckgabe::aufruf, "genau eine"},
+        {"passed", {option, ziel, rsw("windsog")}, Rueckgabe::erfuellt, ""},
+        {"joined by =", {option + QStringLiteral("=") + ziel, rsw("windsog")}, Rueckgabe::erfuellt, ""},
+        {"failed", {option, ziel, rsw("nicht_erfuellt")}, Rueckgabe::nichtErfuellt, "nicht alle Nachweise"},
+        {"findings", {option, ziel, rsw("hinweise")}, Rueckgabe::hinweise, "konstruktive Fehler"},
+        {"missing file", {option, ziel, datei("fehlt.rsw")}, Rueckgabe::dateifehler, "fehlt.rsw"},
+        {"other kind", {option, ziel, datei("bild.jpg")}, Rueckgabe::dateifehler, "Datei passt nicht"},
+        {"no place", {option, datei("nirgends/a.pdf"), rsw("windsog")}, Rueckgabe::dateifehler, "a.pdf"},
+        {"no file", {option, ziel}, Rueckgabe::aufruf, "genau eine Positionsdatei"},
+        {"two files", {option, ziel, rsw("windsog"), rsw("zuganker")}, Rueckgabe::aufruf, "genau eine"},
         {"other form",
          {option, ziel, QStringLiteral("--form"), QStringLiteral("ansicht"), rsw("windsog")},
-         Pdfrueckgabe::aufruf,
+         Rueckgabe::aufruf,
          "\"ansicht\" geht nicht, möglich: lang|kurz"},
-        {"unknown option",
-         {option, ziel, QStringLiteral("--x"), rsw("windsog")},
-         Pdfrueckgabe::aufruf,
-         "Hilfe"},
+        {"unknown option", {option, ziel, QStringLiteral("--x"), rsw("windsog")}, Rueckgabe::aufruf, "Hilfe"},
     };
     for (const Fall& fall : faelle) {
         SCOPED_TRACE(fall.name);
@@ -193,7 +187,7 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
         EXPECT_EQ(befehl(fall.angaben), fall.rueckgabe) << gesagt;
         EXPECT_NE(gesagt.find(fall.gesagt), std::string::npos) << gesagt;
         const bool geschrieben =
-            fall.rueckgabe == Pdfrueckgabe::erfuellt || fall.rueckgabe == Pdfrueckgabe::nichtErfuellt;
+            fall.rueckgabe == Rueckgabe::erfuellt || fall.rueckgabe == Rueckgabe::nichtErfuellt;
         EXPECT_EQ(inhalt(ziel).startsWith("%PDF"), geschrieben);
     }
     EXPECT_FALSE(istPdfBefehl({QStringLiteral("--pdfx"), QStringLiteral("a.rsw")}));
@@ -203,7 +197,7 @@ TEST_F(Pdfausgabe, TheCommandTakesTheMaterialsTheWindowTakesAndWritesNone) {
     const auto tabelle = programm.datei(materialdatei);
     EXPECT_EQ(befehl({QStringLiteral("--pdf"), datei("aus.pdf"),
                       QString::fromStdString(beispiel("eigenes_material").string())}),
-              Pdfrueckgabe::erfuellt)
+              Rueckgabe::erfuellt)
         << gesagt;
     EXPECT_FALSE(std::filesystem::exists(tabelle));
     programm.w = Wand();
@@ -217,11 +211,11 @@ TEST_F(Pdfausgabe, TheCommandPrintsWhatTheSettingsSayAndLeavesThePageNumberAlone
     const QStringList angaben{QStringLiteral("--pdf"), datei("aus.pdf"), QStringLiteral("--form"),
                               QStringLiteral("kurz"), QString::fromStdString(beispiel("windsog").string())};
     ASSERT_FALSE(schreibeLetzteSeite(programm.datei(seitendatei), 41));
-    EXPECT_EQ(befehl(angaben), Pdfrueckgabe::erfuellt);
+    EXPECT_EQ(befehl(angaben), Rueckgabe::erfuellt);
     const QByteArray vorgabe = inhalt(datei("aus.pdf"));
     programm.einstellungen.SystembildStandard = false;
     ASSERT_FALSE(schreibeEinstellungen(programm.datei(einstellungsdatei), programm.einstellungen));
-    EXPECT_EQ(befehl(angaben), Pdfrueckgabe::erfuellt);
+    EXPECT_EQ(befehl(angaben), Rueckgabe::erfuellt);
     Ausdruck a = ausdruck();
     a.form = Form::kurz;
     EXPECT_EQ(ohneDatum(inhalt(datei("aus.pdf"))), ohneDatum(pdf(programm.w, a).bytes));
