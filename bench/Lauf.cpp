@@ -2,6 +2,7 @@
 
 #include "report/Bericht.h"
 #include "run/Berechnungslauf.h"
+#include "run/FrischerLauf.h"
 #include "run/Zuweisen.h"
 
 // What one press of a start button costs. The default wall has nine ribs.
@@ -39,6 +40,26 @@ void laufZweihundertRippen(benchmark::State& state) {
     }
 }
 BENCHMARK(laufZweihundertRippen)->Unit(benchmark::kMicrosecond);
+
+// A run of its own: the results of program start, then the run.
+void frischerLaufNeunRippen(benchmark::State& state) {
+    Wand w = wand(5);
+    for (auto _ : state) benchmark::DoNotOptimize(rechneFrisch(w));
+}
+BENCHMARK(frischerLaufNeunRippen)->Unit(benchmark::kMicrosecond);
+
+// A copy of all results of a run.
+void ergebnisseKopieren(benchmark::State& state) {
+    Wand w = wand(5);
+    rechneFrisch(w);
+    Ergebnisse kopie;
+    benchmark::DoNotOptimize(&kopie);
+    for (auto _ : state) {
+        kopie = w;
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(ergebnisseKopieren)->Unit(benchmark::kNanosecond);
 
 void berichtLang(benchmark::State& state) {
     Wand w = wand(5);
