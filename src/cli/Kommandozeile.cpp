@@ -159,120 +159,173 @@ std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app,
     return text;
 }
 
-}  // namespace
+// Commands and options, bound to what they ask for.
+class Befehlszeile {
+  public:
+    Befehlszeile() {
+        richteEin();
+        rechne();
+        pruefe();
+        neu();
+        uebertrage();
+        felder();
+        herleite();
+        studien();
+    }
+    // The options hold on to the members.
+    Befehlszeile(const Befehlszeile&) = delete;
+    Befehlszeile& operator=(const Befehlszeile&) = delete;
 
-std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> angaben) {
-    Auftrag auftrag;
-    CLI::App app("Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)", "rippenscheibe-cli");
-    app.set_help_flag("-h,--help", "diese Hilfe");
-    app.set_version_flag("--version", "rippenscheibe-cli " + std::string(programmversion()), "Version");
-    app.footer("Hilfe zu einem Befehl: rippenscheibe-cli BEFEHL --help\n\n" + std::string(rueckgabewerte));
-    app.get_formatter()->label("Usage", "Aufruf");
-    app.get_formatter()->label("OPTIONS", "Optionen");
-    app.get_formatter()->label("SUBCOMMAND", "BEFEHL");
-    app.get_formatter()->label("Positionals", "Angaben");
-    app.option_defaults()->group("Optionen");
-    app.get_help_ptr()->group("Optionen");
-    app.get_version_ptr()->group("Optionen");
-    app.allow_windows_style_options(false);  // a path may begin with a slash there too
-    app.require_subcommand(1);
+    std::variant<Auftrag, Auskunft> lies(std::span<const std::string> angaben);
 
-    const auto befehl = [&](const std::string& name, const std::string& erklaerung,
-                            Befehl welcher) -> CLI::App& {
-        CLI::App* const neu = app.add_subcommand(name, erklaerung)->group("Befehle");
-        neu->footer("");
-        neu->get_help_ptr()->group("Optionen");
-        neu->callback([&auftrag, welcher] { auftrag.befehl = welcher; });
-        return *neu;
-    };
+  private:
+    void richteEin();
+    CLI::App& befehl(const std::string& name, const std::string& erklaerung, Befehl welcher);
 
-    CLI::App& rechne = befehl("rechne", "bemisst Wände und gibt den Bericht aus", Befehl::rechne);
-    fuegeDateienHinzu(rechne, auftrag.dateien, true);
-    fuegeWahlHinzu(rechne, "--ausgabe", ausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
-    fuegeWahlHinzu(rechne, "--form", formen, auftrag.form, "Form von Text und RTF (sonst ansicht)");
-    fuegeDateiHinzu(rechne, "--material", auftrag.material,
-                    "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
-    fuegeLaeufeHinzu(rechne, auftrag.laeufe);
-    fuegeDateiHinzu(rechne, "--lastfaelle", auftrag.studie.lastfaelle,
+    // Options that several commands have.
+    void dateien(CLI::App& verb, bool mehrere) { fuegeDateienHinzu(verb, auftrag_.dateien, mehrere); }
+    void material(CLI::App& verb) {
+        fuegeDateiHinzu(verb, "--material", auftrag_.material,
+                        "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
+    }
+    void laeufe(CLI::App& verb) { fuegeLaeufeHinzu(verb, auftrag_.laeufe); }
+    template <std::size_t N>
+    void ausgabe(CLI::App& verb, const std::array<Wort<Ausgabeart>, N>& arten) {
+        fuegeWahlHinzu(verb, "--ausgabe", arten, auftrag_.ausgabe, "Art der Ausgabe (sonst text)");
+    }
+    void nach(CLI::App& verb) {
+        fuegeDateiHinzu(verb, "-o", auftrag_.nach, "dorthin schreiben statt auf die Standardausgabe");
+    }
+
+    void rechne();
+    void pruefe();
+    void neu();
+    void uebertrage();
+    void felder();
+    void herleite();
+    void studien();
+
+    Auftrag auftrag_;
+    CLI::App app_{"Bemessung von Wandtafeln in Holzrahmenbauweise nach DIN 1052 (2008)", "rippenscheibe-cli"};
+};
+
+void Befehlszeile::richteEin() {
+    app_.set_help_flag("-h,--help", "diese Hilfe");
+    app_.set_version_flag("--version", "rippenscheibe-cli " + std::string(programmversion()), "Version");
+    app_.footer("Hilfe zu einem Befehl: rippenscheibe-cli BEFEHL --help\n\n" + std::string(rueckgabewerte));
+    app_.get_formatter()->label("Usage", "Aufruf");
+    app_.get_formatter()->label("OPTIONS", "Optionen");
+    app_.get_formatter()->label("SUBCOMMAND", "BEFEHL");
+    app_.get_formatter()->label("Positionals", "Angaben");
+    app_.option_defaults()->group("Optionen");
+    app_.get_help_ptr()->group("Optionen");
+    app_.get_version_ptr()->group("Optionen");
+    app_.allow_windows_style_options(false);  // a path may begin with a slash there too
+    app_.require_subcommand(1);
+}
+
+CLI::App& Befehlszeile::befehl(const std::string& name, const std::string& erklaerung, Befehl welcher) {
+    CLI::App* const verb = app_.add_subcommand(name, erklaerung)->group("Befehle");
+    verb->footer("");
+    verb->get_help_ptr()->group("Optionen");
+    verb->callback([this, welcher] { auftrag_.befehl = welcher; });
+    return *verb;
+}
+
+void Befehlszeile::rechne() {
+    CLI::App& verb = befehl("rechne", "bemisst Wände und gibt den Bericht aus", Befehl::rechne);
+    dateien(verb, true);
+    ausgabe(verb, ausgabearten);
+    fuegeWahlHinzu(verb, "--form", formen, auftrag_.form, "Form von Text und RTF (sonst ansicht)");
+    material(verb);
+    laeufe(verb);
+    fuegeDateiHinzu(verb, "--lastfaelle", auftrag_.studie.lastfaelle,
                     "Tabelle der Lastfälle (CSV): jeder von ihnen statt der Lasten der Position");
-    rechne.add_flag_callback(
-        "--sitzung", [&] { auftrag.zustand = Zustand::gemeinsam; },
+    verb.add_flag_callback(
+        "--sitzung", [this] { auftrag_.zustand = Zustand::gemeinsam; },
         "alle Dateien nacheinander in einem Zustand, wie im Fensterprogramm");
-    rechne.add_flag_callback(
-        "--trotz-hinweisen", [&] { auftrag.hinweise = Hinweisbehandlung::uebergehen; },
+    verb.add_flag_callback(
+        "--trotz-hinweisen", [this] { auftrag_.hinweise = Hinweisbehandlung::uebergehen; },
         "trotz Hinweisen rechnen");
-    fuegeWahlHinzu(rechne, "--dezimal", dezimalzeichen, auftrag.dezimalzeichen,
+    fuegeWahlHinzu(verb, "--dezimal", dezimalzeichen, auftrag_.dezimalzeichen,
                    "Dezimalzeichen der Berichte (sonst komma)");
-    fuegeDateiHinzu(rechne, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+    nach(verb);
+}
 
-    CLI::App& pruefe = befehl("pruefe", "gibt nur die Hinweise aus", Befehl::pruefe);
-    fuegeDateienHinzu(pruefe, auftrag.dateien, true);
-    fuegeDateiHinzu(pruefe, "--material", auftrag.material,
-                    "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
+void Befehlszeile::pruefe() {
+    CLI::App& verb = befehl("pruefe", "gibt nur die Hinweise aus", Befehl::pruefe);
+    dateien(verb, true);
+    material(verb);
+}
 
-    CLI::App& neu = befehl("neu", "schreibt eine Position mit allen Vorgaben", Befehl::neu);
-    fuegeDateiHinzu(neu, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+void Befehlszeile::neu() { nach(befehl("neu", "schreibt eine Position mit allen Vorgaben", Befehl::neu)); }
 
-    CLI::App& uebertrage =
-        befehl("uebertrage", "liest eine Position und schreibt sie wieder", Befehl::uebertrage);
-    fuegeDateienHinzu(uebertrage, auftrag.dateien, false);
-    fuegeDateiHinzu(uebertrage, "-o", auftrag.nach, "dorthin schreiben")
+void Befehlszeile::uebertrage() {
+    CLI::App& verb = befehl("uebertrage", "liest eine Position und schreibt sie wieder", Befehl::uebertrage);
+    dateien(verb, false);
+    fuegeDateiHinzu(verb, "-o", auftrag_.nach, "dorthin schreiben")
         ->required()
         ->option_text("DATEI (muss stehen)");
+}
 
-    CLI::App& felder = befehl("felder", "gibt das Verzeichnis aller Felder aus", Befehl::felder);
-    fuegeWahlHinzu(felder, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
+void Befehlszeile::felder() {
+    ausgabe(befehl("felder", "gibt das Verzeichnis aller Felder aus", Befehl::felder), feldausgabearten);
+}
 
-    CLI::App& herleite = befehl("herleite", "zeigt, woher jede Zahl eines Laufs kommt", Befehl::herleite);
-    fuegeDateienHinzu(herleite, auftrag.dateien, false);
-    herleite
-        .add_option_function<std::string>(
+void Befehlszeile::herleite() {
+    CLI::App& verb = befehl("herleite", "zeigt, woher jede Zahl eines Laufs kommt", Befehl::herleite);
+    dateien(verb, false);
+    verb.add_option_function<std::string>(
             "--felder",
-            [&auftrag](const std::string& namen) {
+            [this](const std::string& namen) {
                 std::istringstream strom(namen);
                 for (std::string name; std::getline(strom, name, ',');)
-                    auftrag.herleitung.felder.push_back(name);
+                    auftrag_.herleitung.felder.push_back(name);
             },
             "nur diese Felder, mit ihrem letzten Schritt (sonst alle Schritte)")
         ->option_text("NAME,...");
-    herleite.add_flag_callback(
-        "--tief", [&] { auftrag.herleitung.tief = true; }, "mit allen Schritten, auf denen sie beruhen");
-    fuegeDateiHinzu(herleite, "--material", auftrag.material,
-                    "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
-    fuegeLaeufeHinzu(herleite, auftrag.laeufe);
-    fuegeWahlHinzu(herleite, "--ausgabe", feldausgabearten, auftrag.ausgabe, "Art der Ausgabe (sonst text)");
-    fuegeDateiHinzu(herleite, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
+    verb.add_flag_callback(
+        "--tief", [this] { auftrag_.herleitung.tief = true; }, "mit allen Schritten, auf denen sie beruhen");
+    material(verb);
+    laeufe(verb);
+    ausgabe(verb, feldausgabearten);
+    nach(verb);
+}
+
+void Befehlszeile::studien() {
     fuegeStudienHinzu(
-        {[&](const std::string& name, const std::string& erklaerung, int welcher) -> CLI::App& {
+        {[this](const std::string& name, const std::string& erklaerung, int welcher) -> CLI::App& {
              return befehl(name, erklaerung, static_cast<Befehl>(welcher));
          },
-         [&](CLI::App& verb, bool mehrere) { fuegeDateienHinzu(verb, auftrag.dateien, mehrere); },
-         [&](CLI::App& verb) {
+         [this](CLI::App& verb, bool mehrere) { dateien(verb, mehrere); },
+         [this](CLI::App& verb) {
              fuegeDateiHinzu(
-                 verb, "--vorlage", auftrag.vorlage,
+                 verb, "--vorlage", auftrag_.vorlage,
                  "Position, deren Eingaben gelten, wo eine Zeile nichts sagt (sonst die Vorgaben)");
          },
-         [&](CLI::App& verb) {
-             fuegeDateiHinzu(verb, "--material", auftrag.material,
-                             "die eigenen Materialien (sonst Plattenwerte.dat im Ordner des Programms)");
-         },
-         [&](CLI::App& verb) { fuegeLaeufeHinzu(verb, auftrag.laeufe); },
-         [&](CLI::App& verb) {
-             fuegeDateiHinzu(verb, "-o", auftrag.nach, "dorthin schreiben statt auf die Standardausgabe");
-         }},
-        auftrag.studie);
+         [this](CLI::App& verb) { material(verb); }, [this](CLI::App& verb) { laeufe(verb); },
+         [this](CLI::App& verb) { nach(verb); }},
+        auftrag_.studie);
+}
 
+std::variant<Auftrag, Auskunft> Befehlszeile::lies(std::span<const std::string> angaben) {
     try {
-        app.parse(std::vector<std::string>(angaben.rbegin(), angaben.rend()));
+        app_.parse(std::vector<std::string>(angaben.rbegin(), angaben.rend()));
     } catch (const CLI::CallForHelp&) {
-        return Auskunft{app.help(), Rueckgabe::erfuellt};
+        return Auskunft{app_.help(), Rueckgabe::erfuellt};
     } catch (const CLI::CallForVersion& version) {
         return Auskunft{version.what() + std::string("\n"), Rueckgabe::erfuellt};
     } catch (const CLI::ParseError& fehler) {
-        return Auskunft{aufDeutsch(fehler, app, angaben) + "\nHilfe: rippenscheibe-cli --help\n",
+        return Auskunft{aufDeutsch(fehler, app_, angaben) + "\nHilfe: rippenscheibe-cli --help\n",
                         Rueckgabe::aufruf};
     }
-    return auftrag;
+    return auftrag_;
+}
+
+}  // namespace
+
+std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> angaben) {
+    return Befehlszeile().lies(angaben);
 }
 
 }  // namespace rippenscheibe
