@@ -7,6 +7,7 @@
 #include <QFocusFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -200,6 +201,22 @@ QPushButton* Fenster::schaltflaeche(const QString& name, const QString& text) {
     knopf->setAutoDefault(false);
     fusszeile_->addWidget(knopf);
     return knopf;
+}
+
+QPushButton* Fenster::knopf(const QString& name, const QString& text) {
+    auto* feld = new QPushButton(text, this);
+    feld->setObjectName(name);
+    feld->setAccessibleName(text.simplified());
+    feld->setAutoDefault(false);
+    return feld;
+}
+
+QLabel* Fenster::beschriftung(const QString& text, QWidget* feld) {
+    auto* schild = new QLabel(text, this);
+    schild->setTextFormat(Qt::PlainText);
+    schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    schild->setBuddy(feld);
+    return schild;
 }
 
 QPushButton* Fenster::zurueck(const QString& name) {

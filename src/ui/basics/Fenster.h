@@ -7,6 +7,7 @@
 class QFocusFrame;
 class QHBoxLayout;
 class QKeyEvent;
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -79,6 +80,9 @@ class Fenster : public QDialog {
     // Adds a button to the row at the bottom right, with its name and caption. The tab order is the order of
     // building, so the buttons are built last.
     QPushButton* schaltflaeche(const QString& name, const QString& text);
+    // A button of the content area, and a label at the left of a field; both with a name to read out.
+    QPushButton* knopf(const QString& name, const QString& text);
+    QLabel* beschriftung(const QString& text, QWidget* feld);
     // The usual "Zurück" of small windows with its tool tip; it closes the window.
     QPushButton* zurueck(const QString& name);
     // The row at the bottom, to put something at its left.

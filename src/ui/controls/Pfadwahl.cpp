@@ -52,6 +52,20 @@ Pfadwahl::Pfadwahl(Programm& programm, Meldungen& meldungen, QWidget* parent, Zw
       ordner_(new QTreeView(this)),
       modell_(new QFileSystemModel(this)),
       gewaehlt_(new QLineEdit(this)) {
+    baueFelder();
+    QPushButton* ja = schaltflaeche(QStringLiteral("Command1(1)"), QStringLiteral("Übernehmen"));
+    ja->setDefault(true);
+    connect(ja, &QPushButton::clicked, this, &Pfadwahl::uebernehmen);
+    QPushButton* nein = schaltflaeche(QStringLiteral("Command1(0)"), QStringLiteral("Abbruch"));
+    connect(nein, &QPushButton::clicked, this, &QDialog::reject);
+
+    connect(laufwerk_, &QComboBox::currentTextChanged, this, &Pfadwahl::zeigeLaufwerk);
+    connect(ordner_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this] { gewaehlt_->setText(pfad()); });
+    zeigeAnfang();
+}
+
+void Pfadwahl::baueFelder() {
     laufwerk_->setObjectName(QStringLiteral("Drive1"));
     laufwerk_->setAccessibleName(QStringLiteral("Laufwerk"));
     laufwerk_->addItems(laufwerke());
@@ -71,18 +85,10 @@ Pfadwahl::Pfadwahl(Programm& programm, Meldungen& meldungen, QWidget* parent, Zw
     gewaehlt_->setReadOnly(true);
     gewaehlt_->setFocusPolicy(Qt::ClickFocus);
     inhalt()->addWidget(gewaehlt_);
+}
 
-    QPushButton* ja = schaltflaeche(QStringLiteral("Command1(1)"), QStringLiteral("Übernehmen"));
-    ja->setDefault(true);
-    connect(ja, &QPushButton::clicked, this, &Pfadwahl::uebernehmen);
-    QPushButton* nein = schaltflaeche(QStringLiteral("Command1(0)"), QStringLiteral("Abbruch"));
-    connect(nein, &QPushButton::clicked, this, &QDialog::reject);
-
-    connect(laufwerk_, &QComboBox::currentTextChanged, this, &Pfadwahl::zeigeLaufwerk);
-    connect(ordner_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this] { gewaehlt_->setText(pfad()); });
-
-    // The default folder is always chosen from the root on; a position begins where its folder is.
+// The default folder is always chosen from the root on; a position begins where its folder is.
+void Pfadwahl::zeigeAnfang() {
     QString start = QDir::rootPath();
     if (zweck_ == Zweck::positionspfad && !programm_.Positionspfad.empty())
         start = qtext(programm_.Positionspfad);

@@ -23,6 +23,8 @@ class Pfadwahl : public Fenster {
     QString pfad() const;
 
   private:
+    void baueFelder();
+    void zeigeAnfang();
     void zeigeLaufwerk(const QString& wurzel);
     void zeigeOrdner(const QString& ordner);
     void uebernehmen();

@@ -325,60 +325,85 @@ QSizeF Formelbild::groesse() const {
     return groesse;
 }
 
+namespace {
+
+// The signs around the parts of a box at `o`, its left end on the base line.
+void maleBruchstrich(QPainter& maler, const Formelkasten& k, QPointF o) {
+    maler.drawLine(QPointF(o.x() + 1, o.y() - k.groesse), QPointF(o.x() + k.breite - 1, o.y() - k.groesse));
+}
+
+void maleWurzel(QPainter& maler, const Formelkasten& k, QPointF o) {
+    const double oben = o.y() - k.oben;
+    const double unten = o.y() + k.unten;
+    const double r = 0.75 * k.groesse;
+    maler.drawPolyline(QPolygonF({{o.x() + 0.1 * r, o.y() - 0.3 * k.groesse},
+                                  {o.x() + 0.3 * r, o.y() - 0.4 * k.groesse},
+                                  {o.x() + 0.6 * r, unten - 1},
+                                  {o.x() + 0.95 * r, oben + 1},
+                                  {o.x() + k.breite - 1, oben + 1}}));
+}
+
+void maleKlammern(QPainter& maler, const Formelkasten& k, QPointF o) {
+    const double oben = o.y() - k.oben;
+    const double unten = o.y() + k.unten;
+    const double b = 0.22 * k.groesse;
+    for (const double seite : {1.0, -1.0}) {
+        const double x = seite > 0 ? o.x() + 2 : o.x() + k.breite - 2;
+        QPainterPath bogen(QPointF(x + seite * b, oben));
+        bogen.quadTo(QPointF(x - seite * b, (oben + unten) / 2), QPointF(x + seite * b, unten));
+        maler.drawPath(bogen);
+    }
+}
+
+void maleSchranken(QPainter& maler, const Formelkasten& k, QPointF o) {
+    for (const double x : {o.x() + 3, o.x() + k.breite - 3})
+        maler.drawLine(QPointF(x, o.y() - k.oben), QPointF(x, o.y() + k.unten));
+}
+
+// One large brace at the left.
+void maleListe(QPainter& maler, const Formelkasten& k, QPointF o) {
+    const double oben = o.y() - k.oben;
+    const double unten = o.y() + k.unten;
+    const double x = o.x() + 0.15 * k.groesse;
+    const double b = 0.3 * k.groesse;
+    const double mitte = (oben + unten) / 2;
+    QPainterPath bogen(QPointF(x + b, oben + 1));
+    bogen.quadTo(QPointF(x, oben + 1), QPointF(x + b / 2, (oben + mitte) / 2));
+    bogen.quadTo(QPointF(x + b / 2, mitte - 2), QPointF(x, mitte));
+    bogen.quadTo(QPointF(x + b / 2, mitte + 2), QPointF(x + b / 2, (unten + mitte) / 2));
+    bogen.quadTo(QPointF(x, unten - 1), QPointF(x + b, unten - 1));
+    maler.drawPath(bogen);
+}
+
+void maleZeichen(QPainter& maler, const Formelkasten& k, QPointF o, const QString& familie) {
+    switch (k.art) {
+        case Formelkasten::Art::text:
+            maler.setFont(schrift(familie, k));
+            maler.drawText(o, k.text);
+            break;
+        case Formelkasten::Art::bruch:
+            return maleBruchstrich(maler, k, o);
+        case Formelkasten::Art::wurzel:
+            return maleWurzel(maler, k, o);
+        case Formelkasten::Art::klammern:
+            return maleKlammern(maler, k, o);
+        case Formelkasten::Art::schranken:
+            return maleSchranken(maler, k, o);
+        case Formelkasten::Art::liste:
+            return maleListe(maler, k, o);
+        case Formelkasten::Art::reihe:
+            break;
+    }
+}
+
+}  // namespace
+
 void Formelbild::male(QPainter& maler, QPointF ecke, const QPalette& farben) const {
     const std::function<void(const Formelkasten&, QPointF, bool)> male = [&](const Formelkasten& k, QPointF o,
                                                                              bool verweis) {
         verweis = verweis || k.knoten != keiner;
         maler.setPen(QPen(farben.color(verweis ? QPalette::Link : QPalette::Text), strich));
-        const double oben = o.y() - k.oben;
-        const double unten = o.y() + k.unten;
-        switch (k.art) {
-            case Formelkasten::Art::text:
-                maler.setFont(schrift(familie_, k));
-                maler.drawText(o, k.text);
-                break;
-            case Formelkasten::Art::bruch:
-                maler.drawLine(QPointF(o.x() + 1, o.y() - k.groesse),
-                               QPointF(o.x() + k.breite - 1, o.y() - k.groesse));
-                break;
-            case Formelkasten::Art::wurzel: {
-                const double r = 0.75 * k.groesse;
-                maler.drawPolyline(QPolygonF({{o.x() + 0.1 * r, o.y() - 0.3 * k.groesse},
-                                              {o.x() + 0.3 * r, o.y() - 0.4 * k.groesse},
-                                              {o.x() + 0.6 * r, unten - 1},
-                                              {o.x() + 0.95 * r, oben + 1},
-                                              {o.x() + k.breite - 1, oben + 1}}));
-                break;
-            }
-            case Formelkasten::Art::klammern: {
-                const double b = 0.22 * k.groesse;
-                for (const double seite : {1.0, -1.0}) {
-                    const double x = seite > 0 ? o.x() + 2 : o.x() + k.breite - 2;
-                    QPainterPath bogen(QPointF(x + seite * b, oben));
-                    bogen.quadTo(QPointF(x - seite * b, (oben + unten) / 2), QPointF(x + seite * b, unten));
-                    maler.drawPath(bogen);
-                }
-                break;
-            }
-            case Formelkasten::Art::schranken:
-                for (const double x : {o.x() + 3, o.x() + k.breite - 3})
-                    maler.drawLine(QPointF(x, oben), QPointF(x, unten));
-                break;
-            case Formelkasten::Art::liste: {
-                const double x = o.x() + 0.15 * k.groesse;
-                const double b = 0.3 * k.groesse;
-                const double mitte = (oben + unten) / 2;
-                QPainterPath bogen(QPointF(x + b, oben + 1));
-                bogen.quadTo(QPointF(x, oben + 1), QPointF(x + b / 2, (oben + mitte) / 2));
-                bogen.quadTo(QPointF(x + b / 2, mitte - 2), QPointF(x, mitte));
-                bogen.quadTo(QPointF(x + b / 2, mitte + 2), QPointF(x + b / 2, (unten + mitte) / 2));
-                bogen.quadTo(QPointF(x, unten - 1), QPointF(x + b, unten - 1));
-                maler.drawPath(bogen);
-                break;
-            }
-            case Formelkasten::Art::reihe:
-                break;
-        }
+        maleZeichen(maler, k, o, familie_);
         for (const Formelkasten::Teil& teil : k.teile) male(kaesten_[teil.kasten], o + teil.ort, verweis);
     };
     maler.setBrush(Qt::NoBrush);

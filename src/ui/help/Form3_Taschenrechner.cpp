@@ -28,6 +28,23 @@ constexpr std::array<Ort, 5> operatororte{{{3, 3}, {2, 3}, {1, 3}, {0, 3}, {4, 3
 constexpr std::array<const char*, 5> operatoren{"+", "-", "X", "/", "="};
 constexpr std::array<const char*, 5> operatornamen{"plus", "minus", "mal", "durch", "gleich"};
 
+// The keys beside digits and operators.
+struct Sondertaste {
+    const char* name;
+    const char* text;
+    int zeile;
+    int spalte;
+    const char* vorlesen;  // where the text is no word
+    const char* hinweis;
+    void (Rechner::*druecke)();
+};
+constexpr std::array<Sondertaste, 4> sondertasten{{
+    {"Cancel", "C", 0, 0, "", "alles löschen", &Rechner::loeschen},
+    {"CancelEntry", "CE", 0, 1, "", "Eingabe löschen", &Rechner::eingabeLoeschen},
+    {"Percent", "%", 0, 2, "Prozent", "", &Rechner::prozent},
+    {"Decimal", ".", 4, 2, "Dezimalpunkt", "", &Rechner::dezimal},
+}};
+
 QString indiziert(const char* name, std::size_t index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
 }
@@ -51,31 +68,26 @@ Form3::Form3(Programm& programm, Meldungen& meldungen, QWidget* parent)
     auto* grid = new QGridLayout;
     grid->setSpacing(raster / 2);
     inhalt()->addLayout(grid, 1);
+    baueTasten(grid);
 
-    QPushButton* alles = taste(grid, QStringLiteral("Cancel"), QStringLiteral("C"), 0, 0);
-    alles->setToolTip(QStringLiteral("alles löschen"));
-    connect(alles, &QPushButton::clicked, this, [this] {
-        rechner_.loeschen();
-        zeige();
-    });
-    QPushButton* eingabe = taste(grid, QStringLiteral("CancelEntry"), QStringLiteral("CE"), 0, 1);
-    eingabe->setToolTip(QStringLiteral("Eingabe löschen"));
-    connect(eingabe, &QPushButton::clicked, this, [this] {
-        rechner_.eingabeLoeschen();
-        zeige();
-    });
-    QPushButton* prozent = taste(grid, QStringLiteral("Percent"), QStringLiteral("%"), 0, 2);
-    prozent->setAccessibleName(QStringLiteral("Prozent"));
-    connect(prozent, &QPushButton::clicked, this, [this] {
-        rechner_.prozent();
-        zeige();
-    });
-    QPushButton* punkt = taste(grid, QStringLiteral("Decimal"), QStringLiteral("."), 4, 2);
-    punkt->setAccessibleName(QStringLiteral("Dezimalpunkt"));
-    connect(punkt, &QPushButton::clicked, this, [this] {
-        rechner_.dezimal();
-        zeige();
-    });
+    zurueck(QStringLiteral("Command1"))->setDefault(false);
+    ohneKuerzel(*this);  // each key of the calculator is typed as it stands
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
+    zeige();
+}
+
+void Form3::baueTasten(QGridLayout* grid) {
+    for (const Sondertaste& sonder : sondertasten) {
+        QPushButton* knopf =
+            taste(grid, QLatin1String(sonder.name), QLatin1String(sonder.text), sonder.zeile, sonder.spalte);
+        if (*sonder.vorlesen != 0) knopf->setAccessibleName(QLatin1String(sonder.vorlesen));
+        knopf->setToolTip(QString::fromUtf8(sonder.hinweis));
+        connect(knopf, &QPushButton::clicked, this, [this, &sonder] {
+            (rechner_.*sonder.druecke)();
+            zeige();
+        });
+    }
 
     for (std::size_t i = 0; i < ziffernorte.size(); ++i) {
         QPushButton* knopf = taste(grid, indiziert("Number", i), QString::number(i), ziffernorte[i].zeile,
@@ -93,12 +105,6 @@ Form3::Form3(Programm& programm, Meldungen& meldungen, QWidget* parent)
         knopf->setAccessibleName(QLatin1String(operatornamen[i]));
         connect(knopf, &QPushButton::clicked, this, [this, i] { operation(static_cast<Rechner::Taste>(i)); });
     }
-
-    zurueck(QStringLiteral("Command1"))->setDefault(false);
-    ohneKuerzel(*this);  // each key of the calculator is typed as it stands
-    setFocusPolicy(Qt::StrongFocus);
-    setFocus();
-    zeige();
 }
 
 QPushButton* Form3::taste(QGridLayout* grid, const QString& name, const QString& text, int zeile,

@@ -20,6 +20,7 @@ class Form3 : public Fenster {
     bool enter(QWidget& feld) override;
 
   private:
+    void baueTasten(QGridLayout* grid);
     QPushButton* taste(QGridLayout* grid, const QString& name, const QString& text, int zeile, int spalte);
     void zeige();
     void operation(Rechner::Taste taste);

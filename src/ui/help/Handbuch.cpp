@@ -171,6 +171,14 @@ Handbuch::Handbuch(QWidget* parent)
     setModal(false);
     resize(900, 680);
 
+    baueSuche();
+    ordneAn();
+    verbinde();
+    suchwort_->setFocus();
+}
+
+// The search and the list of the chapters beneath it, which tells how wide both are.
+void Handbuch::baueSuche() {
     inhalt_->setObjectName(QStringLiteral("Handbuchinhalt"));
     inhalt_->setAccessibleName(QStringLiteral("Kapitel"));
     for (const Kapitel& kapitel : kapitelliste) inhalt_->addItem(QString::fromUtf8(kapitel.titel));
@@ -190,7 +198,9 @@ Handbuch::Handbuch(QWidget* parent)
     addAction(strgF);
     connect(suchwort_, &QLineEdit::textChanged, this, &Handbuch::suche);
     connect(suchwort_, &QLineEdit::returnPressed, this, &Handbuch::sucheWeiter);
+}
 
+void Handbuch::ordneAn() {
     auto* aussen = new QVBoxLayout(this);
     auto* spalten = new QHBoxLayout;
     auto* links = new QVBoxLayout;
@@ -211,12 +221,14 @@ Handbuch::Handbuch(QWidget* parent)
     vorige_ = knopf(QStringLiteral("VorigeSeite"), QStringLiteral("&Vorige Seite"));
     naechste_ = knopf(QStringLiteral("NaechsteSeite"), QStringLiteral("&Nächste Seite"));
     knoepfe->addStretch(1);
-    QPushButton* schliessen = knopf(QStringLiteral("Schliessen"), QStringLiteral("&Schließen"));
+    connect(knopf(QStringLiteral("Schliessen"), QStringLiteral("&Schließen")), &QPushButton::clicked, this,
+            &QWidget::close);
     aussen->addLayout(knoepfe);
+}
 
+void Handbuch::verbinde() {
     connect(vorige_, &QPushButton::clicked, this, [this] { blaettere(-1); });
     connect(naechste_, &QPushButton::clicked, this, [this] { blaettere(1); });
-    connect(schliessen, &QPushButton::clicked, this, &QWidget::close);
     connect(inhalt_, &QListWidget::currentRowChanged, this, [this](int zeile) {
         if (zeile < 0) return;
         const QUrl ziel = ort(QLatin1String(kapitelliste[static_cast<std::size_t>(zeile)].datei));
@@ -233,7 +245,6 @@ Handbuch::Handbuch(QWidget* parent)
     });
     // Read again for another width the page has lost its marks.
     connect(seite_, &QTextBrowser::textChanged, this, [this] { seite_->suche(suchwort_->text()); });
-    suchwort_->setFocus();
 }
 
 // Only the chapters that hold the words stay in the list; the first of them is shown.

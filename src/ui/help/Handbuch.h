@@ -49,6 +49,9 @@ class Handbuch : public QDialog {
     QString kapitel() const;
 
   private:
+    void baueSuche();
+    void ordneAn();
+    void verbinde();
     void suche(const QString& worte);
     void sucheWeiter();
     int nachbar(int schritt) const;

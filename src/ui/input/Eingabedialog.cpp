@@ -178,22 +178,6 @@ QComboBox* Eingabedialog::liste(const QString& name, const QString& bezeichnung,
     return feld;
 }
 
-QPushButton* Eingabedialog::knopf(const QString& name, const QString& text) {
-    auto* feld = new QPushButton(text, this);
-    feld->setObjectName(name);
-    feld->setAccessibleName(text.simplified());
-    feld->setAutoDefault(false);
-    return feld;
-}
-
-QLabel* Eingabedialog::beschriftung(const QString& text, QWidget* feld) {
-    auto* schild = new QLabel(text, this);
-    schild->setTextFormat(Qt::PlainText);
-    schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    schild->setBuddy(feld);
-    return schild;
-}
-
 QLabel* Eingabedialog::notiz(const QString& text) {
     auto* schild = new QLabel(text, this);
     schild->setTextFormat(Qt::PlainText);

@@ -151,8 +151,6 @@ class Eingabedialog : public Fenster {
     QRadioButton* option(QButtonGroup* auswahl, const QString& name, int index, const QString& text);
     QComboBox* liste(const QString& name, const QString& bezeichnung,
                      std::span<const std::string_view> eintraege = {});
-    QPushButton* knopf(const QString& name, const QString& text);
-    QLabel* beschriftung(const QString& text, QWidget* feld);
     QLabel* notiz(const QString& text);
     // A line that stands beside what it is about, while it holds: with a sign, in the warning colour.
     QLabel* warnung(const QString& name);

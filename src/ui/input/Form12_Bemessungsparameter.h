@@ -11,14 +11,15 @@ class Form12 : public Eingabedialog {
   public:
     Form12(Programm& programm, Meldungen& meldungen, QWidget* parent);
 
+    struct Wahl;
+
   private:
-    QButtonGroup* verfahren_;
-    QCheckBox* erhoehung_;
-    QCheckBox* deltaRd_;
+    QButtonGroup* baueWahl(const Wahl& wahl, int spalten = 4);
+    void baueErhoehungen();
+    void baueKlammern();
+
     QButtonGroup* klammerwinkel_;
     Werteingabe* beta_;
-    QButtonGroup* verteilung_;
-    QButtonGroup* lagesicherung_;
 };
 
 }  // namespace rippenscheibe

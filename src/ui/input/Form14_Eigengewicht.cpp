@@ -19,6 +19,26 @@ namespace rippenscheibe {
 Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form14"),
               QStringLiteral("  Eigengewicht ermitteln")) {
+    baueDaemmung();
+    baueWichten();
+    inhalt()->addStretch(1);
+
+    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
+    ende->setDefault(true);
+    connect(ende, &QPushButton::clicked, this, [this] {
+        if (eingabenGueltig(*this, meldungen_)) accept();
+    });
+    connect(schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch")), &QPushButton::clicked, this,
+            &QDialog::reject);
+
+    daemmung_->button(keineDaemmung)->setChecked(true);
+    dicke_->setzeWert((programm.w.hRandrippe / 10).value());
+    connect(daemmung_, &QButtonGroup::idToggled, this, &Form14::rechne);
+    connect(dicke_, &Werteingabe::geaendert, this, &Form14::rechne);
+    rechne();
+}
+
+void Form14::baueDaemmung() {
     daemmung_ = new QButtonGroup(this);
     const auto option = [this](int index, const QString& text) {
         auto* feld = new QRadioButton(text, this);
@@ -27,8 +47,8 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
         daemmung_->addButton(feld, index);
         return feld;
     };
-    auto* ohne = option(1, QStringLiteral(" keine Dämmung vorhanden"));
-    auto* mit = option(0, QStringLiteral(" Dämmung vorhanden >>>"));
+    auto* ohne = option(keineDaemmung, QStringLiteral(" keine Dämmung vorhanden"));
+    auto* mit = option(mitDaemmung, QStringLiteral(" Dämmung vorhanden >>>"));
     dicke_ = new Werteingabe(QStringLiteral("Textbox1(0)"),
                              {.beschriftung = QStringLiteral("Dicke der Dämmung ="),
                               .einheit = QStringLiteral("cm"),
@@ -49,7 +69,9 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
     dicke_->setzeInZeile(felder, 1, 1);
     ergebnis_->setzeInZeile(felder, 2, 1);
     inhalt()->addLayout(felder);
+}
 
+void Form14::baueWichten() {
     auto* wichten = new QGroupBox(QStringLiteral("Angesetzte Wichten"), this);
     auto* zeilen = new QVBoxLayout(wichten);
     zeilen->setSpacing(raster / 2);
@@ -64,21 +86,6 @@ Form14::Form14(Programm& programm, Meldungen& meldungen, QWidget* parent)
     wichtenhinweis_->setForegroundRole(QPalette::PlaceholderText);
     wichtenhinweis_->setWordWrap(true);
     inhalt()->addWidget(wichtenhinweis_);
-    inhalt()->addStretch(1);
-
-    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Übernehmen und zurück"));
-    ende->setDefault(true);
-    connect(ende, &QPushButton::clicked, this, [this] {
-        if (eingabenGueltig(*this, meldungen_)) accept();
-    });
-    connect(schaltflaeche(QStringLiteral("Command1"), QStringLiteral("Abbruch")), &QPushButton::clicked, this,
-            &QDialog::reject);
-
-    ohne->setChecked(true);
-    dicke_->setzeWert((programm.w.hRandrippe / 10).value());
-    connect(daemmung_, &QButtonGroup::idToggled, this, &Form14::rechne);
-    connect(dicke_, &Werteingabe::geaendert, this, &Form14::rechne);
-    rechne();
 }
 
 double Form14::gkWand() const { return ergebnis_->wert(); }
@@ -102,7 +109,7 @@ QString Form14::herkunft() const {
 }
 
 void Form14::rechne() {
-    const bool vorhanden = daemmung_->checkedId() == 0;
+    const bool vorhanden = daemmung_->checkedId() == mitDaemmung;
     dicke_->setzeAktiv(vorhanden);
     Wand w = jetzt();  // the record itself is changed by nothing but the accept of the load dialog
     w.DickeDaemmung = dicke_->wert();

@@ -21,11 +21,16 @@ class Form14 : public Fenster {
     double gkWand() const;  // kN/m
 
   private:
+    static constexpr int mitDaemmung = 0;
+    static constexpr int keineDaemmung = 1;
+
+    void baueDaemmung();
+    void baueWichten();
     void rechne();
     Wand jetzt() const;
     QString herkunft() const;
 
-    QButtonGroup* daemmung_;  // id 0: present, 1: none
+    QButtonGroup* daemmung_;
     Werteingabe* dicke_;
     Werteingabe* ergebnis_;
     QLabel* wichtenhinweis_;  // where the unit weights of the sheathing come from

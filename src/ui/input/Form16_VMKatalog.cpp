@@ -108,29 +108,30 @@ QGroupBox* Form16::baueGruppe(const VMKataloggruppe& gruppe) {
     grid->setHorizontalSpacing(raster / 2);
     grid->setVerticalSpacing(2);
     const int jeSpalte = zeilenJeSpalte(anzahl);
-    for (int i = 0; i < anzahl; ++i) {
-        const int nummer = gruppe.ersteZeile + i;
-        const VMKatalogzeile& zeile = VMKatalog()[static_cast<std::size_t>(nummer - 1)];
-        auto* schild = new QLabel(abmessung(zeile), rahmen);
-        schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        // All groups share the columns of the widest size.
-        schild->setMinimumWidth(schild->fontMetrics().horizontalAdvance(QStringLiteral("4,5 x 100")));
-        schild->setToolTip(QStringLiteral("d-Kopf = %1 mm").arg(zahl(zeile.dk)));
-        auto* knopf = new QPushButton(QStringLiteral("auswählen"), rahmen);
-        knopf->setObjectName(QStringLiteral("Command1(%1)").arg(nummer - 1));
-        knopf->setAccessibleName(qtext(gruppe.name).remove(QStringLiteral(" :")) + QLatin1Char(' ') +
-                                 schild->text() + QStringLiteral(" auswählen"));
-        knopf->setToolTip(schild->toolTip());
-        knopf->setAutoDefault(false);
-        schild->setBuddy(knopf);
-        const int spalteImGrid = i / jeSpalte;
-        grid->addWidget(schild, i % jeSpalte, 3 * spalteImGrid);
-        grid->addWidget(knopf, i % jeSpalte, 3 * spalteImGrid + 1);
-        grid->setColumnMinimumWidth(3 * spalteImGrid + 2, raster);
-        connect(knopf, &QPushButton::clicked, this, [this, nummer] { waehle(nummer); });
-    }
+    for (int i = 0; i < anzahl; ++i) baueZeile(gruppe, i, *rahmen, *grid, i % jeSpalte, 3 * (i / jeSpalte));
     grid->setColumnStretch(3 * ((anzahl + jeSpalte - 1) / std::max(jeSpalte, 1)), 1);
     return rahmen;
+}
+
+// One size with its button, in three columns of the grid; the third is the gap.
+void Form16::baueZeile(const VMKataloggruppe& gruppe, int i, QWidget& rahmen, QGridLayout& grid, int zeile,
+                       int spalte) {
+    const int nummer = gruppe.ersteZeile + i;
+    const VMKatalogzeile& werte = VMKatalog()[static_cast<std::size_t>(nummer - 1)];
+    auto* schild = new QLabel(abmessung(werte), &rahmen);
+    schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // All groups share the columns of the widest size.
+    schild->setMinimumWidth(schild->fontMetrics().horizontalAdvance(QStringLiteral("4,5 x 100")));
+    schild->setToolTip(QStringLiteral("d-Kopf = %1 mm").arg(zahl(werte.dk)));
+    QPushButton* waehlen = knopf(QStringLiteral("Command1(%1)").arg(nummer - 1), QStringLiteral("auswählen"));
+    waehlen->setAccessibleName(qtext(gruppe.name).remove(QStringLiteral(" :")) + QLatin1Char(' ') +
+                               schild->text() + QStringLiteral(" auswählen"));
+    waehlen->setToolTip(schild->toolTip());
+    schild->setBuddy(waehlen);
+    grid.addWidget(schild, zeile, spalte);
+    grid.addWidget(waehlen, zeile, spalte + 1);
+    grid.setColumnMinimumWidth(spalte + 2, raster);
+    connect(waehlen, &QPushButton::clicked, this, [this, nummer] { waehle(nummer); });
 }
 
 // Row `zeile`, from 1. Whether the box of the head diameter is in use is the dialog's to know.

@@ -3,6 +3,7 @@
 #include "basis/Seite.h"
 #include "ui/basics/Fenster.h"
 
+class QGridLayout;
 class QGroupBox;
 
 namespace rippenscheibe {
@@ -20,6 +21,8 @@ class Form16 : public Fenster {
 
   private:
     QGroupBox* baueGruppe(const VMKataloggruppe& gruppe);
+    void baueZeile(const VMKataloggruppe& gruppe, int i, QWidget& rahmen, QGridLayout& grid, int zeile,
+                   int spalte);
     void waehle(int zeile);
 
     QWidget* dialog_;

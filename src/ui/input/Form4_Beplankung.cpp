@@ -107,12 +107,17 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
                      {{namen.nkl1, QStringLiteral("NKL 1")}, {namen.nkl2, QStringLiteral("NKL 2")}});
     binde(seite(&Wand::NKLBeplankung, n), s.nkl, {{namen.nkl1, 1}, {namen.nkl2, 2}}, namen.nkl2);
 
-    QGridLayout* felder = grid(s.rahmen);
-    felder->addWidget(beschriftung(QStringLiteral("Material:"), s.material), 0, 0);
-    felder->addWidget(s.material, 0, 1, 1, 2);
-    felder->addWidget(beschriftung(QStringLiteral("eigenes Material:"), s.eigenes), 1, 0);
-    felder->addWidget(s.eigenes, 1, 1, 1, 2);
-    s.dicke->setzeInZeile(felder, 2);
+    ordneAn(s, n);
+    baueDicken(s, n);
+    connect(s.material, &QComboBox::currentIndexChanged, this, [this, n] {
+        zeigeEigene(n);
+        bieteDickenAn(n);
+    });
+    return s;
+}
+
+// The button beside the thickness; the list is filled when a board is chosen.
+void Form4::baueDicken(Seitenfelder& s, Seite n) {
     s.dicken = new QToolButton(this);
     s.dicken->setObjectName(QStringLiteral("Dicken%1").arg(nummer(n)));
     s.dicken->setText(QStringLiteral("Dicken"));
@@ -125,6 +130,16 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     });
     s.dicke->setzeDaneben(s.dicken);
     QWidget::setTabOrder(s.dicke, s.dicken);
+}
+
+void Form4::ordneAn(const Seitenfelder& s, Seite n) {
+    const Steuernamen& namen = steuernamen[n];
+    QGridLayout* felder = grid(s.rahmen);
+    felder->addWidget(beschriftung(QStringLiteral("Material:"), s.material), 0, 0);
+    felder->addWidget(s.material, 0, 1, 1, 2);
+    felder->addWidget(beschriftung(QStringLiteral("eigenes Material:"), s.eigenes), 1, 0);
+    felder->addWidget(s.eigenes, 1, 1, 1, 2);
+    s.dicke->setzeInZeile(felder, 2);
     s.breite->setzeInZeile(felder, 3);
     felder->addWidget(s.gestossen->button(namen.nichtGestossen), 4, 0, 1, 3);
     felder->addWidget(s.gestossen->button(namen.einmalGestossen), 5, 0, 1, 3);
@@ -135,11 +150,6 @@ Form4::Seitenfelder Form4::baueSeite(Seite n) {
     klassen->addStretch(1);
     felder->addLayout(klassen, 6, 0, 1, 3);
     felder->setRowStretch(7, 1);
-    connect(s.material, &QComboBox::currentIndexChanged, this, [this, n] {
-        zeigeEigene(n);
-        bieteDickenAn(n);
-    });
-    return s;
 }
 
 // The names of the own materials, the selected rows kept; a row that is not there leaves none selected.

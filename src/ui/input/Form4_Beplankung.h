@@ -35,6 +35,8 @@ class Form4 : public Eingabedialog {
     };
 
     Seitenfelder baueSeite(Seite n);
+    void baueDicken(Seitenfelder& s, Seite n);
+    void ordneAn(const Seitenfelder& s, Seite n);
     void fuelleEigeneMaterialien();
     void zeigeEigene(Seite n);
     // Offers the only thicknesses that the chosen board has.

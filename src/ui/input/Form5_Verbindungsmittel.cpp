@@ -142,11 +142,14 @@ Form5::Seitenfelder Form5::baueSeite(Seite n) {
     binde(seite(&Wand::Vorgebohrt, n), s.vorgebohrt);
     binde(seite(&Wand::Versenkt, n), s.versenkt);
     binde(seite(&Wand::Zweireihig, n), s.zweireihig);
-    QPushButton* info =
-        knopf(QLatin1String(namen.info), QStringLiteral("Info / Werte zu Verbindungsmitteln"));
-
+    s.info = knopf(QLatin1String(namen.info), QStringLiteral("Info / Werte zu Verbindungsmitteln"));
     s.abweichung = warnung(QStringLiteral("Abweichung%1").arg(nummer(n)));
+    ordneAn(s);
+    folge(s, n);
+    return s;
+}
 
+void Form5::ordneAn(const Seitenfelder& s) {
     QGridLayout* felder = grid(s.rahmen);
     felder->addWidget(beschriftung(QStringLiteral("VM:"), s.art), 0, 0);
     felder->addWidget(s.art, 0, 1, 1, 2);
@@ -158,14 +161,16 @@ Form5::Seitenfelder Form5::baueSeite(Seite n) {
     for (Werteingabe* wert : {s.d, s.ln, s.dk, s.lg, s.fuk, s.av}) wert->setzeInZeile(felder, zeile++);
     for (QCheckBox* haken : {s.vorgebohrt, s.versenkt, s.zweireihig})
         felder->addWidget(haken, zeile++, 0, 1, 3);
-    felder->addWidget(info, zeile, 0, 1, 3, Qt::AlignLeft);
+    felder->addWidget(s.info, zeile, 0, 1, 3, Qt::AlignLeft);
+}
 
+void Form5::folge(const Seitenfelder& s, Seite n) {
     for (const Werteingabe* wert : {s.d, s.ln, s.dk})
         connect(wert, &Werteingabe::geaendert, this, [this, n] { zeigeAbweichung(n); });
     connect(s.art, &QComboBox::currentIndexChanged, this, [this] { richteNachArt(Anlass::wechsel); });
     connect(s.nagel, &QComboBox::currentIndexChanged, this, [this] { richteNachArt(Anlass::wechsel); });
-    connect(info, &QPushButton::clicked, this, [this, n] { Form16(programm_, meldungen_, this, n).exec(); });
-    return s;
+    connect(s.info, &QPushButton::clicked, this,
+            [this, n] { Form16(programm_, meldungen_, this, n).exec(); });
 }
 
 // One routine serves both sides, so a change on one side also sets the strength and the nail's sizes of the

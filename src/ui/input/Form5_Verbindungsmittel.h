@@ -32,11 +32,14 @@ class Form5 : public Eingabedialog {
         QCheckBox* vorgebohrt;
         QCheckBox* versenkt;
         QCheckBox* zweireihig;
+        QPushButton* info;
         QLabel* abweichung;  // of the sizes from those of the chosen nail
     };
     enum class Anlass { laden, wechsel };
 
     Seitenfelder baueSeite(Seite n);
+    void ordneAn(const Seitenfelder& s);
+    void folge(const Seitenfelder& s, Seite n);
     // What applies to the chosen kind of both sides; on a change it also sets what hangs on the kind.
     void richteNachArt(Anlass anlass);
     void richteSeite(Seite n, Anlass anlass);

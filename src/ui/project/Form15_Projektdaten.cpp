@@ -25,13 +25,6 @@ namespace {
 // From the start of the project's name to the one of the position in the foot line of a page, mm.
 constexpr double fusszeilenplatz = 155 - 25;
 
-QLabel* schild(const QString& text, QWidget* feld) {
-    auto* label = new QLabel(text, feld->parentWidget());
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setBuddy(feld);
-    return label;
-}
-
 }  // namespace
 
 Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
@@ -43,6 +36,22 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     grid->setColumnStretch(1, 1);
     inhalt()->addLayout(grid);
 
+    baueProjekt(*grid);
+    position_ = textfeld(grid, 1, QStringLiteral("Position :"));
+    datum_ = textfeld(grid, 2, QStringLiteral("Datum :"));
+    bemerkung_ = textfeld(grid, 3, QStringLiteral("Bemerkung :"));
+    pfad_ = textfeld(grid, 0, QStringLiteral("Pfad :"));
+    QPushButton* waehlen = knopf(QStringLiteral("Command1"), QStringLiteral("Pfad wählen"));
+    connect(waehlen, &QPushButton::clicked, this, &Form15::waehlePfad);
+    grid->addWidget(waehlen, grid->rowCount() - 1, 2);
+    inhalt()->addStretch(1);
+    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Zurück zum Hauptfenster"));
+    ende->setDefault(true);
+    connect(ende, &QPushButton::clicked, this, &Form15::zurueckZumHauptfenster);
+    lade();
+}
+
+void Form15::baueProjekt(QGridLayout& grid) {
     projekt_->setObjectName(QStringLiteral("Combo1"));
     projekt_->setAccessibleName(QStringLiteral("Projekt"));
     projekt_->setEditable(true);
@@ -52,8 +61,8 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     projekt_->setMinimumWidth(360);
     projekt_->lineEdit()->setObjectName(QStringLiteral("Combo1_Text"));
     projekt_->lineEdit()->setAccessibleName(QStringLiteral("Projekt"));
-    grid->addWidget(schild(QStringLiteral("Projekt :"), projekt_), 0, 0);
-    grid->addWidget(projekt_, 0, 1, 1, 2);
+    grid.addWidget(beschriftung(QStringLiteral("Projekt :"), projekt_), 0, 0);
+    grid.addWidget(projekt_, 0, 1, 1, 2);
 
     platz_ = new QLabel(QStringLiteral("⚠ Der Name ist zu lang für die Fußzeile des Ausdrucks."), this);
     platz_->setObjectName(QStringLiteral("Fusszeilenplatz"));
@@ -61,44 +70,29 @@ Form15::Form15(Programm& programm, Meldungen& meldungen, QWidget* parent)
     QPalette farben = platz_->palette();
     farben.setColor(QPalette::WindowText, urteilsfarben(palette()).warnung);
     platz_->setPalette(farben);
-    grid->addWidget(platz_, 1, 1, 1, 2);
+    grid.addWidget(platz_, 1, 1, 1, 2);
     connect(projekt_, &QComboBox::editTextChanged, this, &Form15::zeigeFusszeilenplatz);
-
-    position_ = textfeld(grid, 1, QStringLiteral("Position :"));
-    datum_ = textfeld(grid, 2, QStringLiteral("Datum :"));
-    bemerkung_ = textfeld(grid, 3, QStringLiteral("Bemerkung :"));
-    pfad_ = textfeld(grid, 0, QStringLiteral("Pfad :"));
-    auto* waehlen = new QPushButton(QStringLiteral("Pfad wählen"), this);
-    waehlen->setObjectName(QStringLiteral("Command1"));
-    waehlen->setAccessibleName(waehlen->text());
-    waehlen->setAutoDefault(false);
-    grid->addWidget(waehlen, grid->rowCount() - 1, 2);
-    inhalt()->addStretch(1);
-
     connect(projekt_, &QComboBox::activated, this, &Form15::waehleProjekt);
-    connect(waehlen, &QPushButton::clicked, this, [this] {
-        // The chooser starts at the typed folder; cancelled, it leaves the stored one.
-        const std::string vorher = std::exchange(programm_.Positionspfad, utf8(pfad_->text()));
-        Pfadwahl wahl(programm_, meldungen_, this, Pfadwahl::Zweck::positionspfad);
-        if (wahl.exec() == QDialog::Accepted) {
-            pfad_->setText(wahl.pfad());
-        } else {
-            programm_.Positionspfad = vorher;
-        }
-    });
-    QPushButton* ende = schaltflaeche(QStringLiteral("ComEnde"), QStringLiteral("Zurück zum Hauptfenster"));
-    ende->setDefault(true);
-    connect(ende, &QPushButton::clicked, this, &Form15::zurueckZumHauptfenster);
-    lade();
+}
+
+// The chooser starts at the typed folder; cancelled, it leaves the stored one.
+void Form15::waehlePfad() {
+    const std::string vorher = std::exchange(programm_.Positionspfad, utf8(pfad_->text()));
+    Pfadwahl wahl(programm_, meldungen_, this, Pfadwahl::Zweck::positionspfad);
+    if (wahl.exec() == QDialog::Accepted) {
+        pfad_->setText(wahl.pfad());
+    } else {
+        programm_.Positionspfad = vorher;
+    }
 }
 
 // A row "Text1(index)" of the grid.
-QLineEdit* Form15::textfeld(QGridLayout* grid, int index, const QString& beschriftung) {
+QLineEdit* Form15::textfeld(QGridLayout* grid, int index, const QString& text) {
     auto* feld = new QLineEdit(this);
     feld->setObjectName(QStringLiteral("Text1(%1)").arg(index));
-    feld->setAccessibleName(beschriftung.section(QLatin1Char(' '), 0, 0));
+    feld->setAccessibleName(text.section(QLatin1Char(' '), 0, 0));
     const int zeile = grid->rowCount();
-    grid->addWidget(schild(beschriftung, feld), zeile, 0);
+    grid->addWidget(beschriftung(text, feld), zeile, 0);
     grid->addWidget(feld, zeile, 1, 1, index == 0 ? 1 : 2);
     return feld;
 }

@@ -27,7 +27,9 @@ class Form15 : public Fenster {
     void reject() override;
 
   private:
-    QLineEdit* textfeld(QGridLayout* grid, int index, const QString& beschriftung);
+    void baueProjekt(QGridLayout& grid);
+    void waehlePfad();
+    QLineEdit* textfeld(QGridLayout* grid, int index, const QString& text);
     void lade();
     void waehleProjekt(int eintrag);
     void zurueckZumHauptfenster();

@@ -34,8 +34,8 @@ const Fassung& fassung(Vorlagenart art) {
     return art == Vorlagenart::vorbemerkungen ? vor : zusatz;
 }
 
-QLabel* schild(const char* text, QWidget* feld) {
-    auto* label = new QLabel(QString::fromUtf8(text), feld->parentWidget());
+QLabel* schild(const QString& text, QWidget* feld) {
+    auto* label = new QLabel(text, feld->parentWidget());
     label->setBuddy(feld);
     return label;
 }
@@ -51,59 +51,13 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
       hoechstensDrei_(art == Vorlagenart::vorbemerkungen),
       liste_(new QListWidget(this)),
       name_(new QLineEdit(this)),
-      text_(new QPlainTextEdit(this)),
-      sichern_(new QPushButton(QStringLiteral("Vorlage sichern"), this)) {
-    liste_->setObjectName(QStringLiteral("List1"));
-    liste_->setAccessibleName(QStringLiteral("Vorlagen"));
-    liste_->setMinimumWidth(220);
-    name_->setObjectName(QStringLiteral("Text2"));
-    name_->setAccessibleName(QStringLiteral("Name der Vorlage"));
-    text_->setObjectName(QStringLiteral("Text1"));
-    text_->setAccessibleName(QStringLiteral("Text"));
-    text_->setTabChangesFocus(true);
-    text_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    text_->setMinimumSize(460, 140);
-    auto* neue = new QPushButton(QStringLiteral("neue Vorlage anlegen -->"), this);
-    neue->setObjectName(QStringLiteral("Command2"));
-    neue->setAccessibleName(QStringLiteral("neue Vorlage anlegen"));
-    neue->setToolTip(QStringLiteral("neue Textvorlage anlegen"));
-    neue->setAutoDefault(false);
-    sichern_->setObjectName(QStringLiteral("Command3"));
-    sichern_->setAccessibleName(sichern_->text());
-    sichern_->setAutoDefault(false);
-
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(2 * raster);
-    grid->setVerticalSpacing(raster);
-    grid->setColumnStretch(1, 1);
-    grid->addWidget(schild("Vorlagen:", liste_), 0, 0);
-    grid->addWidget(liste_, 1, 0, 3, 1);
-    grid->addWidget(neue, 4, 0);
-    grid->addWidget(schild("Name der Vorlage: ", name_), 0, 1);
-    grid->addWidget(name_, 1, 1);
-    grid->addWidget(schild(fassung(art).textschild, text_), 2, 1);
-    grid->addWidget(text_, 3, 1);
-    grid->addWidget(sichern_, 4, 1, Qt::AlignLeft);
-    zuLang_ = new QLabel(QStringLiteral("⚠ Die Vorlage hat mehr als 3 Zeilen und passt nicht in die "
-                                        "Vorbemerkungen."),
-                         this);
-    zuLang_->setObjectName(QStringLiteral("VorlageZuLang"));
-    zuLang_->setWordWrap(true);
-    zuLang_->hide();
-    grid->addWidget(zuLang_, 5, 1);
-    grid->setRowStretch(3, 1);
-    inhalt()->addLayout(grid, 1);
-
+      text_(new QPlainTextEdit(this)) {
+    baueFelder();
+    ordneAn(QString::fromUtf8(fassung(art).textschild));
     if (hoechstensDrei_) new Zeilengrenze(text_);
     for (QWidget* feld :
          {static_cast<QWidget*>(name_), static_cast<QWidget*>(text_), static_cast<QWidget*>(sichern_)})
         feld->setEnabled(false);
-
-    // Not the current row: the list makes its first row current when it gets the focus, and that is no
-    // choice.
-    connect(liste_, &QListWidget::itemSelectionChanged, this, &Textvorlagenfenster::zeigeGewaehlte);
-    connect(neue, &QPushButton::clicked, this, &Textvorlagenfenster::neu);
-    connect(sichern_, &QPushButton::clicked, this, &Textvorlagenfenster::sichern);
 
     uebernehmen_ = schaltflaeche(QStringLiteral("ComBem"), QStringLiteral("Übernehmen und zurück"));
     uebernehmen_->setEnabled(false);  // nothing is shown yet that could replace the remark
@@ -117,6 +71,52 @@ Textvorlagenfenster::Textvorlagenfenster(Programm& programm, Meldungen& meldunge
     fuelleListe();
     if (const auto stoerung = gelesen.stoerung())
         meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(stoerung->text));
+}
+
+void Textvorlagenfenster::baueFelder() {
+    liste_->setObjectName(QStringLiteral("List1"));
+    liste_->setAccessibleName(QStringLiteral("Vorlagen"));
+    liste_->setMinimumWidth(220);
+    name_->setObjectName(QStringLiteral("Text2"));
+    name_->setAccessibleName(QStringLiteral("Name der Vorlage"));
+    text_->setObjectName(QStringLiteral("Text1"));
+    text_->setAccessibleName(QStringLiteral("Text"));
+    text_->setTabChangesFocus(true);
+    text_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    text_->setMinimumSize(460, 140);
+    sichern_ = knopf(QStringLiteral("Command3"), QStringLiteral("Vorlage sichern"));
+    neue_ = knopf(QStringLiteral("Command2"), QStringLiteral("neue Vorlage anlegen -->"));
+    neue_->setAccessibleName(QStringLiteral("neue Vorlage anlegen"));
+    neue_->setToolTip(QStringLiteral("neue Textvorlage anlegen"));
+    // Not the current row: the list makes its first row current when it gets the focus, and that is no
+    // choice.
+    connect(liste_, &QListWidget::itemSelectionChanged, this, &Textvorlagenfenster::zeigeGewaehlte);
+    connect(neue_, &QPushButton::clicked, this, &Textvorlagenfenster::neu);
+    connect(sichern_, &QPushButton::clicked, this, &Textvorlagenfenster::sichern);
+}
+
+void Textvorlagenfenster::ordneAn(const QString& textschild) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(2 * raster);
+    grid->setVerticalSpacing(raster);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(schild(QStringLiteral("Vorlagen:"), liste_), 0, 0);
+    grid->addWidget(liste_, 1, 0, 3, 1);
+    grid->addWidget(neue_, 4, 0);
+    grid->addWidget(schild(QStringLiteral("Name der Vorlage: "), name_), 0, 1);
+    grid->addWidget(name_, 1, 1);
+    grid->addWidget(schild(textschild, text_), 2, 1);
+    grid->addWidget(text_, 3, 1);
+    grid->addWidget(sichern_, 4, 1, Qt::AlignLeft);
+    zuLang_ = new QLabel(QStringLiteral("⚠ Die Vorlage hat mehr als 3 Zeilen und passt nicht in die "
+                                        "Vorbemerkungen."),
+                         this);
+    zuLang_->setObjectName(QStringLiteral("VorlageZuLang"));
+    zuLang_->setWordWrap(true);
+    zuLang_->hide();
+    grid->addWidget(zuLang_, 5, 1);
+    grid->setRowStretch(3, 1);
+    inhalt()->addLayout(grid, 1);
 }
 
 std::string Textvorlagenfenster::text() const { return textAus(*text_); }

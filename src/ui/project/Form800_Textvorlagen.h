@@ -28,6 +28,8 @@ class Textvorlagenfenster : public Fenster {
     std::string text() const;
 
   private:
+    void baueFelder();
+    void ordneAn(const QString& textschild);
     void gibFrei(bool text = true);
     void zeigeGewaehlte();
     void neu();
@@ -40,6 +42,7 @@ class Textvorlagenfenster : public Fenster {
     QListWidget* liste_;
     QLineEdit* name_;
     QPlainTextEdit* text_;
+    QPushButton* neue_;
     QPushButton* sichern_;
     QPushButton* uebernehmen_;
     QLabel* zuLang_;  // beside the text while a template is chosen that it cannot take

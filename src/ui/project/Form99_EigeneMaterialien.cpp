@@ -86,28 +86,7 @@ Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
       liste_(new QComboBox(this)),
       name_(new QLineEdit(this)),
       lochleibung_(new QButtonGroup(this)) {
-    auto* kopf = new QHBoxLayout;
-    kopf->setSpacing(raster);
-    liste_->setObjectName(QStringLiteral("Combo1"));
-    liste_->setAccessibleName(QStringLiteral("Material"));
-    liste_->setMinimumWidth(260);
-    auto* schild = new QLabel(QStringLiteral("Material:"), this);
-    schild->setBuddy(liste_);
-    kopf->addWidget(schild);
-    kopf->addWidget(liste_, 1);
-    const auto knopf = [&](int index, const char* text) {
-        auto* k = new QPushButton(QString::fromUtf8(text), this);
-        k->setObjectName(QStringLiteral("Command2(%1)").arg(index));
-        k->setAccessibleName(k->text());
-        k->setAutoDefault(false);
-        kopf->addWidget(k);
-        return k;
-    };
-    neu_ = knopf(0, "Neues Material anlegen");
-    loeschen_ = knopf(1, "Material löschen");
-    bearbeiten_ = knopf(2, "Material bearbeiten");
-    inhalt()->addLayout(kopf);
-
+    baueKopf();
     auto* spalten = new QHBoxLayout;
     spalten->setSpacing(2 * raster);
     auto* links = new QVBoxLayout;
@@ -143,6 +122,25 @@ Form99::Form99(Programm& programm, Meldungen& meldungen, QWidget* parent)
     fuelleListe(0);
 }
 
+void Form99::baueKopf() {
+    auto* kopf = new QHBoxLayout;
+    kopf->setSpacing(raster);
+    liste_->setObjectName(QStringLiteral("Combo1"));
+    liste_->setAccessibleName(QStringLiteral("Material"));
+    liste_->setMinimumWidth(260);
+    kopf->addWidget(beschriftung(QStringLiteral("Material:"), liste_));
+    kopf->addWidget(liste_, 1);
+    const auto baue = [&](int index, const QString& text) {
+        QPushButton* k = knopf(QStringLiteral("Command2(%1)").arg(index), text);
+        kopf->addWidget(k);
+        return k;
+    };
+    neu_ = baue(0, QStringLiteral("Neues Material anlegen"));
+    loeschen_ = baue(1, QStringLiteral("Material löschen"));
+    bearbeiten_ = baue(2, QStringLiteral("Material bearbeiten"));
+    inhalt()->addLayout(kopf);
+}
+
 Werteingabe* Form99::werteingabe(std::size_t zeile) {
     const Wertzeile& z = wertzeilen[zeile];
     Wertvorgabe vorgabe;
@@ -163,10 +161,7 @@ QWidget* Form99::baueKennwerte() {
     grid->setColumnStretch(2, 1);
     name_->setObjectName(QStringLiteral("Textbox1"));
     name_->setAccessibleName(QStringLiteral("Bezeichnung"));
-    auto* schild = new QLabel(QStringLiteral("Bezeichnung:"), rahmen);
-    schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    schild->setBuddy(name_);
-    grid->addWidget(schild, 0, 0);
+    grid->addWidget(beschriftung(QStringLiteral("Bezeichnung:"), name_), 0, 0);
     grid->addWidget(name_, 0, 1, 1, 2);
     for (std::size_t i = 0; i < kennwerte; ++i) werteingabe(i)->setzeInZeile(grid, static_cast<int>(i) + 1);
     return rahmen;

@@ -30,6 +30,7 @@ class Form99 : public Fenster {
   private:
     enum class Zustand { anzeigen, neu, bearbeiten };
 
+    void baueKopf();
     QWidget* baueKennwerte();
     QWidget* baueLochleibung();
     QGroupBox* baueKmod(const QString& titel, int ersteZeile);
