@@ -80,7 +80,7 @@ void klammern(Wand& w, Seite n) {
     w.a3[n] = 10 * d;
     w.aPlatteUnbelastet[n] = (5 * sinus + 5) * d;
     w.aPlatte[n] = 10 * d;
-    if (n == Seite::eins) {  // meant: on side 1 only
+    if (n == Seite::eins) {  // Meant: on side 1 only
         w.a4[n] = 20 * d;
         w.aRand[n] = 15 * d;
     }

@@ -40,13 +40,13 @@ bool istEigenesMaterialUngebohrt(const Wand& w, Seite n) {
     return istEigenesMaterial(w, n) && !w.Vorgebohrt[n];
 }
 
-// The group of wood-based boards of the staples; chipboard with approval is not in it on either side. Meant.
+// Meant: chipboard with approval is in the group of wood-based boards on neither side.
 bool istKlammerHolzwerkstoff(const Wand& w, Seite n) {
     return istOsb(w, n) || istSpanplatte(plattenmaterial(w, n));
 }
 
-// All other materials of side 2 have A = 0; their embedment strength, formed with d2 and t2, is written to
-// the field of side 1. Meant.
+// Meant: all other materials of side 2 have A = 0; their embedment strength, formed with d2 and t2, is
+// written to the field of side 1.
 void setzeRestgruppeKlammernSeite2(Wand& w) {
     constexpr Seite n = Seite::zwei;
     if (!hatFormel(w, n, Lochleibung::gipsfaser)) return;
@@ -93,7 +93,7 @@ void klammernDin18182Vereinfacht(Wand& w, Seite n) {
         // Side difference: side 1 assigns nothing on the other materials.
         setzeRestgruppeKlammernSeite2(w);
     }
-    // Side difference: staples in the own material have no capacity on side 2. Meant.
+    // Meant: staples in the own material have no capacity on side 2.
     const double AFaktorEigen = n == Seite::eins ? 0.8 : 0;
     if (istEigenesMaterialUngebohrt(w, n)) setzeEigenesMaterial(w, n, AFaktorEigen);
     setzeRk(w, n);

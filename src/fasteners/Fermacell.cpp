@@ -13,12 +13,12 @@ namespace {
 // Penetration into the rib, mm.
 constexpr double treqNagel = 30;
 constexpr double treqSondernagel = 27;
-// Side difference: staples need 32 mm on side 1 and 30 mm on side 2. Meant.
+// Meant: staples need 32 mm on side 1 and 30 mm on side 2.
 constexpr Paar<double> treqKlammer{{32, 30}};
 
 bool duennerAls2(const Wand& w, Seite n) { return w.d[n] < 2; }
 bool dickerAls3(const Wand& w, Seite n) { return w.d[n] > 3; }
-// Side difference: nails on side 2 measure the penetration by d1, the diameter of side 1. Meant.
+// Meant: nails on side 2 measure the penetration by d1, the diameter of side 1.
 bool nageleinbindungUnter4d1(const Wand& w, Seite n) { return w.ln[n] - w.t[n] < 4 * w.d[Seite::eins]; }
 
 constexpr std::array<Ausschluss, 4> ausschluesseNaegel{randrippeZuDuenn, duennerAls2, dickerAls3,
@@ -39,7 +39,7 @@ Zahl faserbeiwertNagel(const Wand& w, Seite n) {
 }
 
 Zahl faserbeiwertKlammer(const Wand& w, Seite n) {
-    // Side difference: side 1 reduces under vertical load, whatever the thickness. Meant.
+    // Meant: side 1 reduces under vertical load, whatever the thickness.
     if (n == Seite::zwei) return faserbeiwertNagel(w, n);
     return w.Lastfall == 2 || w.Lastfall == 3 ? 1.5 / w.d[n] : Zahl(1);
 }
@@ -55,7 +55,7 @@ void setzeRkFaser(Wand& w, Seite n, double treqRippe, Zahl kFaser) {
 // Embedment strength of special nails and staples in the exact method.
 void setzeLochleibungGenau(Wand& w, Seite n) {
     setzeLochleibung(w, n, Lochleibung::gipsfaser);
-    // Side difference: predrilled, side 1 keeps the earlier value, side 2 has none. Meant.
+    // Meant: predrilled, side 1 keeps the earlier value, side 2 has none.
     if (n == Seite::zwei && w.Vorgebohrt[n]) w.fhkPlatte[n] = 0;
 }
 
@@ -82,8 +82,8 @@ void sondernaegelFermacellVereinfacht(Wand& w, Seite n) {
     assert(istGipsfaser(w, n));
     setzeFliessmomentNagel(w, n);
     setzeRkFaser(w, n, treqSondernagel, faserbeiwertNagel(w, n));
-    // Side difference: side 1 adds deltaRk1, which this family never computes: what another fastener left
-    // there enters, whatever DeltaRd says. Meant.
+    // Meant: side 1 adds deltaRk1, which this family never computes: what another fastener left there enters,
+    // whatever DeltaRd says.
     const Zahl zuwachs = n == Seite::eins ? Zahl(w.deltaRk[n]) : Zahl(0);
     w.Rd[n] =
         ausgeschlossen(w, n, ausschluesseSondernaegel) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + zuwachs);

@@ -40,7 +40,7 @@ void klammernVereinfacht(Wand& w, Seite n) {
     if (istHolzwerkstoff(w, n)) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
     } else if (n == Seite::zwei) {
-        // Side difference: side 2 has no gypsum group; all the rest has A = 0 and no fhkPlatte2. Meant.
+        // Meant: side 2 has no gypsum group; all the rest has A = 0 and no fhkPlatte2.
         soVorgegeben("Klammern auf Seite 2 kennen außer Holzwerkstoffen keine Gruppe: A = 0");
         setzeBeiwerte(w, n, {0, 7 * d, 9 * d});
     } else if (istGipskarton(w, n)) {
@@ -52,7 +52,7 @@ void klammernVereinfacht(Wand& w, Seite n) {
 }
 
 void klammernGenau(Wand& w, Seite n) {
-    // Side difference: side 2 tests its own fuk2, but forms the moment with fuk1. Meant.
+    // Meant: side 2 tests its own fuk2, but forms the moment with fuk1.
     const Zahl fukMoment = n == Seite::zwei ? w.fuk[Seite::eins] : w.fuk[n];
     if (n == Seite::zwei) soVorgegeben("Seite 2 bildet das Fließmoment mit der Zugfestigkeit von Seite 1");
     w.Myk[n] = w.fuk[n] >= 800 ? fliessmoment(fliessmomentNagel, fukMoment, w.d[n]) : Zahl(0);

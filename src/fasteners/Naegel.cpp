@@ -26,7 +26,7 @@ void setzeGruppeSeite1(Wand& w) {
     }
 }
 
-// Side 2 has no gypsum group: nails in gypsum board have A = 0 there, and fhkPlatte2 is not assigned. Meant.
+// Meant: side 2 has no gypsum group; nails in gypsum board have A = 0 there, and fhkPlatte2 is not assigned.
 void setzeGruppeSeite2(Wand& w) {
     constexpr Seite n = Seite::zwei;
     const Zahl d = w.d[n];
@@ -38,7 +38,7 @@ void setzeGruppeSeite2(Wand& w) {
     }
 }
 
-// Both sides alike. Chipboard P4 takes the formula of gypsum fibre board here, P5 to P7 do not: meant.
+// Meant: on both sides chipboard P4 takes the formula of gypsum fibre board here, P5 to P7 do not.
 void setzeLochleibungGenau(Wand& w, Seite n) {
     if (plattenmaterial(w, n) == Platte::P4) {
         if (hatFormel(w, n, Lochleibung::gipsfaser))

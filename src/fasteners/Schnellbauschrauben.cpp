@@ -25,7 +25,7 @@ constexpr std::array<Ausschluss, 3> ausschluesse{randrippeZuDuenn, laengeFalsch,
 
 void setzeFliessmoment(Wand& w, Seite n) {
     const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
-    // Side difference: side 1 does not look at fuk, in both methods. Meant.
+    // Meant: side 1 does not look at fuk, in both methods.
     const bool vorhanden = n == Seite::eins ? imBereich : w.fuk[n] >= 400 && imBereich;
     w.Myk[n] = vorhanden ? fliessmoment(fliessmomentSchraube, w.fuk[n], w.d[n]) : Zahl(0);
 }
@@ -35,8 +35,8 @@ void setzeFliessmoment(Wand& w, Seite n) {
 void schnellbauschraubenVereinfacht(Wand& w, Seite n) {
     const Zahl d = w.d[n];
     setzeFliessmoment(w, n);
-    // Side difference: side 1 knows gypsum board only and leaves all fields alone on other materials; side 2
-    // takes every material for gypsum board, with 9 d of penetration in place of 4 d. Meant.
+    // Meant: side 1 knows gypsum board only and leaves all fields alone on other materials; side 2 takes
+    // every material for gypsum board, with 9 d of penetration in place of 4 d.
     if (n == Seite::zwei) {
         setzeGruppe(w, n, Lochleibung::gipskarton, {1.1, 10 * d, 9 * d});
     } else if (istGipskarton(w, n)) {
@@ -55,7 +55,7 @@ void schnellbauschraubenGenau(Wand& w, Seite n) {
     } else if (istEigenesMaterial(w, n)) {
         setzeLochleibungEigen(w, n);
     } else if (n == Seite::zwei) {
-        // Side difference: on other materials side 1 keeps the earlier value, side 2 has none. Meant.
+        // Meant: on other materials side 1 keeps the earlier value, side 2 has none.
         w.fhkPlatte[n] = 0;
     }
     setzeVersagensarten(w, n, Schaefte::einer);

@@ -38,7 +38,7 @@ bool hatFliessmoment(const Wand& w, Seite n, Verfahren verfahren) {
     const bool zugfest = w.fuk[n] >= 400;
     const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
     if (verfahren == Verfahren::genau) return zugfest && imBereich;
-    // Side difference: side 1 does not look at fuk, side 2 knows the diameter 4 alone. Meant.
+    // Meant: side 1 does not look at fuk, side 2 knows the diameter 4 alone.
     return n == Seite::eins ? imBereich : zugfest && w.d[n] == 4;
 }
 
@@ -50,8 +50,8 @@ void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
 // lef, f1k, f2k and Rxk. Both methods take the density of the ribs.
 void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     setzeEinbindelaenge(w, n);
-    // Side difference: side 1, simplified, leaves f1k1 alone, so that the minimum below works with what an
-    // earlier calculation left there, 0 after program start. Meant.
+    // Meant: side 1, simplified, leaves f1k1 alone, so that the minimum below works with what an earlier
+    // calculation left there, 0 after program start.
     if (!(n == Seite::eins && verfahren == Verfahren::vereinfacht)) {
         w.f1k[n] = ausziehparameter(cSchraube, w.rhok);
     }
@@ -76,8 +76,8 @@ void setzeGruppenDerSchrauben(Wand& w, Seite n) {
     if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 4 * d});
     } else if (n == Seite::zwei) {
-        // Side difference: all the rest takes the fibre-board value, predrilled too, and the required
-        // thickness goes by d1, the diameter of side 1. Meant.
+        // Meant: all the rest takes the fibre-board value, predrilled too, and the required thickness goes by
+        // d1, the diameter of side 1.
         w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
         setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
     } else if (istGipskarton(w, n)) {

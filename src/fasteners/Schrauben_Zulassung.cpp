@@ -17,14 +17,14 @@ bool randrippeZuDuennFuerD1(const Wand& w, Seite n) {
 
 constexpr std::array<Ausschluss, 4> ausschluesse{randrippeZuDuenn, durchmesserUnter4, durchmesserAb8,
                                                  einbindungUnter4d};
-// Side difference: side 2, simplified, measures the rib depth by d1, the diameter of side 1. Meant.
+// Meant: side 2, simplified, measures the rib depth by d1, the diameter of side 1.
 constexpr std::array<Ausschluss, 4> ausschluesseSeite2Vereinfacht{randrippeZuDuennFuerD1, durchmesserUnter4,
                                                                   durchmesserAb8, einbindungUnter4d};
 
 bool hatFliessmoment(const Wand& w, Seite n, Verfahren verfahren) {
     const bool zugfest = w.fuk[n] >= 400;
     const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
-    // Side difference: the conditions of the four routines are all different but for the form. Meant.
+    // Meant: the conditions of the four routines are all different but for the form.
     if (verfahren == Verfahren::vereinfacht) {
         return n == Seite::eins ? zugfest && imBereich : zugfest && w.d[n] == 4;
     }
@@ -37,7 +37,7 @@ void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
 }
 
 bool istGipskartonGenau(const Wand& w, Seite n) {
-    // Side difference: side 1 takes its upper bound from the material of side 2. Meant.
+    // Meant: side 1 takes its upper bound from the material of side 2.
     if (n == Seite::eins)
         return plattenmaterial(w, Seite::eins) >= Platte::GKB &&
                plattenmaterial(w, Seite::zwei) <= Platte::GKFI;
@@ -58,7 +58,7 @@ void setzeRxkTiefGenug(Wand& w, Seite n, Verfahren verfahren) {
     } else if (k != nullptr) {
         w.f2k[n] = kopfdurchziehparameter(k->kopf);
     }
-    // Side difference: side 2, exact, up to 20 mm computes the parameters only; Rxk2 keeps its value. Meant.
+    // Meant: side 2, exact, up to 20 mm computes the parameters only; Rxk2 keeps its value.
     if (n == Seite::zwei && verfahren == Verfahren::genau && band == Dickenband::bis20) return;
     w.Rxk[n] = ausziehtragfaehigkeit(w, n);
 }
@@ -77,8 +77,7 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     }
 }
 
-// Side difference: in the band that leaves Rxk2 alone Rxd2 keeps its value too, and the gain is formed from
-// it. Meant.
+// Meant: in the band that leaves Rxk2 alone Rxd2 keeps its value too, and the gain is formed from it.
 bool laesstRxdStehen(const Wand& w, Seite n) {
     return n == Seite::zwei && dickenband(w, n) == Dickenband::bis20 &&
            pruefeEinbindung(w, n, mindesteinbindungSchraube) == Einbindung::genuegt;

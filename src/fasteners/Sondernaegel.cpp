@@ -24,7 +24,7 @@ void setzeGruppen(Wand& w, Seite n) {
     if (istOsb(w, n) || istSpanplatteOderWeiter(w, n)) {
         setzeGruppe(w, n, Lochleibung::holzwerkstoff, {0.8, 7 * d, 9 * d});
     } else if (n == Seite::zwei) {
-        // Side difference: side 2 has no gypsum group; all the rest has A = 0 and no fhkPlatte2. Meant.
+        // Meant: side 2 has no gypsum group; all the rest has A = 0 and no fhkPlatte2.
         soVorgegeben("Sondernägel auf Seite 2 kennen außer Holzwerkstoffen keine Gruppe: A = 0");
         setzeBeiwerte(w, n, {0, 7 * d, 9 * d});
     } else if (istGipskarton(w, n)) {
@@ -42,8 +42,8 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
         return;
     }
     const Tragfaehigkeitsklasse& klasse = *tragfaehigkeitsklasse(w, n);
-    // The simplified method has no density: f1k is 0 there, and only a sheathing below 12 mm gives a gain.
-    // Meant.
+    // Meant: the simplified method has no density; f1k is 0 there, and only a sheathing below 12 mm gives a
+    // gain.
     const Zahl rho = verfahren == Verfahren::vereinfacht ? Zahl(0) : Zahl(w.rhok);
     const Zahl f1k = ausziehparameter(klasse.sondernaegel, rho);
     w.f1k[n] = w.Vorgebohrt[n] ? beiwertVorgebohrt * f1k : f1k;
@@ -53,7 +53,7 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
         w.Rxk[n] = 0;
         return;
     }
-    // At lef = 8 d exactly the simplified method keeps Rxk, the exact one goes on. Meant.
+    // Meant: at lef = 8 d exactly the simplified method keeps Rxk, the exact one goes on.
     if (einbindung == Einbindung::grenze && verfahren == Verfahren::vereinfacht) return;
     setzeRxkNachDicke(w, n, klasse.kopf);
 }

@@ -25,8 +25,8 @@ constexpr int letztesNadelholz = 5;
 constexpr int GL28h = 8;
 
 // clang-format off
-// Strength classes C16 to C40 and GL24h to GL36c (DIN 1052 (2008), tables F.5 and F.9), in the order of
-// the catalogue. The modulus 7000 of C16 is meant.
+// Strength classes C16 to C40 and GL24h to GL36c (DIN 1052 (2008), tables F.5 and F.9), in the order of the
+// catalogue. Meant: the modulus 7000 of C16.
 constexpr std::array<Holzklasse, 13> holzklassen{{
     // rhok  fmk   fc0k  ft0k  fc90k  E0mean   Gmean  E90mean
     {  310,  16,   17,   10,   2.2,    7000,   500,   270},
@@ -197,7 +197,7 @@ void spanplatte(Wand& w, Seite n, std::span<const Spanplattenband> baender) {
     w.rhokBeplankung[n] = band != nullptr ? band->rhok : 0;
     w.Gmean[n] = band != nullptr ? band->Gmean : 10;
     if (n == Seite::eins) {
-        // Meant, on side 1 only: 700550 N/mm² in the top band of P4, 1000 N/mm² outside all bands of P7.
+        // Meant: on side 1 only, 700550 N/mm² in the top band of P4, 1000 N/mm² outside all bands of P7.
         if (isP4 && band == &baender.back()) {
             soVorgegeben("P4 im obersten Dickenband hat auf Seite 1 den Schubmodul 700550");
             w.Gmean[n] = 700550;

@@ -18,8 +18,7 @@ constexpr std::array<std::string_view, 9> vmKlassen{"1A", "1B", "1C", "2A", "2B"
 constexpr std::array<std::string_view, 5> kledNamen{"ständig", "lang", "mittel", "kurz", "sehr kurz"};
 
 // clang-format off
-// Nail sizes in mm. The head of the 3.4 mm nails (7.7) is larger than that of the 3.8 mm nails (7.6);
-// that is meant.
+// Nail sizes in mm. Meant: the head of the 3.4 mm nails (7.7) is larger than that of the 3.8 mm nails (7.6).
 constexpr std::array<Nageltyp, 31> vmTypen{{
     {"2,0x45",  2.0,  45.0,  5.0},
     {"2,2x50",  2.2,  50.0,  5.5},

@@ -22,7 +22,7 @@ constexpr std::array<VMKatalogzeile, 71> zeilen{{
     {1.53F,  50.0F,  1.53F},
     {1.53F,  56.0F,  1.53F},
     {1.53F,  63.0F,  1.53F},
-    {1.53F,  38.0F,  1.83F},  // the head of the thicker staple here: meant
+    {1.53F,  38.0F,  1.83F},  // Meant: the head of the thicker staple
     {1.83F,  44.0F,  1.83F},
     {1.83F,  50.0F,  1.83F},
     {1.83F,  56.0F,  1.83F},
@@ -52,7 +52,7 @@ constexpr std::array<VMKatalogzeile, 71> zeilen{{
     // from row 38: screws with approval
     {4.00F,  45.0F,  8.00F},
     {4.00F,  50.0F,  8.00F},
-    {4.00F,  60.0F,  6.00F},  // a smaller head than its neighbours: meant
+    {4.00F,  60.0F,  6.00F},  // Meant: a smaller head than its neighbours
     {4.00F,  70.0F,  8.00F},
     {4.00F,  80.0F,  8.00F},
     {4.00F,  90.0F,  8.00F},

@@ -24,8 +24,8 @@ struct Wand : Eingaben, Ergebnisse {
     std::vector<Hinweis> Hinweise;        // findings of the last plausibility run
 };
 
-// Plattendicke of side n as it is stored. Side 1 is a double, side 2 single precision: the sides of
-// the position file are typed differently, and that is meant.
+// Plattendicke of side n as it is stored. Meant: side 1 is a double, side 2 single precision, as the position
+// file types them.
 inline Zahl Plattendicke(const Wand& w, Seite n) {
     return n == Seite::eins ? Zahl(w.Plattendicke1) : Zahl(w.Plattendicke2);
 }

@@ -9,8 +9,8 @@ namespace {
 constexpr std::string_view paarung = "{VMArt} sind für {Material} nicht zulässig! Bitte ändern!";
 
 // clang-format off
-// The general check of one side. The last row allows the 8 mm screw that the check of the diameter
-// refuses: that is meant.
+// The general check of one side. Meant: the last row allows the 8 mm screw that the check of the diameter
+// refuses.
 constexpr std::array<Verstoss, 8> allgemein{{
     {[](const Angaben& a) { return hatGewinde(a.VMArt) && a.ln <= a.lg; },
      "Die Gewinde-/Rillenlänge lg muss kleiner sein als die Länge l! Bitte ändern!"},

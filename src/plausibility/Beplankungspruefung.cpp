@@ -54,8 +54,8 @@ constexpr std::string_view gipskartonGegenseite =
     "Das gewählte Plattenmaterial für Beplankung 2 ist bei der Art der Beplankung 1 unzulässig! Bitte "
     "ändern!";
 
-// Wherever the gypsum fibre board is, the texts name sheathing 2, and only a thin sheathing 1 is
-// refused here: that is meant.
+// Meant: wherever the gypsum fibre board is, the texts name sheathing 2, and only a thin sheathing 1 is
+// refused here.
 constexpr std::array<Ablehnung, 6> ablehnungen{{
     {[](const Wand& w) { return unzulaessigInNKL2(w, Seite::eins); },
      "Das gewählte Plattenmaterial für Beplankung 1 ist bei NKL 2 unzulässig! Bitte ändern!"},

@@ -31,9 +31,9 @@ enum class Bedingung {
 };
 
 // clang-format off
-// The texts in the order of `Bedingung`; those of one side without their prefix. The text on the rib
-// proportions says b/h and the test is h/b: that is meant. So are the closing blank of the text on
-// overlapping fasteners and the limits of 150 and 200 mm, which decide nothing.
+// The texts in the order of `Bedingung`; those of one side without their prefix. Meant: the text on the rib
+// proportions says b/h and the test is h/b; the text on overlapping fasteners ends in a blank; the limits of
+// 150 and 200 mm decide nothing.
 constexpr std::array<Meldung, static_cast<std::size_t>(Bedingung::anzahl)> meldungen{{
     {"Randbedingungen nach 8.7.5(8) nicht eingehalten! Nachweis der horizontalen Verformung und Berücksichtigung von Imperfektionen erforderlich!", Eingabeort::Wandlaenge},
     {"Randbedingungen zur vereinfachten Berechnung von Wandtafeln unter horizontaler Scheibenbeanspruchung nach 8.7.5(8) nicht eingehalten!",       Eingabeort::Wandlaenge},
@@ -78,8 +78,8 @@ void pruefeRippenverhaeltnisse(Wand& w) {
         melde(w, Bedingung::verhaeltnisInnenrippe);
 }
 
-// Rib spacing up to 50 t. Both thicknesses count on a one-sided wall too, and one of up to 2 mm on
-// either side switches the check off: both are meant.
+// Rib spacing up to 50 t. Meant: both thicknesses count on a one-sided wall too, and one of up to 2 mm on
+// either side switches the check off.
 void pruefeRippenabstand(Wand& w) {
     const Zahl t1 = w.t[Seite::eins];
     const Zahl t2 = w.t[Seite::zwei];
@@ -87,8 +87,8 @@ void pruefeRippenabstand(Wand& w) {
         melde(w, Bedingung::rippenabstand);
 }
 
-// Least depth of the ribs for nails that are not predrilled, 12.5.2 (13), mm. The density is that of
-// the last run, 0 before the first one, and every kind of fastener is tested: both are meant.
+// Least depth of the ribs for nails that are not predrilled, 12.5.2 (13), mm. Meant: the density is that of
+// the last run, 0 before the first one, and every kind of fastener is tested.
 void pruefeRippenhoehe(Wand& w, Seite n) {
     if (w.Vorgebohrt[n]) return;
     if (w.hRandrippe < Max(14 * w.d[n], (13 * w.d[n] - 30) * w.rhok / 200)) {
@@ -109,8 +109,8 @@ void pruefeUebergreifen(Wand& w) {
     melde(w, Bedingung::uebergreifen);
 }
 
-// Spacing of the fasteners along the panel edge: 20 d to 80 d. The limits of 150 and 200 mm, which the
-// texts name, change no outcome: 180 mm with a 3 mm nail passes, and that is meant.
+// Spacing of the fasteners along the panel edge: 20 d to 80 d. Meant: the limits of 150 and 200 mm, which the
+// texts name, change no outcome; 180 mm with a 3 mm nail passes.
 void pruefeVerbindungsmittelabstand(Wand& w, Seite n) {
     if (w.av[n] < 20 * w.d[n]) {
         melde(w, Bedingung::abstandZuKlein, n);

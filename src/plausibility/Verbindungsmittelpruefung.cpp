@@ -6,8 +6,8 @@ namespace rippenscheibe {
 namespace {
 
 // clang-format off
-// Diameter of the fastener, mm. A nail of exactly 8 mm passes though its text says smaller, a screw of
-// exactly 8 mm fails, a staple of 1.6 mm to DIN 18182-2 passes: all three are meant.
+// Diameter of the fastener, mm. Meant: a nail of exactly 8 mm passes though its text says smaller, a screw of
+// exactly 8 mm fails, a staple of 1.6 mm to DIN 18182-2 passes.
 constexpr std::array<Grenze, 6> durchmesser{{
     {istGipsfaser,      istHolznagel,           alle, vonBis(2.0, 3.0),      "Nageldurchmesser zu klein! Laut bauaufsichtlicher Zulassung Z-9.1-434 Nageldurchmesser zwischen 2,0 und 3,0mm!",
                                                                     "Nageldurchmesser zu groß! Laut bauaufsichtlicher Zulassung Z-9.1-434 Nageldurchmesser zwischen 2,0 und 3,0mm!"},
@@ -30,8 +30,7 @@ constexpr std::array<Einschlagtiefe, 3> einschlagtiefen{{
     {istSchraube, 4.0, "Laut DIN 1052(2008) 12.6 (9) dürfen Schrauben mit einer Einschlagtiefe kleiner als 4*d nicht in Rechnung gestellt werden!"},
 }};
 
-// Tensile strength fu,k, N/mm². The texts say Fließmoment and end in three different ways: both are
-// meant.
+// Tensile strength fu,k, N/mm². Meant: the texts say Fließmoment and end in three different ways.
 constexpr std::array<Grenze, 7> zugfestigkeit{{
     {keineGipsfaser, nur<Art::naegelDin18182>,      alle,              ab(600.0), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 600 N/mm²!", ""},
     {keineGipsfaser, nur<Art::schnellbauschrauben>, alle,              ab(400.0), "Fließmoment zu klein! Laut DIN 18182-4 mindestens 400 N/mm² ", ""},
@@ -70,8 +69,8 @@ constexpr std::array<Verstoss, 1> fehlenderKopf{{
      "Kein Kopfdurchmesser eingegeben! Es kann keine erhöhte Tragfähigkeit aufgrund des Einhängeeffektes berücksichtigt werden!"},
 }};
 
-// Length of the fastener, mm. Only the listed diameters have limits. The nail of 2.5 mm may be 30 mm
-// long though its text says 40: that is meant.
+// Length of the fastener, mm. Only the listed diameters have limits. Meant: the nail of 2.5 mm may be 30 mm
+// long though its text says 40.
 constexpr std::array<Grenze, 11> laenge{{
     {keineGipsfaser, nur<Art::klammernDin18182>,    vonBis(1.0, 1.3),   vonBis(29.0, 40.0),  "Keine Klammer nach DIN 18182-3! Länge der Klammer zu klein!",
                                                                                    "Keine Klammer nach DIN 18182-3! Länge der Klammer zu groß!"},

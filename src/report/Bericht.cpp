@@ -9,7 +9,7 @@ namespace rippenscheibe {
 namespace {
 
 // The first lines of the printed report: as many preliminary remarks from the first on as are filled,
-// whichever these are. With 1 and 3 filled, 1 and the empty 2 print; that is meant.
+// whichever these are. Meant: with 1 and 3 filled, 1 and the empty 2 print.
 void gedruckteVorbemerkungen(Berichtsbau& b, const Wand& w) {
     b.neu(Seitenpruefung{225});
     const auto gefuellt = std::count_if(w.Vorbemerkungen.begin(), w.Vorbemerkungen.end(),

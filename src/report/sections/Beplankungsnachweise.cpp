@@ -38,7 +38,7 @@ void biegung(Berichtsbau& b, const Wand& w) {
         return;
     }
     const bool erfuellt = w.etaBiegung <= 1.0;
-    // The bracket stays open in the failing line; that is meant.
+    // Meant: the bracket stays open in the failing line.
     b.urteil(6, "5.5 Beplankung 1 auf Biegung", w.etaBiegung, erfuellt,
              {"max. Ausnutzung = ",
               {w.etaBiegung, "0.000"},

@@ -7,7 +7,7 @@ namespace rippenscheibe {
 namespace {
 
 void klammerwinkel(Berichtsbau& b, const Wand& w) {
-    // Both sides are asked, on a wall sheathed on one side too; that is meant.
+    // Meant: both sides are asked, on a wall sheathed on one side too.
     if (!istKlammer(w, Seite::eins) && !istKlammer(w, Seite::zwei)) return;
     if (w.KlammerWinkelOption.value() == 1) {
         b.zeile(
@@ -57,7 +57,7 @@ void festigkeitenRippen(Berichtsbau& b, const Wand& w) {
 }
 
 void festigkeitenBeplankung(Berichtsbau& b, const Wand& w, Seite n) {
-    // Side 2 has a heading of the second rank, a page-break test and wider gaps; that is meant.
+    // Meant: side 2 has a heading of the second rank, a page-break test and wider gaps.
     if (n == Seite::eins) {
         b.h3("Beplankung 1:", 5);
     } else {

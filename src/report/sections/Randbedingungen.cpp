@@ -15,7 +15,7 @@ struct Randbedingungszeile {
 };
 
 // clang-format off
-// The missing blank in the first line is meant.
+// Meant: the first line lacks a blank.
 constexpr std::array<Randbedingungszeile, 18> randbedingungszeilen{{
     {0, "Um die vereinfachten Nachweisverfahrenfür Wandtafeln nach DIN 1052(2008), welche die Grundlage dieses Programms "},
     {4, "darstellen, anwenden zu können, müssen folgende konstruktive Randbedingungen eingehalten werden:"},

@@ -64,7 +64,7 @@ std::optional<std::string_view> plattenname(const Wand& w, Seite n) {
 
 void beplankung(Berichtsbau& b, const Wand& w, Seite n) {
     const std::string seite = std::to_string(nummer(n));
-    const double ersterAbstand = n == Seite::eins ? 5 : 4;  // the sides differ here, and that is meant
+    const double ersterAbstand = n == Seite::eins ? 5 : 4;  // Meant: the sides differ here
     b.h3("1.3."s + seite + " Beplankung " + seite, 6, 245);
     b.zeile(ersterAbstand, {"Material = ", plattenname(w, n)});
     b.zeile(4, {"Nutzungsklasse für Beplankung ", seite, ": NKL ", {w.NKLBeplankung[n], "0"}});

@@ -11,7 +11,7 @@ void vmMasse(Berichtsbau& b, const Wand& w, Seite n) {
     const Art art = vmArt(w, n);
     b.zeile(4, {"Abstand av = ", {w.av[n], "0"}, " mm"});
     if (art != Art::naegel) {
-        // The mask of the length differs between the sides, and that is meant.
+        // Meant: the mask of the length differs between the sides.
         const std::string_view maskeLaenge = n == Seite::eins ? b.worte.maskeNennlaenge1 : "0.0";
         b.zeile(4, {"Nenndurchmesser d = ", {w.d[n], "0.00"}, " mm"});
         b.zeile(4, {"Nennlänge ln = ", {w.ln[n], maskeLaenge}, " mm"});
@@ -44,7 +44,7 @@ std::optional<std::string_view> nagelzusatz(const Wand& w, Seite n) {
 }
 
 void verbindungsmittel(Berichtsbau& b, const Wand& w, Seite n) {
-    const double ersterAbstand = n == Seite::eins ? 5 : 4;  // the sides differ here, and that is meant
+    const double ersterAbstand = n == Seite::eins ? 5 : 4;  // Meant: the sides differ here
     b.zeile(ersterAbstand,
             {"VM = ", katalogname(VMArten(), zeilenVMArten, w.VMArt[n].value()), nagelzusatz(w, n)});
     vmMasse(b, w, n);

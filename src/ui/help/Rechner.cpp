@@ -95,7 +95,7 @@ Rechner::Meldung Rechner::operation(Taste taste) {
     Meldung meldung = Meldung::keine;
     if (letzteEingabe_ == Eingabe::ziffern) zaehleOperanden();
 
-    // More than two operands (percent pressed once too often) are left alone until "C": that is meant.
+    // Meant: more than two operands (percent pressed once too often) are left alone until "C".
     if (anzahlOperanden_ == 0) {
         if (taste == Taste::minus && letzteEingabe_ != Eingabe::vorzeichen) {
             anzeige_.insert(0, 1, '-');

@@ -18,7 +18,7 @@ class Form4 : public Eingabedialog {
 
   protected:
     void lade(const Wand& w) override;
-    // Looks at side 2 of a one-sided wall too; that is meant.
+    // Meant: looks at side 2 of a one-sided wall too.
     std::optional<Ablehnung> ablehnung(const Wand& w) const override;
 
   private:

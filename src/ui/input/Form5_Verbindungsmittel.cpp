@@ -173,8 +173,8 @@ void Form5::folge(const Seitenfelder& s, Seite n) {
             [this, n] { Form16(programm_, meldungen_, this, n).exec(); });
 }
 
-// One routine serves both sides, so a change on one side also sets the strength and the nail's sizes of the
-// other; that is meant.
+// Meant: one routine serves both sides, so a change on one side also sets the strength and the nail's sizes
+// of the other.
 void Form5::richteNachArt(Anlass anlass) {
     if (laedt() && anlass == Anlass::wechsel) return;
     for (const Seite n : beideSeiten) richteSeite(n, anlass);
@@ -228,8 +228,8 @@ void Form5::uebernimmNagel(Seite n) {
 void Form5::lade(const Wand& w) {
     Eingabedialog::lade(w);
     richteNachArt(Anlass::laden);
-    // Gypsum and gypsum-fibre boards are not predrilled. A later change of the kind frees the box again;
-    // that is meant.
+    // Gypsum and gypsum-fibre boards are not predrilled. Meant: a later change of the kind frees the box
+    // again.
     for (const Seite n : beideSeiten) {
         if (!gipsplatte(w, n)) continue;
         seiten_[n].vorgebohrt->setChecked(false);

@@ -23,7 +23,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int knopfFreierAnker = 8;  // stands among the indices of the catalogue anchors; that is meant
+constexpr int knopfFreierAnker = 8;  // Meant: among the indices of the catalogue anchors
 
 // Option buttons 0 to 7 are the anchors 1 to 8, 9 to 12 the anchors 9 to 12.
 int typZuKnopf(int knopf) {

@@ -34,7 +34,7 @@ Dateiablauf::Dateiablauf(Programm& programm, Meldungen& meldungen, QWidget* fens
     : programm_(programm), meldungen_(meldungen), fenster_(fenster) {}
 
 void Dateiablauf::neu() {
-    // Any answer resets the position, a cancel too; that is meant. Only a save that failed keeps it.
+    // Meant: any answer resets the position, a cancel too. Only a save that failed keeps it.
     if (frage(Dateiaktion::neu) != Ausgang::fehlgeschlagen) setzeNeu();
     programm_.Aktion = Dateiaktion::keine;
 }
@@ -209,7 +209,7 @@ bool Dateiablauf::lade(const QString& datei) {
         return false;
     }
     programm_.felder = oeffnung.felder;
-    programm_.setzeGesichert(false);  // a file just opened counts as changed; that is meant
+    programm_.setzeGesichert(false);  // Meant: a file just opened counts as changed
     programm_.setzeTitel(datei);
     programm_.Sperre = false;
     Q_EMIT programm_.ersetzt();

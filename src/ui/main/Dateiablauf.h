@@ -23,8 +23,8 @@ class Dateiablauf {
     std::function<void()> listeGeleert;                 // the findings are gone
     std::function<void(const QString& datei)> benutzt;  // a position file was opened or saved
 
-    // Asks when there are unsaved changes, then sets the defaults whatever the answer, a cancel too; that
-    // is meant. The project keeps its name.
+    // Asks when there are unsaved changes, then sets the defaults. Meant: whatever the answer, a cancel too.
+    // The project keeps its name.
     void neu();
     // Asks, then opens `datei`, or lets the user choose one.
     void oeffnen(const std::optional<QString>& datei = std::nullopt);

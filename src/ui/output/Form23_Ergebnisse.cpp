@@ -201,7 +201,7 @@ void Form23::speichere() {
     text_->document()->setModified(false);
 }
 
-// The text stays unlocked afterwards, and that is meant.
+// Meant: the text stays unlocked afterwards.
 void Form23::kopiere() {
     text_->setReadOnly(false);
     text_->selectAll();
@@ -235,7 +235,7 @@ void Form23::speichereAlsPdf() {
                  standardausdruck(programm_.w, programm_.einstellungen, liesLogo(programm_.ordner)));
 }
 
-// Esc and the cross of the window ask before an edited text is lost; "Zurück" does not, and that is meant.
+// Meant: Esc and the cross of the window ask before an edited text is lost, "Zurück" does not.
 void Form23::reject() {
     const bool geaendert = text_->document()->isModified();
     if (geaendert &&

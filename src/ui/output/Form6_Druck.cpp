@@ -128,7 +128,7 @@ QGroupBox* Form6::baueUmfang() {
     systemgrafik_ = ankreuzfeld(QStringLiteral("Check2"), QStringLiteral("Systemgrafik drucken"));
     randbedingungen_ = ankreuzfeld(QStringLiteral("Check4"), QStringLiteral("Randbedingungen drucken"));
     randbedingungen_->setChecked(true);
-    // No line of the report depends on this box, and that is meant: the proof is printed when it was made.
+    // Meant: no line of the report depends on this box; the proof is printed when it was made.
     QCheckBox* lagesicherheit =
         ankreuzfeld(QStringLiteral("Check3"), QStringLiteral("Nachweis der Lagesicherheit drucken"));
     lagesicherheit->setChecked(true);
@@ -246,7 +246,7 @@ void Form6::lade() {
     seitenzahl_->setChecked(programm_.SeitenzahlDrucken);
     setzeZaehlung(programm_.SeitenzahlDrucken);
     if (!programm_.einstellungen.SeitenzahlStandard) {
-        // Suffix and index keep their state here, and that is meant.
+        // Meant: suffix and index keep their state here.
         seitenzahl_->setChecked(false);
         startseite_->setzeAktiv(false);
     }

@@ -393,8 +393,8 @@ void Form8::uebernehmen() {
     accept();
 }
 
-// Check boxes are stored on accept only, so there is nothing to bring back; fonts stay as they were chosen,
-// and that is meant.
+// Check boxes are stored on accept only, so there is nothing to bring back. Meant: fonts stay as they were
+// chosen.
 void Form8::reject() {
     Einstellungen& e = programm_.einstellungen;
     e.Kopfvorlage = beimOeffnen_.Kopfvorlage;

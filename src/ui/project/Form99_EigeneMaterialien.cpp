@@ -37,7 +37,7 @@ struct Wertzeile {
 };
 
 // The boxes in the order of the eye: characteristic values, kmod of service class 1, of class 2, fh,1,k.
-// The unit text of fh,1,k speaks of bending: that is meant.
+// Meant: the unit text of fh,1,k speaks of bending.
 // clang-format off
 constexpr std::array<Wertzeile, 20> wertzeilen{{
     { 2,  1, "fv,k =",    "N/mm² (Schub als Scheibe)",                                 0.1, 1000},
