@@ -1,5 +1,6 @@
 #include "basis/Utf8.h"
 
+#include <algorithm>
 #include <array>
 
 namespace rippenscheibe {
@@ -32,6 +33,11 @@ std::optional<Zeichen> erstesZeichen(std::string_view text) {
     const bool surrogat = z >= 0xD800 && z < 0xE000;
     if (surrogat || z < kleinste[laenge] || z > 0x10FFFF) return std::nullopt;
     return Zeichen{z, laenge};
+}
+
+std::size_t zeichenzahl(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
 void anfuegenUtf8(std::string& text, char32_t z) {

@@ -18,6 +18,9 @@ struct Zeichen {
 // sequence; overlong forms, surrogates and cut-off sequences are none.
 std::optional<Zeichen> erstesZeichen(std::string_view text);
 
+// How many characters a text has; of malformed bytes those that can begin one count.
+std::size_t zeichenzahl(std::string_view text);
+
 void anfuegenUtf8(std::string& text, char32_t zeichen);
 
 // The text as a terminal may get it: line ends and tabs stay, any other control character, which could

@@ -1,10 +1,12 @@
 #include "cli/Befehle.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "cli/Feldwerte.h"

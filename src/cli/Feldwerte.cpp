@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "basis/Utf8.h"
 #include "files/Anweisungen.h"
 #include "model/Feldangaben.h"
 
@@ -104,12 +105,6 @@ std::string bereichJson(const Wertebereich& bereich) {
     return json + "]";
 }
 
-// Characters, not bytes: umlauts and ² take one column.
-std::size_t breite(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 }  // namespace
 
 Umfang umfang(const Wand& w) {
@@ -190,7 +185,7 @@ std::string feldverzeichnisText() {
     std::array<std::size_t, 10> breiten{};
     const auto miss = [&](const Verzeichniszeile& z) {
         for (std::size_t k = 0; k < breiten.size(); ++k)
-            breiten[k] = std::max(breiten[k], breite(spalten(z)[k]));
+            breiten[k] = std::max(breiten[k], zeichenzahl(spalten(z)[k]));
     };
     miss(kopf);
     for (const Verzeichniszeile& z : zeilen) miss(z);
@@ -199,7 +194,7 @@ std::string feldverzeichnisText() {
     const auto schreibe = [&](const Verzeichniszeile& z) {
         const auto werte = spalten(z);
         for (std::size_t k = 0; k + 1 < werte.size(); ++k) {
-            text.append(werte[k]).append(breiten[k] - breite(werte[k]) + 2, ' ');
+            text.append(werte[k]).append(breiten[k] - zeichenzahl(werte[k]) + 2, ' ');
         }
         text.append(werte.back());
         text.erase(text.find_last_not_of(' ') + 1) += '\n';

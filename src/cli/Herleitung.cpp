@@ -4,6 +4,7 @@
 #include <cmath>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "cli/Feldwerte.h"
 #include "trace/Darstellung.h"

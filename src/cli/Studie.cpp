@@ -6,6 +6,7 @@
 #include <cmath>
 #include <thread>
 #include <utility>
+#include <variant>
 
 #include "cli/Befehle.h"
 #include "cli/Projektausgabe.h"

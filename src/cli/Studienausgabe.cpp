@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <utility>
+#include <variant>
 
 #include "basis/Zahlenformat.h"
 

@@ -7,6 +7,7 @@
 #include <limits>
 #include <optional>
 #include <utility>
+#include <variant>
 
 namespace rippenscheibe {
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <variant>
 
 #include "files/Anweisungen.h"
 

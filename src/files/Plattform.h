@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // What the program asks of the operating system beyond the standard library. Each platform fulfils it in one

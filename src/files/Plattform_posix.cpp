@@ -253,19 +253,6 @@ int schreibeDirekt(const Ziel& ziel, std::string_view bytes) {
     return griff.schliesse();
 }
 
-Sperre::Sperre(Sperre&& andere) noexcept
-    : griff_(std::exchange(andere.griff_, -1)), datei_(std::move(andere.datei_)) {}
-
-Sperre& Sperre::operator=(Sperre&& andere) noexcept {
-    if (this == &andere) return *this;
-    gibFrei();
-    griff_ = std::exchange(andere.griff_, -1);
-    datei_ = std::move(andere.datei_);
-    return *this;
-}
-
-Sperre::~Sperre() { gibFrei(); }
-
 void Sperre::gibFrei() noexcept {
     if (griff_ < 0) return;
     if (!datei_.empty()) ::unlink(datei_.c_str());  // while it is still held

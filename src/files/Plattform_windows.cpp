@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <system_error>
 #include <utility>
@@ -165,19 +166,6 @@ int schreibeDirekt(const Ziel& ziel, std::string_view bytes) {
     if (const int fehler = schreibeAlles(*griff, bytes)) return fehler;
     return griff.schliesse();
 }
-
-Sperre::Sperre(Sperre&& andere) noexcept
-    : griff_(std::exchange(andere.griff_, -1)), datei_(std::move(andere.datei_)) {}
-
-Sperre& Sperre::operator=(Sperre&& andere) noexcept {
-    if (this == &andere) return *this;
-    gibFrei();
-    griff_ = std::exchange(andere.griff_, -1);
-    datei_ = std::move(andere.datei_);
-    return *this;
-}
-
-Sperre::~Sperre() { gibFrei(); }
 
 void Sperre::gibFrei() noexcept {
     if (griff_ != -1) ::CloseHandle(reinterpret_cast<HANDLE>(std::exchange(griff_, -1)));

@@ -20,6 +20,9 @@ void beplankungsmodul(Wand& w);
 // The five routines above in their order.
 void querschnittswerte(Wand& w);
 
+// What may be entered for DickeDaemmung, cm.
+inline constexpr Wertebereich bereichDickeDaemmung{0, 1000};
+
 enum class Daemmung { keine, vorhanden };
 // Self-weight of the wall in kN, from the unit weights of the last run and DickeDaemmung (cm).
 void eigengewicht(Wand& w, Daemmung daemmung);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "basis/Zahl.h"
+#include "model/Feldgruppe.h"
 
 namespace rippenscheibe {
 
@@ -46,6 +47,9 @@ class EigeneMaterialien {
         return &zeilen[static_cast<std::size_t>(z) - 1].name;
     }
 };
+
+// What may be entered in a column of numbers, in its unit.
+Wertebereich materialbereich(int spalte);
 
 // Whether another material fits into the table.
 bool nimmtWeitereAuf(const EigeneMaterialien& tabelle);

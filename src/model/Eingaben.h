@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <string>
+
 #include "model/Feldgruppe.h"
 
 // The inputs of a position: what the position file holds. Each field once, with type, default, unit,

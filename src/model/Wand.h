@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "model/EigeneMaterialien.h"
 #include "model/Eingaben.h"

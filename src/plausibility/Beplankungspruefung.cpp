@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "plausibility/MessageBoxen.h"
 #include "plausibility/Pruefzeilen.h"
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 #include <string_view>
+#include <vector>
 
 #include "model/Wand.h"
 #include "plausibility/Hinweistexte.h"

@@ -1,6 +1,7 @@
 #include "report/Bericht.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "report/Berichtsbau.h"
 

@@ -1,7 +1,9 @@
 #include "report/Berichtsbau.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
+#include <utility>
 
 #include "basis/Zahlenformat.h"
 

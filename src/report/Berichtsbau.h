@@ -1,8 +1,10 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "report/Bericht.h"
 #include "report/Fassung.h"

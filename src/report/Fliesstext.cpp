@@ -1,6 +1,7 @@
 #include "report/Fliesstext.h"
 
 #include <utility>
+#include <variant>
 
 namespace rippenscheibe {
 

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "basis/Laengenmass.h"
 #include "basis/Utf8.h"
 
 namespace rippenscheibe {
@@ -121,7 +122,7 @@ class Schreiber {
     }
 
     void schreibeBild(const Textbild& bild) {
-        constexpr double twipsJeMm = 1440 / 25.4;
+        constexpr double twipsJeMm = 1440 / mmJeZoll;
         constexpr std::string_view ziffern = "0123456789abcdef";
         rumpf_ += "{\\pict\\pngblip\\picwgoal" + std::to_string(std::lround(bild.breite * twipsJeMm));
         rumpf_ += "\\pichgoal" + std::to_string(std::lround(bild.hoehe * twipsJeMm)) + "\n";

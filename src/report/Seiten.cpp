@@ -1,6 +1,7 @@
 #include "report/Seiten.h"
 
 #include <cctype>
+#include <variant>
 
 namespace rippenscheibe {
 

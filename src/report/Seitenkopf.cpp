@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "basis/Laengenmass.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -13,7 +15,7 @@ constexpr bool hatSchatten(int vorlage) { return vorlage == 0 || vorlage == 1 ||
 constexpr bool hatDoppelrahmen(int vorlage) { return vorlage == 3 || vorlage == 4; }
 
 // Line widths are counted in dots of a printer of 300 dots an inch.
-constexpr double punkte(int anzahl) { return anzahl * 25.4 / 300; }
+constexpr double punkte(int anzahl) { return anzahl * mmJeZoll / 300; }
 
 // A box given by two corners.
 constexpr Rechteck zwischen(double x1, double y1, double x2, double y2) { return {x1, y1, x2 - x1, y2 - y1}; }

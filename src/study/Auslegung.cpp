@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <numeric>
+#include <tuple>
 #include <utility>
 
 #include "model/Kataloge.h"

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "basis/Utf8.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -11,12 +13,6 @@ bool istZahl(std::string_view text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
         return (c >= '0' && c <= '9') || c == '.' || c == ',' || c == '-' || c == '+' || c == 'e';
     });
-}
-
-// Characters, not bytes.
-std::size_t breite(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 }  // namespace
@@ -105,13 +101,14 @@ std::string alsTabelle(std::span<const std::vector<std::string>> zeilen) {
     std::vector<std::size_t> breiten;
     for (const auto& zeile : zeilen) {
         breiten.resize(std::max(breiten.size(), zeile.size()));
-        for (std::size_t i = 0; i < zeile.size(); ++i) breiten[i] = std::max(breiten[i], breite(zeile[i]));
+        for (std::size_t i = 0; i < zeile.size(); ++i)
+            breiten[i] = std::max(breiten[i], zeichenzahl(zeile[i]));
     }
     std::string text;
     for (const auto& zeile : zeilen) {
         std::string ausgabe;
         for (std::size_t i = 0; i < zeile.size(); ++i) {
-            const std::string luft(breiten[i] - breite(zeile[i]), ' ');
+            const std::string luft(breiten[i] - zeichenzahl(zeile[i]), ' ');
             ausgabe += istZahl(zeile[i]) ? luft + zeile[i] : zeile[i] + luft;
             ausgabe += "  ";
         }

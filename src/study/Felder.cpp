@@ -4,11 +4,13 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <system_error>
 #include <type_traits>
 #include <unordered_map>
+#include <utility>
 
 namespace rippenscheibe {
 

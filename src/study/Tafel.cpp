@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <sstream>
 
+#include "basis/Utf8.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -41,21 +43,18 @@ class Rtfseite {
     std::string fertig() && { return rtf_ + "}\n"; }
 
   private:
-    static std::string escaped(const std::string& text) {
+    static std::string escaped(std::string_view text) {
         std::string aus;
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            const auto c = static_cast<unsigned char>(text[i]);
-            if (c == '{' || c == '}' || c == '\\') {
-                aus.append({'\\', text[i]});
-            } else if (c < 0x80) {
-                if (c >= 0x20) aus += text[i];
+        while (!text.empty()) {
+            const Zeichen c = erstesZeichen(text).value_or(Zeichen{U'?', 1});
+            text.remove_prefix(c.laenge);
+            if (c.zeichen == '{' || c.zeichen == '}' || c.zeichen == '\\') {
+                aus.append({'\\', static_cast<char>(c.zeichen)});
+            } else if (c.zeichen < 0x80) {
+                if (c.zeichen >= 0x20) aus += static_cast<char>(c.zeichen);
             } else {
-                // Up to three bytes: what German texts hold.
-                const int folge = c >= 0xE0 ? 2 : 1;
-                unsigned zeichen = c & (folge == 2 ? 0x0FU : 0x1FU);
-                for (int k = 0; k < folge && i + 1 < text.size(); ++k)
-                    zeichen = (zeichen << 6U) | (static_cast<unsigned char>(text[++i]) & 0x3FU);
-                aus += "\\u" + std::to_string(static_cast<std::int16_t>(zeichen & 0xFFFFU)) + "?";
+                // German texts hold nothing beyond 16 bits.
+                aus += "\\u" + std::to_string(static_cast<std::int16_t>(c.zeichen & 0xFFFFU)) + "?";
             }
         }
         return aus;

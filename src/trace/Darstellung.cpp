@@ -4,6 +4,8 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <functional>
+#include <utility>
 
 #include "basis/Zahlenformat.h"
 #include "trace/Formel.h"

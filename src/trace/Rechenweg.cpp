@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "basis/Utf8.h"
 #include "report/Berichtsbau.h"
 #include "run/FrischerLauf.h"
 #include "run/Luecken.h"
@@ -24,11 +25,6 @@ namespace {
 constexpr std::size_t breiteText = 88;    // characters of a line of 10 points
 constexpr std::size_t breiteKlein = 105;  // of 8 points
 constexpr double seitenende = 258;        // mm
-
-std::size_t zeichenzahl(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
 
 // Breaks at blanks; the first line begins with `anfang`, those behind it with `einzug`.
 std::vector<std::string> umbrochen(const std::string& text, std::size_t breite, const std::string& anfang,

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <memory>
 #include <span>
+#include <type_traits>
+#include <variant>
 
 #include "report/Bericht.h"
 #include "report/Fliesstext.h"

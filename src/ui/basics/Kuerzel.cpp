@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QToolBar>
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace rippenscheibe {

@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QPainter>
 #include <QRegularExpression>
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <string>

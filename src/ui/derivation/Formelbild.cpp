@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <utility>
 
 #include "trace/Formel.h"
 #include "ui/basics/Programm.h"

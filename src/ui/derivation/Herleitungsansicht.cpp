@@ -7,6 +7,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
+#include <variant>
 
 #include "report/Bericht.h"
 #include "report/Fliesstext.h"

@@ -5,11 +5,12 @@
 #include <QSvgGenerator>
 #include <cmath>
 
+#include "basis/Laengenmass.h"
+
 namespace rippenscheibe {
 
 namespace {
 
-constexpr double mmJeZoll = 25.4;
 constexpr double groessteKante = 20000.0;  // pixels
 
 }  // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "ui/drawings/Tafelbild.h"
 
 // The loads around the elevation: rows of arrows above the wall, and the horizontal load at its head.

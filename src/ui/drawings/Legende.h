@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "ui/drawings/Wandgeometrie.h"
 #include "ui/drawings/Zeichner.h"
 

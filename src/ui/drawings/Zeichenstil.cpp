@@ -1,5 +1,7 @@
 #include "ui/drawings/Zeichenstil.h"
 
+#include "basis/Laengenmass.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -20,7 +22,7 @@ QColor Zeichenstil::durchscheinend(Seite n) const {
 
 Zeichenstil Zeichenstil::hell() {
     Zeichenstil s;
-    s.mm = 96.0 / 25.4;
+    s.mm = 96.0 / mmJeZoll;
     s.schrifthoehe = 3.2;
     s.mindestbreite = 0.8;
     s.raster = true;
@@ -58,7 +60,7 @@ Zeichenstil Zeichenstil::papier(double mm) {
     Zeichenstil s = hell();
     s.mm = mm;
     s.schrifthoehe = 2.5;
-    s.kleinsteSchrift = 7.0 * 25.4 / 72.0;
+    s.kleinsteSchrift = 7.0 * mmJeZoll / punkteJeZoll;
     s.mindestbreite = 0.0;
     s.raster = false;
     s.familie = QStringLiteral("Arial");

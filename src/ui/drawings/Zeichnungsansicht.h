@@ -26,7 +26,6 @@ class Zeichnungsansicht : public Wandansicht {
 
     void setzeWand(const Wand& w) override;
     void setzeZeichnung(Zeichnung was);
-    Zeichnung zeichnung() const { return was_; }
     const Wand& wand() const { return wand_; }
     void setzeDezimalzeichen(char zeichen) override;
     // Offers a context menu that copies and saves the drawing.

@@ -20,6 +20,8 @@
 
 #ifdef __linux__
 #include <sys/sysinfo.h>
+
+#include <algorithm>
 #endif
 
 namespace rippenscheibe {

@@ -19,6 +19,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/basics/Wandansicht.h"
 #include "ui/controls/Werteingabe.h"
+#include "ui/verdict/Ausnutzungsbalken.h"
 #include "ui/verdict/Urteilsanzeige.h"
 
 namespace rippenscheibe {
@@ -190,8 +191,7 @@ QLabel* Eingabedialog::warnung(const QString& name) {
     schild->setObjectName(name);
     schild->setTextFormat(Qt::PlainText);
     QPalette farben = schild->palette();
-    const bool dunkel = farben.color(QPalette::Window).lightness() < 128;
-    farben.setColor(QPalette::WindowText, dunkel ? QColor(0xF2, 0xB8, 0x5C) : QColor(0x8A, 0x4B, 0x00));
+    farben.setColor(QPalette::WindowText, urteilsfarben(farben).warnung);
     schild->setPalette(farben);
     schild->hide();
     return schild;

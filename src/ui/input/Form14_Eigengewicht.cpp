@@ -52,8 +52,8 @@ void Form14::baueDaemmung() {
     dicke_ = new Werteingabe(QStringLiteral("Textbox1(0)"),
                              {.beschriftung = QStringLiteral("Dicke der Dämmung ="),
                               .einheit = QStringLiteral("cm"),
-                              .min = 0,
-                              .max = 1000,
+                              .min = bereichDickeDaemmung.min,
+                              .max = bereichDickeDaemmung.max,
                               .maske = QStringLiteral("0.0")},
                              this);
     ergebnis_ = new Werteingabe(

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "basis/Zahlenformat.h"
 #include "model/VMKatalog.h"

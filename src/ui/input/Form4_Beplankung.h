@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "basis/Seite.h"
 #include "ui/input/Eingabedialog.h"
 

@@ -12,6 +12,8 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
+#include <memory>
+#include <utility>
 
 #include "files/EigeneMaterialienDatei.h"
 #include "run/Positionslauf.h"

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "ui/basics/Fensteroeffner.h"

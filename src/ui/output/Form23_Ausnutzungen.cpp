@@ -70,12 +70,6 @@ class Balkenzeile : public QStyledItemDelegate {
     }
 };
 
-Balkenurteil balkenurteil(const Abschnittsurteil& abschnitt) {
-    if (abschnitt.groesster > 1) return Balkenurteil::ueberschritten;
-    if (abschnitt.stand == Nachweisstand::offen) return Balkenurteil::ohneNachweis;
-    return abschnitt.stand == Nachweisstand::gefuehrt ? Balkenurteil::erfuellt : Balkenurteil::ohneBedarf;
-}
-
 // Nothing was computed where nothing is asked for, nor where a proof is missing.
 QString abschnittswert(const Abschnittsurteil& abschnitt, Balkenurteil urteil, char dezimalzeichen) {
     if (urteil == Balkenurteil::ohneBedarf) return QStringLiteral("–");

@@ -8,6 +8,7 @@
 #include <QUrl>
 #include <cmath>
 
+#include "basis/Laengenmass.h"
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"
 #include "ui/basics/Programm.h"
@@ -17,7 +18,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double mmJePixel = 25.4 / 96;               // sizes inside a document count 96 to the inch
+constexpr double mmJePixel = mmJeZoll / 96;           // sizes inside a document count 96 to the inch
 constexpr int farbe = QTextFormat::UserProperty + 1;  // the colour of a run, whatever the screen shows
 
 const QString datenkopf = QStringLiteral("data:image/png;base64,");

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <vector>
 
 #include "report/Fliesstext.h"
 

@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 #include "ui/basics/Meldungen.h"

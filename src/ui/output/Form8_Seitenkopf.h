@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QWidget>
 #include <array>
+#include <string>
 
 #include "files/Einstellungsdatei.h"
 #include "model/Wand.h"

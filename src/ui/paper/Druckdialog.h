@@ -57,12 +57,14 @@ class clsPrintDialog {
     int PrintQuality() const { return drucker_.resolution(); }  // dots per inch
     QPageSize PaperSize() const { return drucker_.pageLayout().pageSize(); }
     QString FormName() const { return PaperSize().name(); }
-    // Width and length of the paper as it lies in the printer, mm.
-    double PaperWidth() const { return PaperSize().size(QPageSize::Millimeter).width(); }
-    double PaperLength() const { return PaperSize().size(QPageSize::Millimeter).height(); }
+    // Width and length of the page, mm: crosswise to the paper when the page lies on its side.
+    double PaperWidth() const { return seite().width(); }
+    double PaperLength() const { return seite().height(); }
     QPageLayout::Orientation Orientation() const { return drucker_.pageLayout().orientation(); }
 
   private:
+    QRectF seite() const { return drucker_.pageLayout().fullRect(QPageLayout::Millimeter); }
+
     QPrinter& drucker_;
     Meldungen& meldungen_;
     QWidget* fenster_;

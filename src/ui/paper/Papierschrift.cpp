@@ -3,14 +3,13 @@
 #include <QFontMetricsF>
 #include <QStringList>
 
+#include "basis/Laengenmass.h"
 #include "ui/basics/Programm.h"
 
 namespace rippenscheibe {
 
 namespace {
 
-constexpr double mmJeZoll = 25.4;
-constexpr double punkteJeZoll = 72;
 constexpr int probe = 1000;  // px, large enough to measure the outlines
 
 // Free families with the same character widths as the usual ones, so that lines keep their length.

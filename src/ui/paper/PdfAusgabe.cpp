@@ -7,6 +7,7 @@
 #include <QPdfWriter>
 #include <QUuid>
 
+#include "basis/Laengenmass.h"
 #include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
@@ -19,7 +20,6 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double mmJeZoll = 25.4;
 constexpr int aufloesung = 1200;  // dots per inch of the PDF's coordinates
 
 }  // namespace

@@ -6,13 +6,14 @@
 #include <map>
 #include <optional>
 
+#include "basis/Laengenmass.h"
 #include "ui/basics/Programm.h"
 
 namespace rippenscheibe {
 
 namespace {
 
-constexpr double punkteJeMm = 72.0 / 25.4;
+constexpr double punkteJeMm = punkteJeZoll / mmJeZoll;
 constexpr double seitenhoehe = 297;  // mm
 
 // What an update has to know of the file.

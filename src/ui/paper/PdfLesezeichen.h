@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "report/Zeichenflaeche.h"

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <utility>
 
+#include "basis/Laengenmass.h"
 #include "ui/basics/Programm.h"
 #include "ui/drawings/Zeichnungen.h"
 
@@ -10,8 +11,6 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double mmJeZoll = 25.4;
-constexpr double punkteJeZoll = 72.0;
 constexpr double rechterRand = 210.0;  // mm, of the A4 paper
 
 QColor qfarbe(Farbe farbe) { return QColor::fromRgb(static_cast<QRgb>(farbe)); }

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPainter>
 #include <functional>
+#include <string_view>
 
 #include "model/Wand.h"
 #include "report/Zeichenflaeche.h"

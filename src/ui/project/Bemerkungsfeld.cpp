@@ -7,6 +7,7 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "basis/Laengenmass.h"
 #include "model/Bemerkungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/paper/Papierschrift.h"
@@ -20,7 +21,7 @@ Bemerkungsfeld::Bemerkungsfeld(const Schrift& schrift, double breite, QWidget* p
     setLineWrapMode(QPlainTextEdit::NoWrap);
 }
 
-double Bemerkungsfeld::linie() const { return breite_ / 25.4 * logicalDpiX(); }
+double Bemerkungsfeld::linie() const { return breite_ / mmJeZoll * logicalDpiX(); }
 
 QSize Bemerkungsfeld::sizeHint() const {
     const int rand = 2 * frameWidth() + static_cast<int>(2 * document()->documentMargin()) +

@@ -26,40 +26,38 @@ namespace rippenscheibe {
 
 namespace {
 
-// One number of a material: its column, the index of its box TextBox2, its words and its range.
+// One number of a material: its column, the index of its box TextBox2 and its words.
 struct Wertzeile {
     int spalte;
     int index;
     const char* beschriftung;
     const char* einheit;
-    double min;
-    double max;
 };
 
 // The boxes in the order of the eye: characteristic values, kmod of service class 1, of class 2, fh,1,k.
 // Meant: the unit text of fh,1,k speaks of bending.
 // clang-format off
 constexpr std::array<Wertzeile, 20> wertzeilen{{
-    { 2,  1, "fv,k =",    "N/mm² (Schub als Scheibe)",                                 0.1, 1000},
-    { 3,  0, "fc,k =",    "N/mm² (Druck als Scheibe)",                                 0.1, 1000},
-    { 4,  2, "ft,k =",    "N/mm² (Zug als Scheibe)",                                   0.1, 1000},
-    { 5,  6, "fm,k =",    "N/mm² (Biegung als Platte, rechtwinklig zur Deckschicht)",  0.1, 1000},
-    { 6,  3, "t,req =",   " x d         (d = VM-Durchmesser)",                         0.5, 500},
-    { 8,  5, "E,mean =",  "N/mm² (E-Modul)",                                           0.1, 100000},
-    { 9,  7, "G,mean =",  "N/mm² (Schubmodul)",                                        0.1, 100000},
-    {10,  8, "rho,k =",   "kg/m³ (Rohdichte)",                                         0.1, 10000},
-    {11,  9, "Wichte =",  "kN/m³",                                                     0.0, 1000},
-    {12,  4, "KLED ständig: k,mod =",   "[-]", 0.1, 10},
-    {13, 10, "KLED lang: k,mod =",      "[-]", 0.1, 10},
-    {14, 11, "KLED mittel: k,mod =",    "[-]", 0.1, 10},
-    {15, 12, "KLED kurz: k,mod =",      "[-]", 0.1, 10},
-    {21, 18, "KLED sehr kurz: k,mod =", "[-]", 0.1, 10},
-    {16, 13, "KLED ständig: k,mod =",   "[-]", 0.1, 10},
-    {17, 14, "KLED lang: k,mod =",      "[-]", 0.1, 10},
-    {18, 15, "KLED mittel: k,mod =",    "[-]", 0.1, 10},
-    {19, 16, "KLED kurz: k,mod =",      "[-]", 0.1, 10},
-    {22, 19, "KLED sehr kurz: k,mod =", "[-]", 0.1, 10},
-    {20, 17, "fh,1,k =",  "N/mm² (Biegung als Platte)",                                0.1, 1000},
+    { 2,  1, "fv,k =",    "N/mm² (Schub als Scheibe)"},
+    { 3,  0, "fc,k =",    "N/mm² (Druck als Scheibe)"},
+    { 4,  2, "ft,k =",    "N/mm² (Zug als Scheibe)"},
+    { 5,  6, "fm,k =",    "N/mm² (Biegung als Platte, rechtwinklig zur Deckschicht)"},
+    { 6,  3, "t,req =",   " x d         (d = VM-Durchmesser)"},
+    { 8,  5, "E,mean =",  "N/mm² (E-Modul)"},
+    { 9,  7, "G,mean =",  "N/mm² (Schubmodul)"},
+    {10,  8, "rho,k =",   "kg/m³ (Rohdichte)"},
+    {11,  9, "Wichte =",  "kN/m³"},
+    {12,  4, "KLED ständig: k,mod =",   "[-]"},
+    {13, 10, "KLED lang: k,mod =",      "[-]"},
+    {14, 11, "KLED mittel: k,mod =",    "[-]"},
+    {15, 12, "KLED kurz: k,mod =",      "[-]"},
+    {21, 18, "KLED sehr kurz: k,mod =", "[-]"},
+    {16, 13, "KLED ständig: k,mod =",   "[-]"},
+    {17, 14, "KLED lang: k,mod =",      "[-]"},
+    {18, 15, "KLED mittel: k,mod =",    "[-]"},
+    {19, 16, "KLED kurz: k,mod =",      "[-]"},
+    {22, 19, "KLED sehr kurz: k,mod =", "[-]"},
+    {20, 17, "fh,1,k =",  "N/mm² (Biegung als Platte)"},
 }};
 // clang-format on
 constexpr std::size_t kennwerte = 9;
@@ -146,8 +144,9 @@ Werteingabe* Form99::werteingabe(std::size_t zeile) {
     Wertvorgabe vorgabe;
     vorgabe.beschriftung = QString::fromUtf8(z.beschriftung);
     vorgabe.einheit = QString::fromUtf8(z.einheit);
-    vorgabe.min = z.min;
-    vorgabe.max = z.max;
+    const Wertebereich bereich = materialbereich(z.spalte);
+    vorgabe.min = bereich.min;
+    vorgabe.max = bereich.max;
     vorgabe.maske = QStringLiteral("0.00");
     werte_.push_back(new Werteingabe(QStringLiteral("TextBox2(%1)").arg(z.index), vorgabe, this));
     return werte_.back();
@@ -268,7 +267,8 @@ EigeneMaterialien::Zeile Form99::eingabe() const {
     for (std::size_t i = 0; i < wertzeilen.size(); ++i) {
         const double wert = werte_[i]->wert();
         // A box never filled holds 0, which its range does not allow: the cell stays empty.
-        zeile.zellen[static_cast<std::size_t>(wertzeilen[i].spalte)] = {wert, wert < wertzeilen[i].min};
+        const int spalte = wertzeilen[i].spalte;
+        zeile.zellen[static_cast<std::size_t>(spalte)] = {wert, wert < materialbereich(spalte).min};
     }
     const int wahl = lochleibung_->checkedId();
     zeile.zellen[spalteLochleibung] = {static_cast<double>(wahl + 1), wahl < 0};

@@ -48,6 +48,12 @@ Urteilsfarben urteilsfarben(const QPalette& palette) {
     return {QColor(0x2E7D32), QColor(0xB3261E), QColor(0x8A5A00), palette.color(QPalette::PlaceholderText)};
 }
 
+Balkenurteil balkenurteil(const Abschnittsurteil& abschnitt) {
+    if (abschnitt.groesster > 1) return Balkenurteil::ueberschritten;
+    if (abschnitt.stand == Nachweisstand::offen) return Balkenurteil::ohneNachweis;
+    return abschnitt.stand == Nachweisstand::gefuehrt ? Balkenurteil::erfuellt : Balkenurteil::ohneBedarf;
+}
+
 QColor urteilsfarbe(const QPalette& palette, Balkenurteil urteil) {
     const Urteilsfarben farben = urteilsfarben(palette);
     switch (urteil) {

@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QString>
 
+#include "run/Urteil.h"
+
 class QPainter;
 
 namespace rippenscheibe {
@@ -11,6 +13,8 @@ namespace rippenscheibe {
 // What a utilisation says. A section without demand is no proof that holds, and a demand without a proof is
 // no failure: the four never look alike.
 enum class Balkenurteil { erfuellt, ueberschritten, ohneBedarf, ohneNachweis };
+
+Balkenurteil balkenurteil(const Abschnittsurteil& abschnitt);
 
 // Colours of the verdicts, lighter on a dark ground.
 struct Urteilsfarben {

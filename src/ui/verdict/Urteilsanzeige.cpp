@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStackedLayout>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/basics/Programm.h"
 #include "ui/controls/Kurzzeile.h"
@@ -30,19 +31,16 @@ Balkenwert balkenwert(const Abschnittsurteil& abschnitt) {
     Balkenwert wert{.name = name.section(QLatin1Char(' '), 0, 0),
                     .wert = {},
                     .eta = abschnitt.groesster,
-                    .urteil = Balkenurteil::ohneBedarf,
+                    .urteil = balkenurteil(abschnitt),
                     .beschreibung = name};
     if (abschnitt.stand == Nachweisstand::keineBeanspruchung) {
         wert.beschreibung += QStringLiteral(": keine Beanspruchung");
         return wert;
     }
     if (abschnitt.stand == Nachweisstand::offen) {
-        wert.urteil = Balkenurteil::ohneNachweis;
         wert.beschreibung += QStringLiteral(": ") + qtext(abschnitt.luecke);
         if (abschnitt.groesster <= 1) return wert;
     }
-    if (abschnitt.stand == Nachweisstand::gefuehrt) wert.urteil = Balkenurteil::erfuellt;
-    if (abschnitt.groesster > 1) wert.urteil = Balkenurteil::ueberschritten;
     wert.wert = etatext(abschnitt.groesster);
     wert.beschreibung += QStringLiteral(": %1, %2").arg(wert.wert, urteilswort(wert.urteil));
     if (abschnitt.entfaelltImBericht)

@@ -225,8 +225,8 @@ TEST_F(Druckfenster, TheDialogReportsWhatWasChosen) {
     };
     dialog.ShowPrinter();
     EXPECT_FALSE(dialog.Cancelled());
-    EXPECT_EQ(dialog.PaperWidth(), 297);
-    EXPECT_EQ(dialog.PaperLength(), 420);
+    EXPECT_EQ(dialog.PaperWidth(), 420);
+    EXPECT_EQ(dialog.PaperLength(), 297);
     EXPECT_EQ(dialog.Orientation(), QPageLayout::Landscape);
     EXPECT_EQ(dialog.Color(), QPrinter::GrayScale);
     meldungen.druckAbgebrochen = true;
