@@ -256,7 +256,8 @@ class Studie {
             u_.gibAus(ausgabe.zeile(zeile));
         };
         gib("heute", hilfe.heute, {});
-        for (const Schritt& schritt : hilfe.schritte) gib(schritt.text, schritt.bewertung, schritt.setzt);
+        for (const Hilfeschritt& schritt : hilfe.schritte)
+            gib(schritt.text, schritt.bewertung, schritt.setzt);
         u_.gibAus(ausgabe.schluss());
         return Rueckgabe::erfuellt;
     }

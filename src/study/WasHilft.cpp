@@ -25,14 +25,14 @@ class Schrittliste {
     }
 
     const Wand& wand() const { return wand_; }
-    std::vector<Schritt> schritte() && { return std::move(schritte_); }
+    std::vector<Hilfeschritt> schritte() && { return std::move(schritte_); }
 
     void nimmAuf(Zuweisungen setzt) {
         std::erase_if(setzt, [&](const auto& z) { return text(z.first, z.second) == heute(z.first); });
         if (setzt.empty()) return;
-        Schritt schritt{beschreibung(setzt), std::move(setzt), {}};
+        Hilfeschritt schritt{beschreibung(setzt), std::move(setzt), {}};
         const bool bekannt = std::any_of(schritte_.begin(), schritte_.end(),
-                                         [&](const Schritt& s) { return s.text == schritt.text; });
+                                         [&](const Hilfeschritt& s) { return s.text == schritt.text; });
         if (!bekannt) schritte_.push_back(std::move(schritt));
     }
 
@@ -98,7 +98,7 @@ class Schrittliste {
 
     Wand wand_;
     Feldzugriff felder_;
-    std::vector<Schritt> schritte_;
+    std::vector<Hilfeschritt> schritte_;
 };
 
 // The next larger value of a list, if there is one.
@@ -131,7 +131,7 @@ Zuweisungen naechsteKatalogzeile(const Eingaben& e, Seite n) {
     return {};
 }
 
-std::vector<Schritt> naechsteSchritte(const Eingaben& e) {
+std::vector<Hilfeschritt> naechsteSchritte(const Eingaben& e) {
     constexpr std::array breiten{60.0, 80.0, 100.0, 120.0, 140.0, 160.0};
     constexpr std::array hoehen{100.0, 120.0, 140.0, 160.0, 180.0, 200.0, 220.0, 240.0};
     Schrittliste liste(e);
@@ -170,22 +170,22 @@ std::vector<Schritt> naechsteSchritte(const Eingaben& e) {
 Hilfe wasHilft(const Eingaben& vorlage, const EigeneMaterialien& materialien, const Bewertungsregel& regel,
                const Ausfuehrung& ausfuehrung) {
     Hilfe hilfe;
-    std::vector<Schritt> alle = naechsteSchritte(vorlage);
-    alle.insert(alle.begin(), Schritt{});  // the wall as it is
+    std::vector<Hilfeschritt> alle = naechsteSchritte(vorlage);
+    alle.insert(alle.begin(), Hilfeschritt{});  // the wall as it is
     const auto werkstatt = [&] { return Pruefstand(vorlage, materialien, regel); };
     fliessband(
         ausfuehrung,
-        [&, i = std::size_t{0}]() mutable -> std::optional<Schritt> {
+        [&, i = std::size_t{0}]() mutable -> std::optional<Hilfeschritt> {
             return i < alle.size() ? std::optional(alle[i++]) : std::nullopt;
         },
         werkstatt,
-        [](Pruefstand& stand, Schritt schritt) {
+        [](Pruefstand& stand, Hilfeschritt schritt) {
             stand.beginne();
             for (const auto& [feld, wert] : schritt.setzt) stand.felder().setze(feld, wert);
             schritt.bewertung = stand.bewerte();
             return schritt;
         },
-        [&](Schritt schritt) {
+        [&](Hilfeschritt schritt) {
             if (schritt.setzt.empty()) {
                 hilfe.heute = schritt.bewertung;
             } else {
@@ -193,12 +193,12 @@ Hilfe wasHilft(const Eingaben& vorlage, const EigeneMaterialien& materialien, co
             }
             return true;
         });
-    const auto rang = [](const Schritt& s) {
+    const auto rang = [](const Hilfeschritt& s) {
         const bool hinweis = s.bewertung.ausgang == Ausgang::hinweis;
         return std::pair(hinweis, hinweis ? 0 : s.bewertung.maxEta);
     };
     std::stable_sort(hilfe.schritte.begin(), hilfe.schritte.end(),
-                     [&](const Schritt& a, const Schritt& b) { return rang(a) < rang(b); });
+                     [&](const Hilfeschritt& a, const Hilfeschritt& b) { return rang(a) < rang(b); });
     return hilfe;
 }
 

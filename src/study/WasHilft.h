@@ -12,7 +12,7 @@
 
 namespace rippenscheibe {
 
-struct Schritt {
+struct Hilfeschritt {
     std::string text;  // "av1, av2 60 -> 55"
     std::vector<std::pair<int, Feldwert>> setzt;
     Bewertung bewertung;
@@ -21,7 +21,7 @@ struct Schritt {
 struct Hilfe {
     Bewertung heute;
     // By the new utilisation; steps with findings at the end.
-    std::vector<Schritt> schritte;
+    std::vector<Hilfeschritt> schritte;
 };
 
 // Spacing 5 mm nearer and wider, on one and on both sides; the next row of the catalogue, the next board, the

@@ -157,13 +157,13 @@ TEST(WasHilft, ANearerSpacingOnOneOfTwoEqualSidesMakesTheWallWeaker) {
     const Hilfe hilfe = wasHilft(w, {}, {}, {.faeden = 2});
     const auto schritt = [&](std::string_view text) {
         const auto treffer = std::find_if(hilfe.schritte.begin(), hilfe.schritte.end(),
-                                          [&](const Schritt& s) { return s.text == text; });
+                                          [&](const Hilfeschritt& s) { return s.text == text; });
         EXPECT_NE(treffer, hilfe.schritte.end()) << text;
-        return treffer == hilfe.schritte.end() ? Schritt{} : *treffer;
+        return treffer == hilfe.schritte.end() ? Hilfeschritt{} : *treffer;
     };
     EXPECT_LT(schritt("av1, av2 60 -> 55").bewertung.maxEta, hilfe.heute.maxEta);
     EXPECT_GT(schritt("av1 60 -> 55").bewertung.maxEta, hilfe.heute.maxEta);
-    for (const Schritt& s : hilfe.schritte) {
+    for (const Hilfeschritt& s : hilfe.schritte) {
         Wand neu = w;
         Feldzugriff felder(neu);
         for (const auto& [feld, wert] : s.setzt) felder.setze(feld, wert);
@@ -171,8 +171,8 @@ TEST(WasHilft, ANearerSpacingOnOneOfTwoEqualSidesMakesTheWallWeaker) {
         EXPECT_EQ(besteht, einzeln(neu, {}).besteht) << s.text;
         EXPECT_EQ(besteht ? s.bewertung.maxEta : 0, besteht ? einzeln(neu, {}).maxEta : 0) << s.text;
     }
-    EXPECT_TRUE(
-        std::is_sorted(hilfe.schritte.begin(), hilfe.schritte.end(), [](const Schritt& a, const Schritt& b) {
+    EXPECT_TRUE(std::is_sorted(
+        hilfe.schritte.begin(), hilfe.schritte.end(), [](const Hilfeschritt& a, const Hilfeschritt& b) {
             return b.bewertung.ausgang != Ausgang::hinweis && a.bewertung.ausgang != Ausgang::hinweis &&
                    a.bewertung.maxEta < b.bewertung.maxEta;
         }));

@@ -24,6 +24,7 @@ enum class Fensterart {
     kalender,             // Form60
     systemkonfiguration,  // Form13
     seitenkopf,           // Form8
+    auslegen,             // Auslegen
     druck,                // Form6
     ergebnisse,           // Form23
     ueber,                // Ueber

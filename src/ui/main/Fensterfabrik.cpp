@@ -20,6 +20,7 @@
 #include "ui/project/Form222_Bemerkungen.h"
 #include "ui/project/Form60_Kalender.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
+#include "ui/study/Auslegen.h"
 
 namespace rippenscheibe {
 
@@ -52,6 +53,7 @@ constexpr Eintrag eintraege[] = {
     {Fensterart::randbedingungen, zeige<Form10>, "Randbedingungen"},
     {Fensterart::ueberstaende, zeige<Form11>, "Überstände"},
     {Fensterart::seitenkopf, zeige<Form8>, "Seitenkopf"},
+    {Fensterart::auslegen, zeige<Auslegen>, "Auslegen"},
     {Fensterart::druck, zeige<Form6>, "Druck"},
     {Fensterart::ergebnisse, zeige<Form23>, "Ergebnisse"},
     {Fensterart::ueber, zeige<Ueber>, "Über"},

@@ -108,7 +108,10 @@ Menue Form1::extrasmenue() {
     return {
         qtext("mnuExtras"),
         qtext("&Extras"),
-        {{qtext("mnupocketcalc"), qtext("&Taschenrechner"), [this] { oeffneFenster(Fensterart::rechner); }},
+        {{qtext("mnuAuslegen"), qtext("&Auslegen ..."), [this] { oeffneFenster(Fensterart::auslegen); },
+          QKeySequence(Qt::Key_F8)},
+         trenner,
+         {qtext("mnupocketcalc"), qtext("&Taschenrechner"), [this] { oeffneFenster(Fensterart::rechner); }},
          {qtext("mnuKalender"), qtext("&Kalender"), [this] { oeffneFenster(Fensterart::kalender); }},
          {qtext("mnuMaterialien"), qtext("&Eigene Materialien ..."),
           [this] { oeffneFenster(Fensterart::eigeneMaterialien); }},

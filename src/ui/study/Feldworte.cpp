@@ -1,0 +1,167 @@
+#include "ui/study/Feldworte.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "model/Kataloge.h"
+#include "study/Mengen.h"
+#include "ui/basics/Programm.h"
+
+namespace rippenscheibe {
+
+namespace {
+
+const Feldangabe& angabe(int feld) { return eingabefelder()[static_cast<std::size_t>(feld)].angabe; }
+
+// "av" of "av1" and "av2"; the name itself for a field of the whole wall.
+std::string_view stamm(std::string_view name) {
+    if (!name.ends_with('1') && !name.ends_with('2')) return name;
+    const std::string_view vorn = name.substr(0, name.size() - 1);
+    return eingabeindex(std::string(vorn) + "1") >= 0 && eingabeindex(std::string(vorn) + "2") >= 0 ? vorn
+                                                                                                    : name;
+}
+
+bool hatSeite(std::string_view name) { return stamm(name) != name; }
+
+struct Liste {
+    std::string_view stamm;
+    std::span<const std::string_view> (*eintraege)();
+};
+constexpr std::array<Liste, 6> listen{{{"Material", Plattenmaterialien},
+                                       {"Holzart", Holzarten},
+                                       {"VMArt", VMArten},
+                                       {"VMKlasse", VMKlassen},
+                                       {"Ankertyp", Ankernamen},
+                                       {"KLED", KLEDNamen}}};
+
+// The entry of a list, "" for a field that is none.
+QString listeneintrag(std::string_view name, int wert) {
+    if (stamm(name) == "VMTyp") return qtext(nagelname(wert));
+    for (const Liste& liste : listen)
+        if (liste.stamm == stamm(name)) return qtext(eintrag(liste.eintraege(), wert)).simplified();
+    return {};
+}
+
+bool gehoertZumVerbindungsmittel(std::string_view name) {
+    constexpr std::array<std::string_view, 4> masse{"VMTyp", "d", "ln", "dk"};
+    return hatSeite(name) && std::find(masse.begin(), masse.end(), stamm(name)) != masse.end();
+}
+
+// What a field means, without its side.
+QString bedeutung(int feld) {
+    if (gehoertZumVerbindungsmittel(angabe(feld).name)) return QStringLiteral("Verbindungsmittel");
+    if (angabe(feld).name.starts_with("Plattendicke")) return QStringLiteral("Plattendicke");
+    return qtext(angabe(feld).bedeutung).section(QStringLiteral(", gleich"), 0, 0);
+}
+
+// Names of fields that say the same of both sides become one.
+QString benannt(const std::vector<int>& felder) {
+    QStringList namen;
+    for (const int feld : felder) {
+        const std::string_view name = angabe(feld).name;
+        const QString wort = bedeutung(feld);
+        const QString mitSeite =
+            hatSeite(name) ? QStringLiteral("%1, Beplankung %2").arg(wort, QChar::fromLatin1(name.back()))
+                           : wort;
+        const QString andere = QStringLiteral("%1, Beplankung 1").arg(wort);
+        if (mitSeite != andere && namen.contains(andere))
+            namen.replace(namen.indexOf(andere), QStringLiteral("%1, beide Seiten").arg(wort));
+        else if (!namen.contains(mitSeite) && !namen.contains(wort + QStringLiteral(", beide Seiten")))
+            namen << mitSeite;
+    }
+    return namen.join(QStringLiteral(" und "));
+}
+
+struct Aenderung {
+    QString wechsel;
+    std::vector<int> felder;
+};
+
+}  // namespace
+
+QString feldname(std::span<const int> felder) { return benannt({felder.begin(), felder.end()}); }
+
+QString spaltenname(std::span<const int> felder) {
+    const Feldangabe& erstes = angabe(felder.front());
+    if (gehoertZumVerbindungsmittel(erstes.name) || erstes.symbol.empty()) return bedeutung(felder.front());
+    return QStringLiteral("%1 [%2]").arg(bedeutung(felder.front()), qtext(erstes.einheit));
+}
+
+QString werttext(int feld, const Wand& w) {
+    Wand kopie = w;
+    const Feldzugriff felder(kopie);
+    const Feldangabe& a = angabe(feld);
+    const QString eintrag = listeneintrag(a.name, static_cast<int>(felder.zahl(feld)));
+    if (!eintrag.isEmpty()) return eintrag;
+    std::string text;
+    felder.anfuegeEingabe(text, feld);
+    if (text == "true") return QStringLiteral("ja");
+    if (text == "false") return QStringLiteral("nein");
+    const QString zahl = qtext(text).replace(QLatin1Char('.'), QLatin1Char(dezimalzeichen()));
+    return a.einheit.empty() ? zahl : zahl + QLatin1Char(' ') + qtext(a.einheit);
+}
+
+QString werttext(int feld, const Feldwert& wert) {
+    Wand w;
+    Feldzugriff(w).setze(feld, wert);
+    return werttext(feld, w);
+}
+
+QString aenderungstext(const Wand& heute, const Zuweisungen& setzt) {
+    const Wand neu = mitZuweisungen(heute, setzt);
+    std::vector<Aenderung> aenderungen;
+    for (const auto& [feld, wert] : setzt) {
+        const std::string_view name = angabe(feld).name;
+        const Seite n = name.ends_with('2') ? Seite::zwei : Seite::eins;
+        const auto text = [&, feld = feld](const Wand& w) {
+            return gehoertZumVerbindungsmittel(name) ? qtext(verbindungsmitteltext(w, n)) : werttext(feld, w);
+        };
+        const QString wechsel = QStringLiteral("%1 → %2").arg(text(heute), text(neu));
+        if (text(heute) == text(neu)) continue;
+        const auto gleich = std::find_if(aenderungen.begin(), aenderungen.end(),
+                                         [&](const Aenderung& a) { return a.wechsel == wechsel; });
+        if (gleich == aenderungen.end())
+            aenderungen.push_back({wechsel, {feld}});
+        else
+            gleich->felder.push_back(feld);
+    }
+    QStringList texte;
+    for (const Aenderung& a : aenderungen) texte << benannt(a.felder) + QStringLiteral(": ") + a.wechsel;
+    return texte.join(QStringLiteral("; "));
+}
+
+Wand studienwand(const Programm& programm) {
+    Wand w = programm.w;
+    zuweisen(w, programm.felder);
+    return w;
+}
+
+Wand mitZuweisungen(const Wand& w, const Zuweisungen& setzt) {
+    Wand neu = w;
+    Feldzugriff felder(neu);
+    for (const auto& [feld, wert] : setzt) felder.setze(feld, wert);
+    zuweisen(neu, grundmasse(neu));
+    return neu;
+}
+
+void uebernimm(Programm& programm, const QString& name, const Zuweisungen& setzt) {
+    const Schritt schritt(programm, name);
+    zuweisen(programm.w, programm.felder);
+    Feldzugriff felder(programm.w);
+    for (const auto& [feld, wert] : setzt) felder.setze(feld, wert);
+    // What stands in the main window stays, unless it was set.
+    const Grundmasse neu = grundmasse(programm.w);
+    for (const auto& [laenge, mass] : {std::pair("Wandlaenge", &Grundmasse::Wandlaenge),
+                                       {"Wandhoehe", &Grundmasse::Wandhoehe},
+                                       {"Rippenabstand", &Grundmasse::Rippenabstand}})
+        if (std::any_of(setzt.begin(), setzt.end(),
+                        [feld = eingabeindex(laenge)](const auto& z) { return z.first == feld; }))
+            programm.felder.*mass = neu.*mass;
+    programm.setzeGesichert(false);
+    Q_EMIT programm.ersetzt();
+    programm.zuweisen();
+}
+
+}  // namespace rippenscheibe
