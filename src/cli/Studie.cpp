@@ -218,21 +218,10 @@ class Studie {
     }
 
     static std::string auswertung(const Auslegungsergebnis& e) {
-        std::string gruende;
-        const auto zaehle = [&](std::size_t zahl, const std::string& grund) {
-            if (zahl == 0) return;
-            gruende.append(gruende.empty() ? ": " : ", ")
-                .append(std::to_string(zahl))
-                .append(" ")
-                .append(grund);
-        };
-        for (const auto& [nachweis, zahl] : e.anNachweis) zaehle(zahl, "an " + std::string(nachweis));
-        zaehle(e.mitHinweis, "mit Hinweis");
-        for (const auto& [art, zahl] : e.anLuecke)
-            zaehle(zahl, "mit Lücke: " + std::string(lueckenursache(art)));
+        const std::string gruende = ausscheidegruende(e);
         std::string text = std::to_string(e.geprueft) + " von " + std::to_string(e.kandidaten) +
                            " Kandidaten geprüft, " + std::to_string(e.geprueft - e.bestanden) +
-                           " scheiden aus" + gruende;
+                           " scheiden aus" + (gruende.empty() ? "" : ": " + gruende);
         if (!e.vollstaendig) text += " (abgebrochen; bis dahin sind die Ergebnisse bewiesen)";
         return text;
     }

@@ -218,6 +218,19 @@ Achse katalogachse(const Eingaben& e) {
 
 }  // namespace
 
+std::string ausscheidegruende(const Auslegungsergebnis& ergebnis) {
+    std::string gruende;
+    const auto zaehle = [&](std::size_t zahl, const std::string& grund) {
+        if (zahl == 0) return;
+        gruende.append(gruende.empty() ? "" : ", ").append(std::to_string(zahl)).append(" ").append(grund);
+    };
+    for (const auto& [nachweis, zahl] : ergebnis.anNachweis) zaehle(zahl, "an " + std::string(nachweis));
+    zaehle(ergebnis.mitHinweis, "mit Hinweis");
+    for (const auto& [art, zahl] : ergebnis.anLuecke)
+        zaehle(zahl, "mit Lücke: " + std::string(lueckenursache(art)));
+    return gruende;
+}
+
 std::string festesFeld(const Raster& raster) {
     for (const Achse& a : raster.achsen())
         for (const int feld : a.felder) {
@@ -255,8 +268,17 @@ std::variant<Auslegungsergebnis, std::string> legeAus(const Auslegungsauftrag& a
     }
     std::vector<std::size_t> reihenfolge(werte.size());
     std::iota(reihenfolge.begin(), reihenfolge.end(), std::size_t{0});
-    std::stable_sort(reihenfolge.begin(), reihenfolge.end(),
-                     [&](std::size_t a, std::size_t b) { return werte[a] < werte[b]; });
+    // Millions take their time to be ordered: the order can be given up.
+    struct Halt {};
+    try {
+        std::stable_sort(reihenfolge.begin(), reihenfolge.end(), [&](std::size_t a, std::size_t b) {
+            if (ausfuehrung.halt.stop_requested()) throw Halt{};
+            return werte[a] < werte[b];
+        });
+    } catch (const Halt&) {
+        ergebnis.vollstaendig = false;
+        return ergebnis;
+    }
 
     Auslese auslese(auftrag, ergebnis);
     bool fertig = false;

@@ -52,6 +52,9 @@ struct Auslegungsergebnis {
     std::size_t mitHinweis = 0;
 };
 
+// "98 an 5.1 Scheibenschub parallel, 20 mit Hinweis, 3 mit Lücke: ...": why candidates drop out, or "".
+std::string ausscheidegruende(const Auslegungsergebnis& ergebnis);
+
 // A field that a search never varies stands on an axis: methods, options, service classes, load durations,
 // load case, loads, the switch of the anchorage proof. Empty when none does.
 std::string festesFeld(const Raster& raster);

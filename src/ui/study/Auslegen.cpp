@@ -3,7 +3,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "ui/study/Feldworte.h"
+#include "ui/basics/Programm.h"
+#include "ui/study/Suchseite.h"
 #include "ui/study/WasHilftSeite.h"
 
 namespace rippenscheibe {
@@ -14,15 +15,27 @@ Auslegen::Auslegen(Programm& programm, Meldungen& meldungen, QWidget* parent)
     auto* seiten = new QTabWidget(this);
     seiten->setObjectName(QStringLiteral("Seiten"));
     seiten->setAccessibleName(QStringLiteral("Auslegen"));
+    auto* suche = new Suchseite(programm, this);
     auto* hilft = new WasHilftSeite(programm, this);
-    seiten->addTab(hilft, QStringLiteral("Was hilft?"));
+    seiten->addTab(suche, QStringLiteral("&Entwürfe suchen"));
+    seiten->addTab(hilft, QStringLiteral("&Was hilft?"));
     inhalt()->addWidget(seiten, 1);
-    QPushButton* uebernehmen = schaltflaeche(QStringLiteral("Uebernehmen"), QStringLiteral("Über&nehmen"));
-    uebernehmen->setToolTip(QStringLiteral("Die gewählte Änderung in die Position übernehmen"));
-    uebernehmen->setEnabled(false);
-    connect(hilft, &WasHilftSeite::auswahlGeaendert, uebernehmen, &QWidget::setEnabled);
-    connect(uebernehmen, &QPushButton::clicked, this,
-            [this, hilft] { uebernimm(programm_, QStringLiteral("Auslegen"), hilft->gewaehlt()); });
+    QPushButton* knopf = schaltflaeche(QStringLiteral("Uebernehmen"), QStringLiteral("Über&nehmen"));
+    knopf->setToolTip(
+        QStringLiteral("Die gewählte Wand in die Position übernehmen; lässt sich rückgängig machen"));
+    const auto gewaehlt = [seiten, suche, hilft] {
+        return seiten->currentWidget() == suche ? suche->gewaehlt() : hilft->gewaehlt();
+    };
+    const auto richte = [this, knopf, gewaehlt] {
+        knopf->setEnabled(!aenderungstext(studienwand(programm_), gewaehlt()).isEmpty());
+    };
+    connect(suche, &Suchseite::auswahlGeaendert, knopf, richte);
+    connect(hilft, &WasHilftSeite::auswahlGeaendert, knopf, richte);
+    connect(seiten, &QTabWidget::currentChanged, knopf, richte);
+    connect(&programm, &Programm::geaendert, knopf, richte);
+    connect(knopf, &QPushButton::clicked, this,
+            [this, gewaehlt] { uebernimm(programm_, QStringLiteral("Auslegen"), gewaehlt()); });
+    richte();
     zurueck(QStringLiteral("Command1"));
 }
 

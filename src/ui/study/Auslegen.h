@@ -4,7 +4,8 @@
 
 namespace rippenscheibe {
 
-// Ways to a better wall: what real next steps do.
+// Ways to a better wall: the cheapest ones that pass, and what real next steps do. The position changes only
+// by a take-over.
 class Auslegen : public Fenster {
     Q_OBJECT
 

@@ -85,8 +85,12 @@ QString feldname(std::span<const int> felder) { return benannt({felder.begin(), 
 
 QString spaltenname(std::span<const int> felder) {
     const Feldangabe& erstes = angabe(felder.front());
-    if (gehoertZumVerbindungsmittel(erstes.name) || erstes.symbol.empty()) return bedeutung(felder.front());
-    return QStringLiteral("%1 [%2]").arg(bedeutung(felder.front()), qtext(erstes.einheit));
+    if (gehoertZumVerbindungsmittel(erstes.name)) return QStringLiteral("Verbindungsmittel");
+    QString name = erstes.symbol.empty() ? bedeutung(felder.front()).section(QLatin1Char(' '), 0, 0)
+                                         : qtext(erstes.symbol);
+    for (const char zeichen : {'_', '{', '}', ';', ','})
+        if (zeichen != ',' || erstes.symbol.empty()) name.remove(QLatin1Char(zeichen));
+    return name;
 }
 
 QString werttext(int feld, const Wand& w) {
@@ -107,6 +111,18 @@ QString werttext(int feld, const Feldwert& wert) {
     Wand w;
     Feldzugriff(w).setze(feld, wert);
     return werttext(feld, w);
+}
+
+QString achsentext(const Achse& achse, const Wand& w) {
+    QStringList texte;
+    for (const int feld : achse.felder) {
+        const std::string_view name = angabe(feld).name;
+        const Seite n = name.ends_with('2') ? Seite::zwei : Seite::eins;
+        const QString text =
+            gehoertZumVerbindungsmittel(name) ? qtext(verbindungsmitteltext(w, n)) : werttext(feld, w);
+        if (!texte.contains(text)) texte << text;
+    }
+    return texte.join(QStringLiteral(" / "));
 }
 
 QString aenderungstext(const Wand& heute, const Zuweisungen& setzt) {

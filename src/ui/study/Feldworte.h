@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "study/Felder.h"
+#include "study/Raster.h"
 
 // Inputs and their values in the words of the dialogs.
 
@@ -17,12 +17,14 @@ using Zuweisungen = std::vector<std::pair<int, Feldwert>>;
 
 // "Abstand der Verbindungsmittel, beide Seiten" for fields that move together.
 QString feldname(std::span<const int> felder);
-// The same without side, with the unit: the head of a column.
+// The head of a column: the symbol, else the first word.
 QString spaltenname(std::span<const int> felder);
 // A value as a dialog shows it: the entry of a list by its name, a number with unit.
 QString werttext(int feld, const Feldwert& wert);
 // The value of the wall.
 QString werttext(int feld, const Wand& w);
+// What the wall has on this axis, both sides where they differ.
+QString achsentext(const Achse& achse, const Wand& w);
 // What changes against `heute`, in one line: "Abstand der Verbindungsmittel, beide Seiten: 60 mm → 55 mm".
 QString aenderungstext(const Wand& heute, const Zuweisungen& setzt);
 

@@ -19,7 +19,7 @@ Wandauswahl::Wandauswahl(const QString& name, const QString& bezeichnung, Qt::Or
     setObjectName(QStringLiteral("Teiler") + name);
     setChildrenCollapsible(false);
     setHandleWidth(2 * Fenster::raster);
-    ansicht_->setDezimalzeichen(dezimalzeichen());
+    ansicht_->setzeDezimalzeichen(dezimalzeichen());
     aenderung_->setObjectName(name + QStringLiteral("Aenderung"));
     aenderung_->setWordWrap(true);
     auto* wand = new QWidget;
