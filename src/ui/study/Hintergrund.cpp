@@ -44,7 +44,7 @@ void Hintergrund::verwirf() {
 }
 
 void Hintergrund::sieheNach() {
-    const bool beendet = zustand_->beendet;
+    const bool amEnde = zustand_->beendet;
     Fortschritt stand;
     bool fehlgeschlagen = false;
     {
@@ -53,12 +53,12 @@ void Hintergrund::sieheNach() {
         fehlgeschlagen = zustand_->fehlgeschlagen;
     }
     Q_EMIT fortschritt(stand);
-    if (!beendet) return;
+    if (!amEnde) return;
     const auto fertig = std::move(fertig_);
     verwirf();
     if (!fehlgeschlagen) fertig();
-    Q_EMIT this->beendet(fehlgeschlagen ? QStringLiteral("Der Speicher reicht für diese Rechnung nicht.")
-                                        : QString());
+    Q_EMIT beendet(fehlgeschlagen ? QStringLiteral("Der Speicher reicht für diese Rechnung nicht.")
+                                  : QString());
 }
 
 }  // namespace rippenscheibe

@@ -98,12 +98,13 @@ QString befundtext(const Auslegungsauftrag& a, const Auslegungsergebnis& e) {
     if (!e.vollstaendig)
         text = QStringLiteral("Angehalten nach %1 von %2 Kandidaten, bis dahin bewiesen. ")
                    .arg(ganzzahl(e.geprueft), ganzzahl(e.kandidaten));
-    if (e.entwuerfe.empty() && e.vollstaendig) {
+    if (e.entwuerfe.empty() && !e.vollstaendig) return text + QStringLiteral("Noch besteht keine.");
+    if (e.entwuerfe.empty()) {
         text += QStringLiteral("Keine der %1 Wände besteht: %2.").arg(ganzzahl(e.kandidaten), gruende);
         if (!e.knappVerfehlt.empty()) text += QStringLiteral(" Am nächsten kommen:");
         return text;
     }
-    if (raus == 0) return text + QStringLiteral("Die erste Wand in der Reihenfolge besteht.");
+    if (raus == 0) return text + QStringLiteral("Schon die erste in der Reihenfolge besteht.");
     return text + QStringLiteral("%1 %2 scheiden aus: %3.")
                       .arg(ganzzahl(raus), QString::fromUtf8(worte(a.ziel).kleinere), gruende);
 }
@@ -334,10 +335,10 @@ void Suchseite::starte() {
         preise_->setText(qtext(a->preise.herkunft()));
     }
     hintergrund_.starte(
-        [a = *a, heute = studienwand(programm_)](const Ausfuehrung& ausfuehrung) {
-            Pruefstand stand(a.vorlage, a.materialien, a.regel);
+        [gesucht = *a, heute = studienwand(programm_)](const Ausfuehrung& ausfuehrung) {
+            Pruefstand stand(gesucht.vorlage, gesucht.materialien, gesucht.regel);
             const Bewertung bewertet = stand.bewerte();
-            return Fund{a, legeAus(a, ausfuehrung), heute, bewertet};
+            return Fund{gesucht, legeAus(gesucht, ausfuehrung), heute, bewertet};
         },
         [this](const Fund& fund) { zeige(fund); });
 }
@@ -429,9 +430,10 @@ void Suchseite::zeigeEntwuerfe(const Fund& fund, const std::vector<Entwurf>& ent
     entwuerfe_->fuegeHeuteAn(
         zellen(QStringLiteral("heute"), zielwert(a, fund.heute), fund.heuteBewertet, fund.heute));
     for (std::size_t i = 0; i < entwuerfe.size(); ++i)
-        entwuerfe_->fuegeAn(
-            zellen(QString::number(i + 1), entwuerfe[i].wert, entwuerfe[i].bewertung, waende[i]),
-            aenderungen[i]);
+        entwuerfe_->fuegeAn(zellen(entwuerfe[i].bewertung.ausgang == Ausgang::besteht ? QString::number(i + 1)
+                                                                                      : QStringLiteral("–"),
+                                   entwuerfe[i].wert, entwuerfe[i].bewertung, waende[i]),
+                            aenderungen[i]);
     entwuerfe_->schliesseAb();
 }
 
