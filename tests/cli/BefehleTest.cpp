@@ -24,8 +24,7 @@ std::string beispiel(const std::string& name) { return (beispiele / (name + ".rs
 
 struct Ergebnis {
     int rueckgabe = 0;
-    std::string ausgabe;
-    std::string meldungen;
+    std::string ausgabe, meldungen;
 };
 
 // Runs the tool with the folder of the examples as the program's folder.
@@ -46,7 +45,7 @@ nlohmann::ordered_json json(const std::vector<std::string>& angaben) {
     return nlohmann::ordered_json::parse(ausgabe.substr(ausgabe.find_last_of('\n', ausgabe.size() - 2) + 1));
 }
 
-using Befehle = tests::Ordnerprobe;
+using Befehle = Ordnerprobe;
 
 TEST_F(Befehle, AWrongCallIsToldInGermanWithCode64) {
     struct Fall {

@@ -6,11 +6,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
-constexpr double eps = 1e-9;
-
 // Rd 300 N at 60 mm, fv,d 4 and fc,d 10 N/mm², t 15 mm, ar 625 mm. Two-sided, with kv2 = 0.5:
 //   parallel       300/60 = 5; 0.5*4*15 = 30; 0.5*4*35*225/625 = 25.2
 //   perpendicular  300/60 = 5; 0.5*10*15 = 75; 0.5*10*20*225/625 = 36

@@ -11,11 +11,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
-constexpr double eps = 1e-9;
-
 void expectRippen(const Rippenfeld& feld, const std::vector<double>& soll, const char* name) {
     for (std::size_t i = 0; i < soll.size(); ++i)
         EXPECT_NEAR(feld(i + 1).value(), soll[i], eps) << name << " of rib " << i + 1;

@@ -14,12 +14,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-using tests::wert;
-
-constexpr double eps = 1e-9;
-
 Wand bemessbareWand() {
     Wand w;
     for (const Seite n : beideSeiten) {

@@ -10,12 +10,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-using tests::wert;
-
-constexpr double eps = 1e-9;
-
 // 5.0 x 2.5 m, one-sided, nails 2.7 at 60 mm in OSB 15 mm, ribs C24.
 Wand wand() {
     Wand w;

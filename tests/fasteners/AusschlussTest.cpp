@@ -9,9 +9,6 @@
 namespace rippenscheibe {
 namespace {
 
-using pruefung::Mittel;
-using pruefung::wand;
-
 using Stelle = void (*)(Wand& w, Seite n, double x);
 
 void hRandrippe(Wand& w, Seite /*n*/, double x) { w.hRandrippe = x; }
@@ -27,8 +24,7 @@ enum class Routinen { alle, ohneSeite2Vereinfacht };
 struct Regel {
     Mittel mittel;
     Stelle setze;
-    double verboten;
-    double erlaubt;
+    double verboten, erlaubt;
     Routinen routinen = Routinen::alle;
 };
 

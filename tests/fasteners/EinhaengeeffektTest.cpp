@@ -8,14 +8,6 @@
 namespace rippenscheibe {
 namespace {
 
-using pruefung::Mittel;
-using pruefung::wand;
-
-constexpr auto einfach = Verfahren::vereinfacht;
-constexpr auto genau = Verfahren::genau;
-constexpr Seite s1 = Seite::eins;
-constexpr Seite s2 = Seite::zwei;
-
 Wand seilwand(const Mittel& mittel, Verfahren verfahren, int klasse = 9) {
     Wand w = wand(mittel, verfahren);
     w.DeltaRd = true;
@@ -47,8 +39,7 @@ TEST(Einhaengeeffekt, IsAddedInModesDAndEButNotInModeC) {
     struct Fall {
         Mittel mittel;
         double ohneZuwachs;  // the governing mode
-        double Rxk;
-        double Rd;
+        double Rxk, Rd;
     };
     // clang-format off
     for (const auto& fall : {
@@ -122,8 +113,7 @@ TEST(Einhaengeeffekt, SimplifiedItCountsForWoodBasedBoardsOnly) {
 
 TEST(Einhaengeeffekt, SimplifiedScrewsOfSide1WorkWithTheF1kLeftThere) {
     struct Fall {
-        double f1kAlt;
-        double Rxk1;
+        double f1kAlt, Rxk1;
     };
     // lef = 18; head 8.664*8² = 554.50; withdrawal 0 and 6*4*18 = 432; side 2 has 8.575*4*18 = 617.4
     for (const auto& fall : {Fall{0, 0}, Fall{6, 432}}) {

@@ -3,7 +3,12 @@
 #include "fasteners/Grundlagen.h"
 #include "fasteners/Verteiler.h"
 
-namespace rippenscheibe::pruefung {
+namespace rippenscheibe {
+
+constexpr auto einfach = Verfahren::vereinfacht;
+constexpr auto genau = Verfahren::genau;
+constexpr Seite s1 = Seite::eins;
+constexpr Seite s2 = Seite::zwei;
 
 // One fastener in its sheathing, the same on both sides; lengths in mm, fuk in N/mm².
 struct Mittel {
@@ -54,4 +59,4 @@ inline Wand wand(const Mittel& m, Verfahren verfahren) {
     return w;
 }
 
-}  // namespace rippenscheibe::pruefung
+}  // namespace rippenscheibe

@@ -10,15 +10,11 @@
 namespace rippenscheibe {
 namespace {
 
-using pruefung::Mittel;
-using pruefung::wand;
-
 struct Fall {
     std::string name;
     Verfahren verfahren;
     Mittel mittel;
-    double Rd1;
-    double Rd2;
+    double Rd1, Rd2;
 };
 
 const Mittel nagel{Art::naegel, 1, 15, 2.7, 50, 600};
@@ -37,9 +33,6 @@ const Mittel klammer18182{Art::klammernDin18182, 6, 12.5, 1.5, 45, 680};
 const Mittel nagelFaser{Art::naegel, 7, 12.5, 2.8, 40, 600};
 const Mittel sondernagelFaser{Art::sondernaegel, 7, 12.5, 2.8, 35, 600};
 const Mittel klammerFaser{Art::klammern, 7, 12.5, 1.8, 40, 800};
-
-constexpr auto einfach = Verfahren::vereinfacht;
-constexpr auto genau = Verfahren::genau;
 
 TEST(Tragfaehigkeit, IsTheOneByHandForEachKindMethodAndSide) {
     // clang-format off
@@ -170,12 +163,9 @@ TEST(Tragfaehigkeit, YieldMomentExistsInsideTheLimitsOfEachRoutine) {
         int material;
         Verfahren verfahren;
         Seite seite;
-        double fuk;
-        double d;
+        double fuk, d;
         bool vorhanden;
     };
-    constexpr Seite s1 = Seite::eins;
-    constexpr Seite s2 = Seite::zwei;
     // clang-format off
     const std::vector<Grenzfall> faelle{
         {Art::naegel, 1, einfach, s1, 600, 8.0, true},  {Art::naegel, 1, genau, s2, 600, 8.2, false},

@@ -5,13 +5,6 @@
 namespace rippenscheibe {
 namespace {
 
-using pruefung::wand;
-
-constexpr auto einfach = Verfahren::vereinfacht;
-constexpr auto genau = Verfahren::genau;
-constexpr Seite s1 = Seite::eins;
-constexpr Seite s2 = Seite::zwei;
-
 TEST(Verteiler, AFastenerUnknownToTheBoardKeepsItsCapacityThroughFloorAndRaise) {
     struct Fall {
         double vorher;
@@ -36,7 +29,7 @@ TEST(Verteiler, ABoardBesideGypsumFibreBoardNeeds12Millimetres) {
         for (const auto& [dicke, traegt] : {std::pair(11.9, false), {12.0, true}}) {
             Wand w = wand({Art::naegel, 1, dicke}, einfach);
             w.Einseitig = true;  // plays no part
-            pruefung::setze(w, faser, {Art::naegel, 7, 10, 2.5, 50, 600});
+            setze(w, faser, {Art::naegel, 7, 10, 2.5, 50, 600});
             const Seite andere = gegenueber(faser);
             w.Rd[andere] = 500;
             verteiler(w, faser);  // acts on the other side at once
@@ -56,7 +49,7 @@ TEST(Verteiler, TwoGypsumFibreBoardsMayBeThinner) {
 
 TEST(Verteiler, TheFibreBoardRuleSeesTheCountersunkThickness) {
     Wand w = wand({Art::naegel, 1, 13}, genau);
-    pruefung::setze(w, s1, {Art::naegel, 7, 12.5, 2.5, 50, 600});
+    setze(w, s1, {Art::naegel, 7, 12.5, 2.5, 50, 600});
     w.Versenkt[s2] = true;
     verteiler(w, s2);
     EXPECT_EQ(w.t[s2].value(), 11);

@@ -17,7 +17,7 @@
 #include "files/Kopie.h"
 #include "files/Pfad.h"
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 namespace {
 
@@ -193,4 +193,4 @@ fs::path kopienordner(const fs::path& ordner) { return ordner / "programm"; }
 
 bool schaleGeladen() { return ausSchale<decltype(fehlerschale_beginne)>("fehlerschale_beginne") != nullptr; }
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

@@ -9,7 +9,7 @@
 // Runs a writer of files again and again, each time with another fault in another system call, and looks at
 // what is there afterwards.
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // What stands at the target before.
 enum class Lage { leer, alt, mehrfach };  // nothing, an old file, an old file of two names
@@ -49,4 +49,4 @@ std::filesystem::path kopienordner(const std::filesystem::path& ordner);
 // Whether the library is preloaded, without which nothing fails.
 bool schaleGeladen();
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

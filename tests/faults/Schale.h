@@ -2,13 +2,13 @@
 
 // What the preloaded library and the test program agree on.
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // The kinds of fault beside the errno numbers.
 inline constexpr int toetenDavor = -1;  // the process dies before the call
 inline constexpr int toetenDabei = -2;  // it dies behind the call, of a write behind its half
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests
 
 extern "C" {
 // From now on the n-th call on a file below this folder fails; 0: none does.

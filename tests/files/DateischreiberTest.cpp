@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Dateischreiber : public tests::Ordnerprobe {
+class Dateischreiber : public Ordnerprobe {
   protected:
     std::size_t dateienImOrdner() const { return dateienIn(ordner); }
 

@@ -23,7 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Programmdateien = tests::Ordnerprobe;
+using Programmdateien = Ordnerprobe;
 
 const std::string einstellungsbeispiel =
     "3,\"Büro Müller\",\"Statik\"\r\n"

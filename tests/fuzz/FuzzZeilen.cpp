@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t lae
     if (text.front() == 'c') auftrag.eingabe = auftrag.ausgabe = Zeilenform::csv;
     text.erase(0, 1);
     if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
-    tests::Textstrom strom(text, 7);
+    Textstrom strom(text, 7);
     const Stapelergebnis ergebnis = stapel(auftrag, strom.strom(), {});
     const auto zeilen = [](const std::string& t) {
         return static_cast<std::size_t>(std::count(t.begin(), t.end(), '\n'));

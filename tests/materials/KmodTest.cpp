@@ -10,17 +10,11 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
 struct Fall {
     std::string name;
     Seite seite;
-    int material;
-    int nkl;
-    int KLED;
-    float kmod;
-    float rippen;
+    int material, nkl, KLED;
+    float kmod, rippen;
 };
 
 const std::vector<Fall> faelle{

@@ -9,10 +9,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
-constexpr double eps = 1e-9;
 constexpr double vorher = 77;  // what an earlier run left in every field
 
 struct Plattenfall {

@@ -6,8 +6,6 @@
 namespace rippenscheibe {
 namespace {
 
-constexpr double eps = 1e-9;
-
 TEST(Querschnittswerte, CountTheRibsByAnExactQuotient) {
     struct Fall {
         double laenge, abstand, rippen, rest;

@@ -6,8 +6,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-
 double stueck(const Wand& w, double zwischenrippen = 1) {
     double summe = 0;
     for (const VMReihe& reihe : vmReihen(w, S1, {zwischenrippen})) summe += reihe.stueck();

@@ -52,12 +52,10 @@ TEST(Plausibilitaet, TheWallOfANewFileHasNoFinding) {
 // that just passes and the one that just fails.
 using Seitenfeld = Paar<Feld> Wand::*;
 struct Grenzfall {
-    int Material;
-    int VMArt;
+    int Material, VMArt;
     std::vector<std::pair<Seitenfeld, double>> umgebung;
     Seitenfeld feld;
-    double besteht;
-    double faellt;
+    double besteht, faellt;
     std::string_view text;
     Eingabeort ort = Eingabeort::Verbindungsmittel;
 };

@@ -41,7 +41,7 @@ std::string seiten(const Wand& w, Form form) {
     auftrag.zaehlung = {.SeitenzahlDrucken = true, .Startseite = 1, .Suffix = 0, .IndexText = ""};
     auftrag.Projekt = w.Projekt;
     auftrag.Position = w.Position;
-    tests::Aufzeichnung flaeche;
+    Aufzeichnung flaeche;
     druckeSeiten(flaeche, bericht(w, form), auftrag);
     return flaeche.protokoll();
 }
@@ -105,7 +105,7 @@ TEST(Golden, TheSignatureOverAllResultsIsTheApprovedOne) {
     }
     std::string signatur;
     for (const auto& [beispiel, text] : zeilen) signatur += text;
-    tests::erwarteGolden("signatur.txt", signatur);
+    erwarteGolden("signatur.txt", signatur);
 }
 
 TEST(Golden, TheReportsOfTheExamplesAreTheApprovedOnes) {
@@ -119,10 +119,10 @@ TEST(Golden, TheReportsOfTheExamplesAreTheApprovedOnes) {
         ++gerechnet;
         const std::string name = datei.stem().string();
         const Fliesstext text = fliesstext(bericht(w, Form::ansicht));
-        tests::erwarteGolden(name + ".txt", alsText(text));
-        if (mitRtf.contains(name)) tests::erwarteGolden(name + ".rtf", alsRtf(text));
-        tests::erwarteGolden(name + ".lang.seiten", seiten(w, Form::lang));
-        tests::erwarteGolden(name + ".kurz.seiten", seiten(w, Form::kurz));
+        erwarteGolden(name + ".txt", alsText(text));
+        if (mitRtf.contains(name)) erwarteGolden(name + ".rtf", alsRtf(text));
+        erwarteGolden(name + ".lang.seiten", seiten(w, Form::lang));
+        erwarteGolden(name + ".kurz.seiten", seiten(w, Form::kurz));
     }
     EXPECT_GE(gerechnet, 6) << "the examples are missing";
 }

@@ -21,9 +21,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::wert;
-
 std::string zahl(double wert) {
     std::array<char, 40> puffer{};
     const auto ende =
@@ -234,7 +231,7 @@ TEST(Golden, TheTablesOfTheStandardAreTheOnesThatWereRead) {
     Tafel tafel;
     for (const auto teil : {holz, beplankung, kmodwerte, anker, ausziehwerte, abstaende, verbindungsmittel})
         teil(tafel);
-    tests::erwarteGolden("kennwerte.txt", tafel.text());
+    erwarteGolden("kennwerte.txt", tafel.text());
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::Aufzeichnung;
 using Art = Aufzeichnung::Art;
 
 Druckauftrag auftrag() {

@@ -9,11 +9,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
-constexpr double eps = 1e-9;
-
 // Two-sided default wall under horizontal and vertical load, vertical loads distributed exactly.
 Wand wand() {
     Wand w;
@@ -33,9 +28,7 @@ void druckeStart(Wand& w) {
 TEST(Zwischendurchgang, RunsWhenAllSidesInUseCarry) {
     struct Fall {
         bool einseitig;
-        double av1;
-        double av2;
-        double Rd2;
+        double av1, av2, Rd2;
         bool laeuft;
     };
     for (const auto& fall : {Fall{true, 60, 0, 0, true},

@@ -14,9 +14,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
 // All results of a record as numbers, every element of the rib arrays.
 std::vector<double> werte(const Ergebnisse& e) {
     std::vector<double> alle;
@@ -36,7 +33,7 @@ std::vector<double> werte(const Ergebnisse& e) {
 bool gleich(const Ergebnisse& a, const Ergebnisse& b) { return werte(a) == werte(b); }
 
 TEST(FrischerLauf, IsTheRunOfAProgramJustStartedWhateverWasComputedBefore) {
-    tests::Zufallswaende waende(1);
+    Zufallswaende waende(1);
     Wand sitzung;
     int abweichend = 0;
     for (int i = 0; i < 400; ++i) {
@@ -66,7 +63,7 @@ TEST(FrischerLauf, IsTheRunOfAProgramJustStartedWhateverWasComputedBefore) {
 }
 
 TEST(Urteil, IsAboveOneExactlyWhenNotAllProofsAreMet) {
-    tests::Zufallswaende waende(2);
+    Zufallswaende waende(2);
     Wand w;
     int erfuellt = 0;
     int gerechnet = 0;

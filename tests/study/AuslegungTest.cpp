@@ -17,9 +17,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
 Achse achse(std::string_view text) { return std::get<Achse>(achseAus(text, Grenzen::beachten)); }
 
 // A wall that carries wind along it and a roof, anchored.

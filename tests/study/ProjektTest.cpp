@@ -10,7 +10,7 @@
 namespace rippenscheibe {
 namespace {
 
-class Projekt : public tests::Ordnerprobe {
+class Projekt : public Ordnerprobe {
   protected:
     void sichere(const std::string& name, const Wand& w) const { schreibe(name, kodiert(positionstext(w))); }
     std::vector<std::string> namen() const {

@@ -6,9 +6,6 @@
 namespace rippenscheibe {
 namespace {
 
-using tests::S1;
-using tests::S2;
-
 Achse achse(std::string_view text) {
     auto gelesen = achseAus(text, Grenzen::beachten);
     EXPECT_TRUE(std::holds_alternative<Achse>(gelesen)) << std::get<std::string>(gelesen);

@@ -13,11 +13,9 @@ namespace rippenscheibe {
 namespace {
 
 using nlohmann::json;
-using tests::S1;
-
 std::string antworten(const Stapelauftrag& auftrag, const std::string& zeilen, int faeden = 1,
                       Stapelergebnis* ergebnis = nullptr) {
-    tests::Textstrom strom(zeilen);
+    Textstrom strom(zeilen);
     const Stapelergebnis e = stapel(auftrag, strom.strom(), {.faeden = faeden});
     if (ergebnis != nullptr) *ergebnis = e;
     return strom.ausgabe;
@@ -38,7 +36,7 @@ std::string zeile(const Eingaben& eingaben, int id) {
 }
 
 TEST(Stapel, AnswersEachLineWithTheFreshRunOfItsWallWhateverStandsBefore) {
-    tests::Zufallswaende waende(3);
+    Zufallswaende waende(3);
     std::vector<Eingaben> alle;
     std::string zeilen;
     for (int i = 0; i < 300; ++i) {
@@ -76,8 +74,7 @@ TEST(Stapel, AnswersEachLineWithTheFreshRunOfItsWallWhateverStandsBefore) {
 
 TEST(Stapel, TellsWhatIsWrongWithALineAndGoesOn) {
     struct Fall {
-        std::string_view zeile;
-        std::string_view fehler;
+        std::string_view zeile, fehler;
     };
     const Fall faelle[] = {
         {R"({"av1":"sechzig"})", R"(av1 = "sechzig" ist keine Zahl)"},
@@ -141,7 +138,7 @@ TEST(Stapel, ReadsAndWritesTablesWithToldMarks) {
 }
 
 TEST(Stapel, StopsWhenNobodyReads) {
-    tests::Textstrom strom(std::string(50000, '\n'));
+    Textstrom strom(std::string(50000, '\n'));
     int geschrieben = 0;
     const Strom taub{strom.strom().lies, [&](std::string_view) { return ++geschrieben < 2; }};
     for (const int faeden : {1, 3}) {

@@ -6,7 +6,7 @@
 #include "basis/Zahlenformat.h"
 #include "report/Zeichenflaeche.h"
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // A surface that notes what is drawn on it.
 class Aufzeichnung : public Zeichenflaeche {
@@ -89,4 +89,4 @@ class Aufzeichnung : public Zeichenflaeche {
     Schrift schrift_;
 };
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

@@ -9,7 +9,7 @@
 #include <iterator>
 #include <string>
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // Compares with the approved file tests/golden/<name>. With RIPPENSCHEIBE_ERNEUERN in the environment
 // the file is written anew and the test fails, so that nobody renews by accident: tools/approve does that,
@@ -37,4 +37,4 @@ inline void erwarteGolden(const std::string& name, const std::string& ist) {
                   << "\n  now:      " << anfang(ist, b);
 }
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

@@ -9,7 +9,7 @@
 
 #include "files/Dateischreiber.h"
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // A test with a folder of its own.
 class Ordnerprobe : public testing::Test {
@@ -35,4 +35,4 @@ class Ordnerprobe : public testing::Test {
     std::filesystem::path ordner;
 };
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

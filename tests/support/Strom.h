@@ -5,7 +5,7 @@
 
 #include "study/Stapel.h"
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // A stream from and to memory; it hands out a few bytes at a time, so that lines are cut anywhere.
 class Textstrom {
@@ -32,4 +32,4 @@ class Textstrom {
     std::size_t stelle_ = 0;
 };
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

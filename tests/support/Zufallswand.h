@@ -5,7 +5,7 @@
 #include "model/Kataloge.h"
 #include "model/Wand.h"
 
-namespace rippenscheibe::tests {
+namespace rippenscheibe::inline tests {
 
 // Inputs of all kinds, most of them usual, some that findings stop; the same seed yields the same walls.
 class Zufallswaende {
@@ -79,4 +79,4 @@ class Zufallswaende {
     std::mt19937 zufall_;
 };
 
-}  // namespace rippenscheibe::tests
+}  // namespace rippenscheibe::inline tests

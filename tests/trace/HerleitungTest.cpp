@@ -23,9 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Json = nlohmann::json;
-using tests::S1;
-using tests::S2;
-
 // Evaluates a formula of the derivation; knows nothing of the calculation. The optimiser of the library
 // changes bits.
 class Rechner {
@@ -154,7 +151,7 @@ TEST(Herleitung, EveryFormulaYieldsTheBitsOfItsFieldInTheExamples) {
 }
 
 TEST(Herleitung, EveryFormulaYieldsTheBitsOfItsFieldInRandomWalls) {
-    tests::Zufallswaende waende(14);
+    Zufallswaende waende(14);
     int behalten = 0;
     for (int i = 0; i < 100; ++i) {
         SCOPED_TRACE(i);
@@ -190,7 +187,7 @@ TEST(Herleitung, TheToolTellsTheFieldsAskedFor) {
 }
 
 TEST(Herleitung, AStepReadsAsFormulaNumbersAndReason) {
-    Wand w = tests::vorgabewand();
+    Wand w = vorgabewand();
     EXPECT_NE(gelesen(w, "Rd1").find("= min("), std::string::npos);
     w.ln[S1] = 20;
     EXPECT_NE(gelesen(w, "Rd1").find(" = 5 < 4 · "), std::string::npos) << "too short, and the step says so";

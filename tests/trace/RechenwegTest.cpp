@@ -15,7 +15,7 @@ namespace rippenscheibe {
 namespace {
 
 Wand wand() {
-    Wand w = tests::vorgabewand();
+    Wand w = vorgabewand();
     w.Lastfall = 3;
     w.gk = 8;
     w.qk = 4;

@@ -17,7 +17,7 @@
 
 namespace {
 
-using namespace rippenscheibe::tests;
+using namespace rippenscheibe;
 
 // Plain data: calls come before any constructor has run, and in a forked child.
 std::array<char, 4096> ordner{};

@@ -60,7 +60,7 @@ TEST_F(Pdfausgabe, APdfHasThePagesOfThePageMachine) {
     for (const Form form : {Form::lang, Form::kurz}) {
         Ausdruck a = ausdruck();
         a.form = form;
-        tests::Aufzeichnung aufzeichnung;
+        Aufzeichnung aufzeichnung;
         const int erwartet = setze(aufzeichnung, programm.w, a).seiten;
         EXPECT_EQ(aufzeichnung.seiten, erwartet);
         EXPECT_EQ(seiten(pdf(programm.w, a).bytes), erwartet);
@@ -87,10 +87,10 @@ TEST_F(Pdfausgabe, PagesAreA4AndTheDocumentHasItsTitle) {
 // The outline holds every heading, and each object of the appended table stands where it says.
 TEST_F(Pdfausgabe, HeadingsAreBookmarks) {
     const Ausdruck a = ausdruck();
-    tests::Aufzeichnung flaeche;
+    Aufzeichnung flaeche;
     setze(flaeche, programm.w, a);
     const QByteArray bytes = pdf(programm.w, a).bytes;
-    const auto anzahl = static_cast<qsizetype>(flaeche.nur(tests::Aufzeichnung::Art::lesezeichen).size());
+    const auto anzahl = static_cast<qsizetype>(flaeche.nur(Aufzeichnung::Art::lesezeichen).size());
     EXPECT_EQ(bytes.count("/Title <FEFF"), anzahl);
     const qsizetype tabelle = bytes.mid(bytes.lastIndexOf("startxref") + 10).split('\n').front().toLongLong();
     const QList<QByteArray> zeilen = bytes.mid(tabelle).split('\n');
@@ -108,14 +108,14 @@ TEST_F(Pdfausgabe, HeldPagesAreTheSamePages) {
     const Ausdruck a = ausdruck();
     Druckpuffer puffer;
     setze(puffer, programm.w, a);
-    tests::Aufzeichnung gespielt;
+    Aufzeichnung gespielt;
     puffer.spiele(gespielt);
-    tests::Aufzeichnung direkt;
+    Aufzeichnung direkt;
     setze(direkt, programm.w, a);
     EXPECT_EQ(gespielt.protokoll(), direkt.protokoll());
-    EXPECT_FALSE(direkt.nur(tests::Aufzeichnung::Art::lesezeichen).empty());
-    EXPECT_EQ(gespielt.nur(tests::Aufzeichnung::Art::lesezeichen).size(),
-              direkt.nur(tests::Aufzeichnung::Art::lesezeichen).size());
+    EXPECT_FALSE(direkt.nur(Aufzeichnung::Art::lesezeichen).empty());
+    EXPECT_EQ(gespielt.nur(Aufzeichnung::Art::lesezeichen).size(),
+              direkt.nur(Aufzeichnung::Art::lesezeichen).size());
 }
 
 // The top of a capital of Arial 10 pt lies 0,905 - 0,688 = 0,217 em = 0,77 mm below the text's place, and it
