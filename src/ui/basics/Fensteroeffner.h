@@ -25,6 +25,7 @@ enum class Fensterart {
     systemkonfiguration,  // Form13
     seitenkopf,           // Form8
     auslegen,             // Auslegen
+    einfluss,             // Einfluss
     druck,                // Form6
     ergebnisse,           // Form23
     ueber,                // Ueber

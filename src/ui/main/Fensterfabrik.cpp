@@ -21,6 +21,7 @@
 #include "ui/project/Form60_Kalender.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
 #include "ui/study/Auslegen.h"
+#include "ui/study/Einfluss.h"
 
 namespace rippenscheibe {
 
@@ -54,6 +55,7 @@ constexpr Eintrag eintraege[] = {
     {Fensterart::ueberstaende, zeige<Form11>, "Überstände"},
     {Fensterart::seitenkopf, zeige<Form8>, "Seitenkopf"},
     {Fensterart::auslegen, zeige<Auslegen>, "Auslegen"},
+    {Fensterart::einfluss, zeige<Einfluss>, "Einfluss"},
     {Fensterart::druck, zeige<Form6>, "Druck"},
     {Fensterart::ergebnisse, zeige<Form23>, "Ergebnisse"},
     {Fensterart::ueber, zeige<Ueber>, "Über"},

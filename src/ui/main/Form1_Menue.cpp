@@ -110,6 +110,7 @@ Menue Form1::extrasmenue() {
         qtext("&Extras"),
         {{qtext("mnuAuslegen"), qtext("&Auslegen ..."), [this] { oeffneFenster(Fensterart::auslegen); },
           QKeySequence(Qt::Key_F8)},
+         {qtext("mnuEinfluss"), qtext("E&influss ..."), [this] { oeffneFenster(Fensterart::einfluss); }},
          trenner,
          {qtext("mnupocketcalc"), qtext("&Taschenrechner"), [this] { oeffneFenster(Fensterart::rechner); }},
          {qtext("mnuKalender"), qtext("&Kalender"), [this] { oeffneFenster(Fensterart::kalender); }},

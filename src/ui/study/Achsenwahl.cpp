@@ -123,7 +123,8 @@ QWidget* Achsenwahl::baueReihe() {
         v.maske = qtext(feld.angabe.maske);
         auto* neu = new Werteingabe(qtext(name_) + QString::fromUtf8(zusatz), v, reihe);
         neu->setzeWert(wert);
-        neu->setMinimumWidth(52);
+        neu->setMinimumWidth(48);
+        neu->setMaximumWidth(64);
         neu->setzeInZeile(grid, 0, spalte);
         connect(neu, &Werteingabe::geaendert, this, &Achsenwahl::zeigeAnzahl);
         spalte += 3;

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "ui/basics/Programm.h"
 #include "ui/verdict/Sofortrechnung.h"
@@ -24,7 +25,7 @@ class Balkenzelle : public QStyledItemDelegate {
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         QSize groesse = QStyledItemDelegate::sizeHint(option, index);
         groesse.setHeight(option.fontMetrics.height() + rand);
-        if (index.data(Eta).isValid()) groesse.rwidth() = 90 + textbreite(option) + 3 * rand;
+        if (index.data(Eta).isValid()) groesse.rwidth() = 60 + textbreite(option) + 3 * rand;
         return groesse;
     }
 
@@ -105,10 +106,14 @@ void Studientabelle::fuegeZeileAn(const QList<Studienzelle>& zellen, int nummer,
 }
 
 void Studientabelle::schliesseAb() {
+    constexpr int hoechstens = 240;  // px; what is longer stands in its tip
     header()->setStretchLastSection(false);
-    for (int spalte = 0; spalte < columnCount(); ++spalte)
-        header()->setSectionResizeMode(
-            spalte, spalte == breit_ ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    for (int spalte = 0; spalte < columnCount(); ++spalte) {
+        header()->setSectionResizeMode(spalte,
+                                       spalte == breit_ ? QHeaderView::Stretch : QHeaderView::Interactive);
+        const int bedarf = std::max(sizeHintForColumn(spalte), header()->sectionSizeHint(spalte));
+        if (spalte != breit_) header()->resizeSection(spalte, std::min(bedarf, hoechstens));
+    }
     QTreeWidgetItem* erste = topLevelItem(0);
     for (int zeile = 0; zeile < topLevelItemCount(); ++zeile)
         if (topLevelItem(zeile)->data(0, Nummer).toInt() >= 0) {

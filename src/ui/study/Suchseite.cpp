@@ -4,18 +4,13 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <utility>
 
 #include "basis/Zahlenformat.h"
@@ -24,6 +19,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
 #include "ui/study/Achsenwahl.h"
+#include "ui/study/Laufleiste.h"
 #include "ui/study/Wandauswahl.h"
 
 namespace rippenscheibe {
@@ -45,28 +41,6 @@ constexpr std::array<Zielworte, 3> zielworte{{
 const Zielworte& worte(Auslegungsziel ziel) { return zielworte[static_cast<std::size_t>(ziel)]; }
 
 QString zahl(const char* maske, double wert) { return qtext(formatiere(maske, wert, dezimalzeichen())); }
-
-QString ganzzahl(std::size_t wert) { return QLocale().toString(static_cast<qulonglong>(wert)); }
-
-// Seconds for reading: "unter 1 s", "12 s", "3 min", "2 h".
-QString zeittext(double sekunden) {
-    if (sekunden < 1) return QStringLiteral("unter 1 s");
-    if (sekunden < 100) return zahl("0", sekunden) + QStringLiteral(" s");
-    if (sekunden < 6000) return zahl("0", sekunden / 60) + QStringLiteral(" min");
-    return zahl("0", sekunden / 3600) + QStringLiteral(" h");
-}
-
-// Seconds that it takes to judge the wall.
-double messe(const Wand& w) {
-    constexpr int mal = 20;
-    Pruefstand stand(w, w.eigeneMaterialien);
-    const auto beginn = std::chrono::steady_clock::now();
-    for (int i = 0; i < mal; ++i) {
-        stand.beginne();
-        stand.bewerte();
-    }
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - beginn).count() / mal;
-}
 
 QCheckBox* haken(const char* name, const char* text, const char* hinweis, bool an) {
     auto* neu = new QCheckBox(QString::fromUtf8(text));
@@ -97,28 +71,30 @@ QString befundtext(const Auslegungsauftrag& a, const Auslegungsergebnis& e) {
     QString text;
     if (!e.vollstaendig)
         text = QStringLiteral("Angehalten nach %1 von %2 Kandidaten, bis dahin bewiesen. ")
-                   .arg(ganzzahl(e.geprueft), ganzzahl(e.kandidaten));
+                   .arg(ganzzahltext(e.geprueft), ganzzahltext(e.kandidaten));
     if (e.entwuerfe.empty() && !e.vollstaendig) return text + QStringLiteral("Noch besteht keine.");
     if (e.entwuerfe.empty()) {
-        text += QStringLiteral("Keine der %1 Wände besteht: %2.").arg(ganzzahl(e.kandidaten), gruende);
+        text += QStringLiteral("Keine der %1 Wände besteht: %2.").arg(ganzzahltext(e.kandidaten), gruende);
         if (!e.knappVerfehlt.empty()) text += QStringLiteral(" Am nächsten kommen:");
         return text;
     }
     if (raus == 0) return text + QStringLiteral("Schon die erste in der Reihenfolge besteht.");
     return text + QStringLiteral("%1 %2 scheiden aus: %3.")
-                      .arg(ganzzahl(raus), QString::fromUtf8(worte(a.ziel).kleinere), gruende);
+                      .arg(ganzzahltext(raus), QString::fromUtf8(worte(a.ziel).kleinere), gruende);
 }
 
 }  // namespace
 
 Suchseite::Suchseite(Programm& programm, QWidget* parent)
-    : QWidget(parent), programm_(programm), jeKandidat_(messe(studienwand(programm))) {
+    : QWidget(parent), programm_(programm), jeKandidat_(sekundenJeWand(studienwand(programm))) {
     auto* links = new QWidget;
     auto* spalte = new QVBoxLayout(links);
     spalte->setContentsMargins(0, 0, 0, 0);
     spalte->setSpacing(Fenster::raster);
     spalte->addWidget(baueWahl(), 1);
-    spalte->addWidget(baueLauf());
+    lauf_ = new Laufleiste(hintergrund_, QStringLiteral("Suchen"), QStringLiteral("&Suchen"),
+                           QStringLiteral("Die Wände werden geordnet."));
+    spalte->addWidget(lauf_);
     auto* teiler = new QSplitter(Qt::Horizontal, this);
     teiler->setObjectName(QStringLiteral("TeilerSuche"));
     teiler->setChildrenCollapsible(false);
@@ -130,17 +106,11 @@ Suchseite::Suchseite(Programm& programm, QWidget* parent)
     auto* aussen = new QVBoxLayout(this);
     aussen->addWidget(teiler);
 
-    connect(&hintergrund_, &Hintergrund::begonnen, this, [this] { zeigeLauf(true); });
-    connect(&hintergrund_, &Hintergrund::fortschritt, this, &Suchseite::zeigeFortschritt);
-    connect(&hintergrund_, &Hintergrund::beendet, this, [this](const QString& fehler) {
-        zeigeLauf(false);
-        if (!fehler.isEmpty()) befund_->setText(QStringLiteral("! ") + fehler);
-    });
+    connect(lauf_, &Laufleiste::starte, this, &Suchseite::starte);
     connect(&programm_, &Programm::geaendert, this, [this] {
-        if (!befund_->text().isEmpty()) stand_->setText(QStringLiteral("Die Wand ist seither geändert."));
+        if (!befund_->text().isEmpty()) lauf_->setzeStand(QStringLiteral("Die Wand ist seither geändert."));
     });
     zeigeUmfang();
-    zeigeLauf(false);
 }
 
 Zuweisungen Suchseite::gewaehlt() const { return entwuerfe_->gewaehlt(); }
@@ -223,42 +193,6 @@ QWidget* Suchseite::baueBedingungen() {
     return rahmen;
 }
 
-QWidget* Suchseite::baueLauf() {
-    auto* lauf = new QWidget;
-    auto* spalte = new QVBoxLayout(lauf);
-    spalte->setContentsMargins(0, 0, 0, 0);
-    spalte->setSpacing(Fenster::raster);
-    umfang_ = new QLabel(lauf);
-    umfang_->setObjectName(QStringLiteral("Umfang"));
-    suchen_ = new QPushButton(QStringLiteral("&Suchen"), lauf);
-    suchen_->setObjectName(QStringLiteral("Suchen"));
-    suchen_->setAccessibleName(QStringLiteral("Suchen"));
-    suchen_->setToolTip(QStringLiteral("Sucht die ersten Wände in der Reihenfolge des Ziels, die bestehen"));
-    anhalten_ = new QPushButton(QStringLiteral("An&halten"), lauf);
-    anhalten_->setObjectName(QStringLiteral("Anhalten"));
-    anhalten_->setAccessibleName(QStringLiteral("Anhalten"));
-    anhalten_->setToolTip(QStringLiteral("Beendet die Suche; was bis dahin gefunden ist, bleibt"));
-    for (QPushButton* knopf : {suchen_, anhalten_}) knopf->setAutoDefault(false);
-    balken_ = new QProgressBar(lauf);
-    balken_->setObjectName(QStringLiteral("Fortschritt"));
-    balken_->setAccessibleName(QStringLiteral("Fortschritt der Suche"));
-    balken_->setTextVisible(false);
-    stand_ = new QLabel(lauf);
-    stand_->setObjectName(QStringLiteral("Stand"));
-    stand_->setForegroundRole(QPalette::PlaceholderText);
-    auto* knoepfe = new QHBoxLayout;
-    knoepfe->setSpacing(Fenster::raster);
-    knoepfe->addWidget(suchen_);
-    knoepfe->addWidget(anhalten_);
-    knoepfe->addWidget(balken_, 1);
-    spalte->addWidget(umfang_);
-    spalte->addLayout(knoepfe);
-    spalte->addWidget(stand_);
-    connect(suchen_, &QPushButton::clicked, this, &Suchseite::starte);
-    connect(anhalten_, &QPushButton::clicked, this, [this] { hintergrund_.halte(); });
-    return lauf;
-}
-
 QWidget* Suchseite::baueErgebnis() {
     auto* ergebnis = new QWidget;
     auto* spalte = new QVBoxLayout(ergebnis);
@@ -305,17 +239,12 @@ std::variant<Auslegungsauftrag, QString> Suchseite::auftrag() const {
 }
 
 void Suchseite::zeigeUmfang() {
-    if (suchen_ == nullptr) return;
+    if (lauf_ == nullptr) return;
     const auto wunsch = auftrag();
-    if (const auto* satz = std::get_if<QString>(&wunsch)) {
-        umfang_->setText(QStringLiteral("! ") + *satz);
-    } else {
-        const std::size_t anzahl = std::get<0>(wunsch).raster.anzahl();
-        umfang_->setText(
-            QStringLiteral("%1 Kandidaten · höchstens %2")
-                .arg(ganzzahl(anzahl), zeittext(static_cast<double>(anzahl) * jeKandidat_ / kernzahl())));
-    }
-    suchen_->setEnabled(std::holds_alternative<Auslegungsauftrag>(wunsch) && !hintergrund_.laeuft());
+    if (const auto* satz = std::get_if<QString>(&wunsch)) return lauf_->setzeUmfang(*satz, false);
+    const std::size_t anzahl = std::get<0>(wunsch).raster.anzahl();
+    const double dauer = static_cast<double>(anzahl) * jeKandidat_ / kernzahl();
+    lauf_->setzeUmfang(QStringLiteral("%1 Kandidaten · %2").arg(ganzzahltext(anzahl), zeittext(dauer)), true);
 }
 
 // ---- The search ----
@@ -341,29 +270,6 @@ void Suchseite::starte() {
             return Fund{gesucht, legeAus(gesucht, ausfuehrung), heute, bewertet};
         },
         [this](const Fund& fund) { zeige(fund); });
-}
-
-void Suchseite::zeigeLauf(bool laeuft) {
-    anhalten_->setEnabled(laeuft);
-    suchen_->setEnabled(!laeuft);
-    balken_->setRange(0, laeuft ? 0 : 1);
-    balken_->setValue(0);
-    if (laeuft) {
-        stand_->setText(QStringLiteral("Die Wände werden geordnet."));
-        anhalten_->setFocus();
-    } else {
-        zeigeUmfang();
-    }
-}
-
-void Suchseite::zeigeFortschritt(const Fortschritt& stand) {
-    if (stand.gesamt == 0) return;
-    constexpr int teile = 1000;
-    balken_->setRange(0, teile);
-    balken_->setValue(
-        static_cast<int>(static_cast<double>(stand.geprueft) / static_cast<double>(stand.gesamt) * teile));
-    stand_->setText(QStringLiteral("geprüft %1 von %2 · gefunden %3")
-                        .arg(ganzzahl(stand.geprueft), ganzzahl(stand.gesamt), ganzzahl(stand.gefunden)));
 }
 
 // ---- What was found ----

@@ -12,13 +12,12 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
-class QProgressBar;
-class QPushButton;
 class QSpinBox;
 
 namespace rippenscheibe {
 
 class Achsenwahl;
+class Laufleiste;
 class Programm;
 class Wandauswahl;
 class Werteingabe;
@@ -48,13 +47,10 @@ class Suchseite : public QWidget {
 
     QWidget* baueWahl();
     QWidget* baueBedingungen();
-    QWidget* baueLauf();
     QWidget* baueErgebnis();
     std::variant<Auslegungsauftrag, QString> auftrag() const;
     void zeigeUmfang();
     void starte();
-    void zeigeFortschritt(const Fortschritt& stand);
-    void zeigeLauf(bool laeuft);
     void zeige(const Fund& fund);
     void zeigeEntwuerfe(const Fund& fund, const std::vector<Entwurf>& entwuerfe);
 
@@ -67,11 +63,7 @@ class Suchseite : public QWidget {
     QCheckBox* richtungen_ = nullptr;
     QCheckBox* luecken_ = nullptr;
     QCheckBox* eigengewicht_ = nullptr;
-    QLabel* umfang_ = nullptr;
-    QPushButton* suchen_ = nullptr;
-    QPushButton* anhalten_ = nullptr;
-    QProgressBar* balken_ = nullptr;
-    QLabel* stand_ = nullptr;
+    Laufleiste* lauf_ = nullptr;
     QLabel* preise_ = nullptr;
     QLabel* befund_ = nullptr;
     Wandauswahl* entwuerfe_ = nullptr;

@@ -71,9 +71,10 @@ void WasHilftSeite::zeige(const Wand& heute, const Hilfe& hilfe) {
         waende_->fuegeAn(zellen(aenderungstext(heute, schritt.setzt), schritt.bewertung), schritt.setzt);
         if (hilft(schritt.bewertung, hilfe.heute)) ++helfende;
     }
-    stand_->setText(QStringLiteral("%1 nächste Schritte, jeder für sich gerechnet; %2 davon helfen.")
+    stand_->setText(QStringLiteral("%1 nächste Schritte, jeder für sich gerechnet; %2.")
                         .arg(hilfe.schritte.size())
-                        .arg(helfende));
+                        .arg(helfende == 1 ? QStringLiteral("1 davon hilft")
+                                           : QStringLiteral("%1 davon helfen").arg(helfende)));
     waende_->schliesseAb();
 }
 
