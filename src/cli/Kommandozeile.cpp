@@ -48,7 +48,7 @@ std::string aufzaehlung(const std::array<Wort<T>, N>& woerter) {
 
 [[noreturn]] void weiseZurueck(const std::string& option, const std::string& wert,
                                const std::string& erlaubt) {
-    throw CLI::ValidationError(option, "\"" + wert + "\" geht nicht, möglich: " + erlaubt);
+    throw CLI::ValidationError(option, nichtZulaessig(wert, erlaubt));
 }
 
 template <class T, std::size_t N>
@@ -134,6 +134,13 @@ std::string vorschlag(const std::string& wort, const CLI::App& app) {
     return bester.empty() ? bester : " Meinten Sie " + bester + "?";
 }
 
+// "Die Option -o DATEI fehlt."; what stands without an option is called by its name.
+std::string fehlt(const std::string& option, const CLI::App& befehl) {
+    if (!option.starts_with("-")) return "Es fehlt eine Angabe: " + option + ".";
+    const std::string wert = befehl.get_option(option)->get_option_text();
+    return "Die Option " + option + " " + wert.substr(0, wert.find(' ')) + " fehlt.";
+}
+
 // What CLI11 complains about, in German. Its texts begin with the name of the option.
 std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app,
                        std::span<const std::string> angaben) {
@@ -142,7 +149,7 @@ std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app,
     std::string unbekannt;
     for (const std::string& angabe : app.remaining(true)) unbekannt += " " + angabe;
     if (dynamic_cast<const CLI::RequiredError*>(&fehler) != nullptr) {
-        if (!app.get_subcommands().empty()) return "Es fehlt eine Angabe: " + option + ".";
+        if (!app.get_subcommands().empty()) return fehlt(option, *app.get_subcommands().front());
         if (unbekannt.empty()) return "Es fehlt ein Befehl.";
         const std::string wort = app.remaining(true).front();
         const std::string meinung = vorschlag(wort, app);
@@ -153,7 +160,8 @@ std::string aufDeutsch(const CLI::ParseError& fehler, const CLI::App& app,
             return angabe == option || angabe.starts_with(option + "=");
         });
         const bool datei = !option.starts_with("-");  // stands without its name
-        return genannt > 1 || datei ? option + " darf nur einmal stehen." : option + " fehlt der Wert.";
+        return genannt > 1 || datei ? option + " darf nur einmal stehen."
+                                    : "Nach " + option + " fehlt der Wert.";
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&fehler) != nullptr) return "Unbekannte Angabe:" + unbekannt;
     return text;
@@ -323,6 +331,12 @@ std::variant<Auftrag, Auskunft> Befehlszeile::lies(std::span<const std::string> 
 }
 
 }  // namespace
+
+std::string nichtZulaessig(const std::string& wert, const std::string& erlaubt) {
+    std::string liste;
+    for (const char zeichen : erlaubt) liste += zeichen == '|' ? std::string(", ") : std::string(1, zeichen);
+    return "„" + wert + "“ ist nicht zulässig; erlaubt: " + liste;
+}
 
 std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> angaben) {
     return Befehlszeile().lies(angaben);

@@ -57,6 +57,9 @@ struct Auskunft {
     Rueckgabe rueckgabe = Rueckgabe::erfuellt;
 };
 
+// "„xml“ ist nicht zulässig; erlaubt: text, rtf, json" of "text|rtf|json".
+std::string nichtZulaessig(const std::string& wert, const std::string& erlaubt);
+
 // `angaben` are the arguments without the program's name.
 std::variant<Auftrag, Auskunft> liesKommandozeile(std::span<const std::string> angaben);
 

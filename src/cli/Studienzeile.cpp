@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/Befehle.h"
+#include "cli/Kommandozeile.h"
 #include "cli/Studie.h"
 #include "files/Pfad.h"
 
@@ -31,7 +32,7 @@ void fuegeWahlHinzu(CLI::App& befehl, const std::string& option, const std::arra
                 const auto treffer = std::find_if(woerter.begin(), woerter.end(),
                                                   [&](const Wort<T>& w) { return w.wort == wert; });
                 if (treffer == woerter.end())
-                    throw CLI::ValidationError(option, "\"" + wert + "\" geht nicht, möglich: " + erlaubt);
+                    throw CLI::ValidationError(option, nichtZulaessig(wert, erlaubt));
                 ziel = treffer->wert;
             },
             erklaerung)
@@ -50,7 +51,7 @@ void fuegeZahlHinzu(CLI::App& befehl, const std::string& option, T mindestens, c
                 const char* const ende = wert.data() + wert.size();
                 const auto [stelle, fehler] = std::from_chars(wert.data(), ende, zahl);
                 if (fehler != std::errc{} || stelle != ende || !(zahl >= mindestens))
-                    throw CLI::ValidationError(option, "\"" + wert + "\" geht nicht, möglich: " + erlaubt);
+                    throw CLI::ValidationError(option, nichtZulaessig(wert, erlaubt));
                 setze(zahl);
             },
             erklaerung)
@@ -226,12 +227,12 @@ void fuegeListenverbenHinzu(const Studienverben& verben, Studienauftrag& auftrag
         verben.befehl("lastfaelle", "schlägt Lastfälle einer Wand vor: lastfaelle neu DATEI",
                       static_cast<int>(Befehl::lastfaelle));
     lastfaelle
-        .add_option_function<std::string>(
-            "neu",
-            [](const std::string& wort) {
-                if (wort != "neu")
-                    throw CLI::ValidationError("lastfaelle", "\"" + wort + "\" geht nicht, möglich: neu");
-            })
+        .add_option_function<std::string>("neu",
+                                          [](const std::string& wort) {
+                                              if (wort != "neu")
+                                                  throw CLI::ValidationError("lastfaelle",
+                                                                             nichtZulaessig(wort, "neu"));
+                                          })
         ->required()
         ->option_text(" ");
     verben.dateien(lastfaelle, false);

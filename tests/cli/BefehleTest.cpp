@@ -60,14 +60,17 @@ TEST_F(Befehle, AWrongCallIsToldInGermanWithCode64) {
         {{"a.rsw"}, "Unbekannter Befehl: a.rsw. Meinten Sie rechne a.rsw?"},
         {{"rechne"}, "Es fehlt eine Angabe: DATEI."},
         {{"rechne", "a.rsw", "--wild"}, "Unbekannte Angabe: --wild"},
-        {{"rechne", "a.rsw", "--form"}, "--form fehlt der Wert."},
-        {{"rechne", "a.rsw", "--form", "breit"}, "--form: \"breit\" geht nicht, möglich: ansicht|lang|kurz"},
+        {{"rechne", "a.rsw", "--form"}, "Nach --form fehlt der Wert."},
+        {{"rechne", "a.rsw", "--form", "breit"},
+         "--form: „breit“ ist nicht zulässig; erlaubt: ansicht, lang, kurz"},
         {{"rechne", "a.rsw", "--form", "lang", "--form", "kurz"}, "--form darf nur einmal stehen."},
-        {{"rechne", "a.rsw", "--laeufe", "0"}, "--laeufe: \"0\" geht nicht, möglich: eine ganze Zahl ab 1"},
-        {{"rechne", "a.rsw", "--laeufe", "2x"}, "--laeufe: \"2x\" geht nicht, möglich: eine ganze Zahl ab 1"},
-        {{"uebertrage", "a.rsw"}, "Es fehlt eine Angabe: -o."},
+        {{"rechne", "a.rsw", "--laeufe", "0"},
+         "--laeufe: „0“ ist nicht zulässig; erlaubt: eine ganze Zahl ab 1"},
+        {{"rechne", "a.rsw", "--laeufe", "2x"},
+         "--laeufe: „2x“ ist nicht zulässig; erlaubt: eine ganze Zahl ab 1"},
+        {{"uebertrage", "a.rsw"}, "Die Option -o DATEI fehlt."},
         {{"uebertrage", "a.rsw", "b.rsw", "-o", "c.rsw"}, "DATEI darf nur einmal stehen."},
-        {{"felder", "--ausgabe", "rtf"}, "--ausgabe: \"rtf\" geht nicht, möglich: text|json"},
+        {{"felder", "--ausgabe", "rtf"}, "--ausgabe: „rtf“ ist nicht zulässig; erlaubt: text, json"},
     };
     for (const Fall& f : faelle) {
         const Ergebnis e = tool(f.angaben);
@@ -86,6 +89,17 @@ TEST_F(Befehle, HelpIsGermanThroughout) {
              {"Usage", "Options", "REQUIRED", "TEXT", "INT", "Positionals", "Subcommands"}) {
             EXPECT_EQ(e.ausgabe.find(englisch), std::string::npos) << befehl << ": " << englisch;
         }
+    }
+}
+
+TEST_F(Befehle, ARowThatTheMaterialListLacksIsTold) {
+    std::string position = inhalt(beispiel("eigenes_material"));
+    const std::size_t letzte = position.rfind(",1,1");  // EigenesMaterial1, EigenesMaterial2
+    const std::string fehlt = ": Beplankung 1: Die Materialliste hat keine Zeile 50 (eigenes Material).\n";
+    for (const std::string befehl : {"rechne", "pruefe"}) {
+        EXPECT_EQ(tool({befehl, schreibe("a.rsw", position)}).meldungen, "");
+        const std::string andere = position.substr(0, letzte) + ",50" + position.substr(letzte + 2);
+        EXPECT_EQ(tool({befehl, schreibe("b.rsw", andere)}).meldungen.find(datei("b.rsw") + fehlt), 0U);
     }
 }
 

@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QGroupBox>
+#include <QHash>
 #include <QLocale>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
@@ -18,8 +21,10 @@
 #include "ui/main/Form0_Startbild.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
-// Takes the pictures of the handbook: opens the windows of the program over an example position by their own
-// buttons and menu entries and saves each as form<n>.png.
+// Takes the pictures of the handbook: opens the windows of the program over example positions by their own
+// buttons and menu entries and saves each as form<n>.png, lettered where its chapter speaks of parts A, B, C.
+//
+//     handbuchbilder ORDNER HAUPTPOSITION ZWEISEITIGE-POSITION
 
 using namespace rippenscheibe;
 
@@ -35,10 +40,63 @@ struct Schritt {
 
 QString bilderordner;
 
+// The parts of each window in the order of their letters: by object name, title of a group or class.
+const QHash<QString, QStringList>& buchstaben() {
+    const auto liste = [](const char* teile) { return QString::fromUtf8(teile).split(QLatin1Char('|')); };
+    static const QHash<QString, QStringList> alle{
+        {QStringLiteral("Form1"),
+         liste("Abmessungen|Eingabe|SofortUrteil|ComErgDruck|Zeichnungsansicht|List1")},
+        {QStringLiteral("Form2"), liste("Querschnitte|Check1|Material|Zeichnungsansicht")},
+        {QStringLiteral("Form4"), liste("Option1(0)|Frame1|Frame2|ComProfile|Zeichnungsansicht")},
+        {QStringLiteral("Form5"), liste("Frame1|Frame2|ComInfo2|Zeichnungsansicht")},
+        {QStringLiteral("Form7"), liste("Check1|Zuganker|Nägel und Kennwerte|Zeichnungsansicht")},
+        {QStringLiteral("Form9"),
+         liste("Beanspruchung|KLED|Charakteristische Lasten|Command2|Zeichnungsansicht")},
+        {QStringLiteral("Form12"), liste("Berechnungsverfahren|Tragfähigkeit der Verbindungsmittel|Klammern|"
+                                         "Verteilung der Vertikallasten|Nachweis der Lagesicherheit")},
+        {QStringLiteral("Form23"), liste("Urteilsstreifen|Ausnutzungsbaum|Rbox1|Herleitungsansicht|ComSave")},
+        {QStringLiteral("Form6"), liste("Frame1|Frame5|Vorschau|Command1")},
+        {QStringLiteral("Form8"), liste("List1|Check1|Text3|Check3")}};
+    return alle;
+}
+
+bool heisst(const QWidget& teil, const QString& name) {
+    const auto* gruppe = qobject_cast<const QGroupBox*>(&teil);
+    return teil.objectName() == name ||
+           (gruppe != nullptr && gruppe->title().remove(QLatin1Char('&')) == name) ||
+           QString::fromLatin1(teil.metaObject()->className()).endsWith(QStringLiteral("::") + name);
+}
+
+void beschrifte(QPixmap& bild, const QWidget& fenster) {
+    constexpr int durchmesser = 22;  // px
+    QPainter maler(&bild);
+    maler.setRenderHint(QPainter::Antialiasing);
+    QFont schrift = fenster.font();
+    schrift.setBold(true);
+    maler.setFont(schrift);
+    char16_t buchstabe = u'A';
+    for (const QString& name : buchstaben().value(fenster.objectName())) {
+        const QWidget* gemeint = nullptr;
+        for (const QWidget* teil : fenster.findChildren<QWidget*>())
+            if (gemeint == nullptr && teil->isVisibleTo(&fenster) && heisst(*teil, name)) gemeint = teil;
+        if (gemeint == nullptr) std::fprintf(stderr, "nothing is called %s\n", qPrintable(name));
+        QRect kreis(0, 0, durchmesser, durchmesser);
+        if (gemeint != nullptr) kreis.moveCenter(gemeint->mapTo(&fenster, gemeint->rect().topRight()));
+        kreis.moveRight(std::min(kreis.right(), fenster.width() - 1));
+        kreis.moveTop(std::max(kreis.top(), 0));
+        maler.setPen(QPen(Qt::white, 2));
+        maler.setBrush(QColor(0xC0, 0x39, 0x2B));
+        maler.drawEllipse(kreis);
+        maler.drawText(kreis, Qt::AlignCenter, QString(QChar(buchstabe++)));
+    }
+}
+
 void sichere(QWidget& fenster) {
     const QString datei =
         bilderordner + QLatin1Char('/') + fenster.objectName().toLower() + QStringLiteral(".png");
-    if (!fenster.grab().save(datei)) std::fprintf(stderr, "cannot write %s\n", qPrintable(datei));
+    QPixmap bild = fenster.grab();
+    beschrifte(bild, fenster);
+    if (!bild.save(datei)) std::fprintf(stderr, "cannot write %s\n", qPrintable(datei));
 }
 
 void warte(int dauer) {
@@ -87,11 +145,11 @@ void fotografiere(QWidget& fenster, const std::vector<Schritt>& schritte) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: handbuchbilder POSITION BILDERORDNER\n");
+    if (argc != 4) {
+        std::fprintf(stderr, "usage: handbuchbilder ORDNER HAUPTPOSITION ZWEISEITIGE-POSITION\n");
         return 64;
     }
-    bilderordner = QString::fromLocal8Bit(argv[2]);
+    bilderordner = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(bilderordner);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QTranslator deutsch;
@@ -108,25 +166,30 @@ int main(int argc, char** argv) {
 
     Form1 hauptfenster(programm, meldungen);
     hauptfenster.show();
-    hauptfenster.starte(QString::fromLocal8Bit(argv[1]));
-    programm.Positionspfad = utf8(QDir::homePath() + QStringLiteral("/Projekte/Haus am See/"));
+    hauptfenster.starte(QString::fromLocal8Bit(argv[2]));
+    programm.Positionspfad = "/home/planung/Neubau Wohnhaus Ahornweg/";
     warte(ruhe);
     sichere(hauptfenster);
-    fotografiere(hauptfenster, {{"Command5", {{"ComInfo2", {}}}},
-                                {"Command1", {{"ComProfile", {}}}},
-                                {"Command2", {{"ComInfo2", {}}}},
-                                {"Command3", {}},
-                                {"Command4", {{"Command2", {}}}},
-                                {"Command6", {}},
-                                {"ComInfo2", {}},
-                                {"mnuProjekt", {{"Command1", {}}}},
-                                {"mnuvorb", {{"Command4", {}}}},
-                                {"mnupocketcalc", {}},
-                                {"mnuKalender", {}},
-                                {"mnuSysConfig", {}},
-                                {"mnuoptions", {}},
-                                {"ComErgDruck", {}},
-                                {"ComErgEin2", {}}});
+    fotografiere(
+        hauptfenster,
+        {{"mnuProjekt", {}}, {"mnuvorb", {{"Command4", {}}}}, {"ComErgDruck", {}}, {"ComErgEin2", {}}});
     hauptfenster.hide();
+
+    Programm zweites(pfad(ordner.path()));
+    Form1 zweiseitig(zweites, meldungen);
+    zweiseitig.show();
+    zweiseitig.starte(QString::fromLocal8Bit(argv[3]));
+    warte(ruhe);
+    fotografiere(zweiseitig, {{"Command5", {{"ComInfo2", {}}}},
+                              {"Command1", {{"ComProfile", {}}}},
+                              {"Command2", {{"ComInfo2", {}}}},
+                              {"Command3", {}},
+                              {"Command4", {{"Command2", {}}}},
+                              {"Command6", {}},
+                              {"ComInfo2", {}},
+                              {"mnupocketcalc", {}},
+                              {"mnuKalender", {}},
+                              {"mnuoptions", {}}});
+    zweiseitig.hide();
     return 0;
 }

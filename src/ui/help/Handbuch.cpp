@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -19,38 +20,41 @@
 #include <array>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 namespace rippenscheibe {
 
 namespace {
 
 struct Kapitel {
-    const char* datei;
-    const char* titel;
+    QString datei;
+    QString titel;
 };
 
-constexpr std::array<Kapitel, 16> kapitelliste{{
-    {"inhalt", "Inhalt"},
-    {"grenzen", "Grenzen und Verantwortung"},
-    {"erste-schritte", "Erste Schritte"},
-    {"hauptfenster", "Hauptfenster"},
-    {"rippen", "Rippen"},
-    {"beplankung", "Beplankung"},
-    {"verbindungsmittel", "Verbindungsmittel"},
-    {"verankerung", "Verankerung"},
-    {"belastung", "Belastung"},
-    {"bemessungsparameter", "Bemessungsparameter"},
-    {"berechnung-und-bericht", "Berechnung und Bericht"},
-    {"drucken", "Drucken"},
-    {"projekte-und-bemerkungen", "Projekte und Bemerkungen"},
-    {"eigene-materialien", "Eigene Materialien"},
-    {"kommandozeile", "Kommandozeile"},
-    {"hinweise-und-fehler", "Hinweise und Fehler"},
-}};
+// The text of a chapter, as it is searched.
+QString kapiteltext(const QString& kapitel) {
+    QFile datei(QStringLiteral(":/handbuch/%1.md").arg(kapitel));
+    return datei.open(QIODevice::ReadOnly) ? QString::fromUtf8(datei.readAll()) : QString();
+}
+
+// The table of contents, and the chapters in the order in which it names them.
+const std::vector<Kapitel>& kapitelliste() {
+    static const std::vector<Kapitel> liste = [] {
+        std::vector<Kapitel> alle{{QStringLiteral("inhalt"), QStringLiteral("Inhalt")}};
+        const QRegularExpression verweis(QStringLiteral("\\[([^\\]]+)\\]\\(([a-z-]+)\\.md\\)"));
+        const QString inhalt = kapiteltext(QStringLiteral("inhalt"));
+        for (auto treffer = verweis.globalMatch(inhalt); treffer.hasNext();) {
+            const QRegularExpressionMatch eintrag = treffer.next();
+            alle.push_back({eintrag.captured(2), eintrag.captured(1)});
+        }
+        return alle;
+    }();
+    return liste;
+}
 
 // Window by object name and its chapter.
 constexpr std::array<std::pair<const char*, const char*>, 22> fensterkapitel{{
-    {"form0", "erste-schritte"},
+    {"form0", "installation"},
     {"Form1", "hauptfenster"},
     {"Form2", "rippen"},
     {"Form11", "rippen"},
@@ -61,7 +65,7 @@ constexpr std::array<std::pair<const char*, const char*>, 22> fensterkapitel{{
     {"Form9", "belastung"},
     {"Form14", "belastung"},
     {"Form12", "bemessungsparameter"},
-    {"Form23", "berechnung-und-bericht"},
+    {"Form23", "bericht"},
     {"Form6", "drucken"},
     {"Form8", "drucken"},
     {"Form255", "drucken"},
@@ -73,12 +77,6 @@ constexpr std::array<std::pair<const char*, const char*>, 22> fensterkapitel{{
     {"Form99", "eigene-materialien"},
     {"Form10", "hauptfenster"},
 }};
-
-// The text of a chapter, as it is searched.
-QString kapiteltext(const QString& kapitel) {
-    QFile datei(QStringLiteral(":/handbuch/%1.md").arg(kapitel));
-    return datei.open(QIODevice::ReadOnly) ? QString::fromUtf8(datei.readAll()) : QString();
-}
 
 QUrl ort(const QString& kapitel) { return QUrl(QStringLiteral("qrc:/handbuch/%1.md").arg(kapitel)); }
 
@@ -181,7 +179,7 @@ Handbuch::Handbuch(QWidget* parent)
 void Handbuch::baueSuche() {
     inhalt_->setObjectName(QStringLiteral("Handbuchinhalt"));
     inhalt_->setAccessibleName(QStringLiteral("Kapitel"));
-    for (const Kapitel& kapitel : kapitelliste) inhalt_->addItem(QString::fromUtf8(kapitel.titel));
+    for (const Kapitel& kapitel : kapitelliste()) inhalt_->addItem(kapitel.titel);
     const int breite = inhalt_->sizeHintForColumn(0) + 32;
     inhalt_->setMaximumWidth(breite);
 
@@ -231,13 +229,13 @@ void Handbuch::verbinde() {
     connect(naechste_, &QPushButton::clicked, this, [this] { blaettere(1); });
     connect(inhalt_, &QListWidget::currentRowChanged, this, [this](int zeile) {
         if (zeile < 0) return;
-        const QUrl ziel = ort(QLatin1String(kapitelliste[static_cast<std::size_t>(zeile)].datei));
+        const QUrl ziel = ort(kapitelliste()[static_cast<std::size_t>(zeile)].datei);
         if (seite_->source() != ziel) seite_->setSource(ziel, QTextDocument::MarkdownResource);
     });
     // The signal comes before the page knows its new source.
     connect(seite_, &QTextBrowser::sourceChanged, this, [this](const QUrl& quelle) {
-        for (std::size_t i = 0; i < kapitelliste.size(); ++i) {
-            if (quelle != ort(QLatin1String(kapitelliste[i].datei))) continue;
+        for (std::size_t i = 0; i < kapitelliste().size(); ++i) {
+            if (quelle != ort(kapitelliste()[i].datei)) continue;
             const QSignalBlocker still(inhalt_);
             inhalt_->setCurrentRow(static_cast<int>(i));
         }
@@ -251,10 +249,9 @@ void Handbuch::verbinde() {
 void Handbuch::suche(const QString& worte) {
     int kapitelzahl = 0;
     int erstes = -1;
-    for (std::size_t i = 0; i < kapitelliste.size(); ++i) {
+    for (std::size_t i = 0; i < kapitelliste().size(); ++i) {
         const bool enthalten =
-            worte.isEmpty() ||
-            kapiteltext(QLatin1String(kapitelliste[i].datei)).contains(worte, Qt::CaseInsensitive);
+            worte.isEmpty() || kapiteltext(kapitelliste()[i].datei).contains(worte, Qt::CaseInsensitive);
         inhalt_->item(static_cast<int>(i))->setHidden(!enthalten);
         if (!enthalten) continue;
         ++kapitelzahl;

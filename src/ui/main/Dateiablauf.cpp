@@ -168,7 +168,7 @@ bool Dateiablauf::darfUeberschreiben(const QString& gewaehlt) {
     const QString ziel = qtext(mitEndung(utf8(gewaehlt)));
     if (ziel == gewaehlt || !QFileInfo::exists(ziel)) return true;
     const QString frage =
-        QStringLiteral("Die Datei\n%1\nist bereits vorhanden. Soll sie überschrieben werden ?");
+        QStringLiteral("Die Datei\n%1\nist bereits vorhanden. Soll sie überschrieben werden?");
     return meldungen_.zeige(fenster_, {Symbol::frage, QStringLiteral("Datei speichern"), frage.arg(ziel),
                                        Knoepfe::jaNein}) == Antwort::ja;
 }

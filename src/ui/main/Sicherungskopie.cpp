@@ -75,7 +75,7 @@ void Sicherungskopie::stelleUeberschriebeneWiederHer(Meldungen& meldungen, QWidg
         if (jetzt.lage != Dateilage::vorhanden || jetzt.bytes != kopie.bytes)
             antwort = frageNach(meldungen, fenster,
                                 QStringLiteral("Das Schreiben der Datei\n%1\nwurde unterbrochen.\n\nSoll ihr "
-                                               "Stand davor wiederhergestellt werden ?")
+                                               "Stand davor wiederhergestellt werden?")
                                     .arg(qtext(kopie.name)));
         if (antwort == Antwort::ja) {
             if (const auto fehler = schreibeDauerhaft(pfadAus(kopie.name), kopie.bytes, programm_.ordner)) {
@@ -95,7 +95,7 @@ bool Sicherungskopie::stelleWiederHer(Meldungen& meldungen, QWidget* fenster) {
         const QString text =
             QStringLiteral(
                 "Das Programm wurde nicht ordnungsgemäß beendet.\n\nPosition: %1\nzuletzt selbsttätig "
-                "gesichert: %2\n\nSoll dieser Stand wiederhergestellt werden ?")
+                "gesichert: %2\n\nSoll dieser Stand wiederhergestellt werden?")
                 .arg(name.empty() ? QStringLiteral("<Neue Datei>") : qtext(name), zeitpunkt(platz));
         const Antwort antwort = frageNach(meldungen, fenster, text);
         if (antwort == Antwort::nein) platz.loesche();

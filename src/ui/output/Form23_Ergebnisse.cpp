@@ -242,7 +242,7 @@ void Form23::reject() {
         meldungen_.zeige(this, {Symbol::frage,
                                 QStringLiteral("Ergebnisse"),
                                 QStringLiteral("Der geänderte Text ist nicht gespeichert. Soll das Fenster "
-                                               "geschlossen werden ?"),
+                                               "geschlossen werden?"),
                                 Knoepfe::jaNein,
                                 {QStringLiteral("Schließen"), QStringLiteral("Weiter bearbeiten"), {}},
                                 Antwort::nein}) != Antwort::ja)

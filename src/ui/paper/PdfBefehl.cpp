@@ -160,10 +160,10 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
     if (const auto antwort = beantworteAufruf(befehlszeile, argumente, ausgaben)) return *antwort;
     const std::optional<Form> form = formAus(befehlszeile.value(optionForm));
     if (!form)
-        return falscherAufruf(QStringLiteral("--form: \"%1\" geht nicht, möglich: lang|kurz")
+        return falscherAufruf(QStringLiteral("--form: „%1“ ist nicht zulässig; erlaubt: lang, kurz")
                                   .arg(befehlszeile.value(optionForm)));
     if (befehlszeile.value(optionPdf).isEmpty())
-        return falscherAufruf(QStringLiteral("--pdf fehlt der Name der Datei."));
+        return falscherAufruf(QStringLiteral("Nach --pdf fehlt der Name der Datei."));
     if (befehlszeile.positionalArguments().size() != 1)
         return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei erwartet."));
     const Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),

@@ -162,7 +162,7 @@ void Form15::reject() {
     const Antwort antwort =
         meldungen_.zeige(this, {Symbol::frage,
                                 QStringLiteral("Projektdaten"),
-                                QStringLiteral("Sollen die geänderten Projektdaten übernommen werden ?"),
+                                QStringLiteral("Sollen die geänderten Projektdaten übernommen werden?"),
                                 Knoepfe::jaNeinAbbrechen,
                                 {QStringLiteral("Übernehmen"), QStringLiteral("Verwerfen"), {}},
                                 {}});

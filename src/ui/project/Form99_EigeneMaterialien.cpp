@@ -342,7 +342,7 @@ void Form99::reject() {
             this, {Symbol::frage,
                    QStringLiteral("Eigene Materialien"),
                    QStringLiteral(
-                       "Das Material in Bearbeitung ist noch nicht übernommen. Soll es verworfen werden ?"),
+                       "Das Material in Bearbeitung ist noch nicht übernommen. Soll es verworfen werden?"),
                    Knoepfe::jaNein,
                    {QStringLiteral("Verwerfen"), QStringLiteral("Weiter bearbeiten"), {}},
                    Antwort::nein});

@@ -177,7 +177,7 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
         {"other form",
          {option, ziel, QStringLiteral("--form"), QStringLiteral("ansicht"), rsw("windsog")},
          Rueckgabe::aufruf,
-         "\"ansicht\" geht nicht, möglich: lang|kurz"},
+         "„ansicht“ ist nicht zulässig; erlaubt: lang, kurz"},
         {"unknown option", {option, ziel, QStringLiteral("--x"), rsw("windsog")}, Rueckgabe::aufruf, "Hilfe"},
     };
     for (const Fall& fall : faelle) {
