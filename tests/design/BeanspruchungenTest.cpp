@@ -140,6 +140,20 @@ TEST(Beanspruchungen, DistributedExactlyCompoundFromPassToPass) {
     EXPECT_NEAR(w.sv90d.value(), (10 + 3 * 2 / 1.25) * anteil * (1 - anteil), eps);
 }
 
+TEST(Beanspruchungen, DistributedExactlyTheFastenersOfTheWeakerSideCountWithEightyPercent) {
+    for (const Seite schwach : beideSeiten) {
+        Wand w = wand();
+        w.VertikallastVerteilung = 2;
+        for (const Seite n : beideSeiten) w.fcd[n] = 10;
+        w.Rd[gegenueber(schwach)] = 300;
+        w.Rd[schwach] = 240;
+        w.gd = 10;
+        beanspruchungen(w);
+        EXPECT_NEAR(w.fv90d.value(), 5 + 0.8 * 4, eps);
+        EXPECT_NEAR(w.RdBeplankung.value(), w.nVM[S1].value() * (300 + 0.8 * 240), 1e-6);
+    }
+}
+
 TEST(Beanspruchungen, OfMoreThan200RibsLeaveTheScalarsAndTouchNoMemoryOutside) {
     Wand w = wand();
     w.Wandlaenge = 100;

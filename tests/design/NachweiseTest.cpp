@@ -145,6 +145,9 @@ TEST(Kippbeiwerte, HoldARibByThickSheathingOrByTheOtherBeingSlender) {
     // lambdaM = sqrt(1000*2.5*160 / (1600 pi)) * sqrt(24 / sqrt(7000*460)) = 8.92062 * 0.115650 = 1.03167
     EXPECT_NEAR(w.lambdaMRandrippe.value(), 1.03167, 1e-5);
     EXPECT_NEAR(w.kmRandrippe.value(), 1.56 - 0.75 * w.lambdaMRandrippe.value(), eps);
+    w.bRandrippe = 30;  // lambdaM = 1.03167 * 40 / 30 = 1.37556, just below 1.4
+    kippbeiwerte(w);
+    EXPECT_NEAR(w.kmRandrippe.value(), 1.56 - 0.75 * 1.37556, 1e-5);
     w.bRandrippe = 25;
     kippbeiwerte(w);
     EXPECT_NEAR(w.kmRandrippe.value(), std::pow(w.lambdaMRandrippe.value(), -2), eps);

@@ -84,6 +84,27 @@ TEST(Verformung, OfTwoSidesIsTheLargerAndStaplesOfSideTwoNeedStaplesOnSideOne) {
     EXPECT_GT(w.uVMGebrauch.value(), 0);
 }
 
+TEST(Verformung, SlipModulusFollowsSheathingPredrillingAndRows) {
+    const double genagelt = std::pow(350.0 * 550, 0.75) * std::pow(2.7, 0.8) / 25;
+    struct Fall {
+        int material;
+        bool vorgebohrt, zweireihig;
+        double kser;
+    };
+    for (const Fall& fall : {Fall{2, false, true, 2 * genagelt},
+                             {3, false, false, 0.6 * genagelt},
+                             {6, false, true, 1.2 * genagelt},
+                             {7, false, true, 1090},
+                             {8, true, false, std::pow(350.0 * 550, 0.75) * 2.7 / 20}}) {
+        Wand w = wand();
+        w.Material[S1] = fall.material;
+        w.Vorgebohrt[S1] = fall.vorgebohrt;
+        w.Zweireihig[S1] = fall.zweireihig;
+        nachweisVerformung(w);
+        EXPECT_NEAR(w.kser[S1].value(), fall.kser, eps) << fall.material;
+    }
+}
+
 TEST(Verformung, WithoutAnchorsKeepsTheTotalOfBefore) {
     Wand w = wand();
     nachweisVerformung(w);

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -94,6 +95,36 @@ TEST_F(Programmdateien, SettingsOfAnOlderShorterFileHaveNoSuffixAndNoBlatt) {
     EXPECT_EQ(e.Kopf1Schrift, "c");
     EXPECT_EQ(e.Kopf2Schrift, "Arial");
     EXPECT_TRUE(e.SystembildStandard);
+}
+
+TEST_F(Programmdateien, EachSwitchOfTheSettingsHasItsPlaceInTheFile) {
+    using Schalter = bool Einstellungen::*;
+    using E = Einstellungen;
+    for (const auto& [schalter, zeile, feld] :
+         std::vector<std::tuple<Schalter, int, int>>{{&E::Kopf1Unterstrichen, 1, 3},
+                                                     {&E::Kopf2Unterstrichen, 1, 4},
+                                                     {&E::Kopf1Fett, 2, 2},
+                                                     {&E::Kopf2Fett, 2, 3},
+                                                     {&E::Kopf1Kursiv, 2, 4},
+                                                     {&E::Kopf2Kursiv, 2, 5},
+                                                     {&E::LogoDrucken, 2, 6},
+                                                     {&E::FusszeileDrucken, 2, 7},
+                                                     {&E::SeitenzahlStandard, 3, 0},
+                                                     {&E::SystembildStandard, 3, 1},
+                                                     {&E::SchnittkraftStandard, 3, 2},
+                                                     {&E::ProgrammnameDrucken, 3, 3},
+                                                     {&E::BlattStattSeite, 3, 4}}) {
+        std::string text = einstellungsbeispiel;
+        std::size_t stelle = 0;
+        for (int i = 0; i < zeile; ++i) stelle = text.find("\r\n", stelle) + 2;
+        for (int i = 0; i < feld; ++i) stelle = text.find(',', stelle) + 1;
+        Einstellungen e;
+        for (const bool an : {true, false}) {
+            text.replace(stelle, text.find('#', stelle + 1) + 1 - stelle, an ? "#TRUE#" : "#FALSE#");
+            liesEinstellungstext(text, e);
+            EXPECT_EQ(e.*schalter, an) << zeile << "." << feld;
+        }
+    }
 }
 
 TEST_F(Programmdateien, AProjectListHasAtLeastOneEntry) {

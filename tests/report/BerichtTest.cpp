@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <set>
 
@@ -223,6 +224,24 @@ TEST(Bericht, ProofLinesCarryTheirUtilisationAndVerdict) {
     EXPECT_TRUE(alle[1].erfuellt);
     EXPECT_TRUE(std::isinf(alle.back().eta)) << "no resistance at all";
     EXPECT_FALSE(alle.back().erfuellt);
+}
+
+// The limit of its page-break test, mm, behind each heading that has one.
+TEST(Bericht, HeadingsKeepTheirPageLimits) {
+    std::string grenzen;
+    Wand w = wand();
+    w.NachweisVerankerung = true;
+    for (const Zeile& zeile : bericht(w, lang)) {
+        const auto* text = std::get_if<Textzeile>(&zeile);
+        if (text == nullptr || !istUeberschrift(text->stil) || !text->grenze) continue;
+        const std::string& titel = text->text.value();
+        grenzen += titel.substr(0, titel.find(' ')) + " " + std::to_string(std::lround(*text->grenze)) + "; ";
+    }
+    EXPECT_EQ(
+        grenzen,
+        "1.3.1 245; 1.3.2 245; 1.4 195; 1.4.2 200; 2. 200; 3. 230; 3.2 205; Beplankung 230; 3.3 180; 4. 230; "
+        "4.3 250; 4.4 250; 4.5 250; 5. 245; 5.2 250; 5.3 250; 5.4 250; 5.5 250; 5.6 250; 5.7 250; 5.8 170; "
+        "6. 250; 7. 145; ");
 }
 
 }  // namespace
