@@ -32,7 +32,7 @@ void seiteParallel(Wand& w, Seite n) {
     w.fv0dn[n] = Min(w.fv0dTerm1[n], w.fv0dTerm2[n], w.fv0dTerm3[n]);
     if (mindertUmEinSechstel(w, n))
         for (Feld* feld : {&w.fv0dn[n], &w.fv0dTerm1[n], &w.fv0dTerm2[n], &w.fv0dTerm3[n]})
-            *feld *= 5.0 / 6.0;
+            *feld *= Zahl(5) / 6;
 }
 
 // No reduction of jointed sheathing in this direction.

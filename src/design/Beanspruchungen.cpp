@@ -27,13 +27,15 @@ void rippentragfaehigkeit(Wand& w) {
         const bool innen = ort == Rippenlage::innen;
         const Zahl km = innen ? w.kmInnenrippe : w.kmRandrippe;
         // Meant: the modulus about the weak axis, although the stability proof uses the strong one.
+        soVorgegeben("die Verteilung nimmt das Widerstandsmoment der schwachen Achse");
         const Zahl Wz = innen ? w.WzInnenrippe : w.WzRandrippe;
         const Zahl A = innen ? w.AInnenrippe : w.ARandrippe;
         term1 = (1 - 1000 * w.Myd(i) / (km * w.fmd * Wz)) * w.kc * w.fc0d * A * 100;
         // Meant: the left edge rib has no contact area here, so that its term is 0.
+        if (ort == Rippenlage::links)
+            soVorgegeben("die linke Randrippe hat keine Aufstandsfläche: ihr Querdruckterm ist 0");
         const Zahl Aef = ort == Rippenlage::links ? Zahl(0) : innen ? w.AefInnenrippe : w.AefRechts;
         term2 = w.kc90 * Aef * w.fc90d * 1.2 * 100;
-        soVorgegeben("die Verteilung nimmt das Widerstandsmoment der schwachen Achse");
         w.RdRippe(i) = Min(term2, term1);
         w.RdRippenSumme(i) = w.RdRippenSumme(i - 1) + w.RdRippe(i);
     });
@@ -66,11 +68,14 @@ Zahl plattentragfaehigkeit(const Wand& w) {
         {0.8 * T1 + T2 == f && beide, 0.8 * w.nVM[S1] * w.Rd[S1] + VM2},
         {f1 + 0.8 * f2 == f && T1 != f1 && T2 == f2 && beide, L * f1 + w.nVM[S2] * 0.8 * w.Rd[S2]},
         {0.8 * f1 + f2 == f && T1 != f1 && T2 == f2 && beide, 0.8 * L * f1 + VM2},
-        // Meant: in the next two the factor 0.8 stands with the side as it is told here.
+        // In these two the factor 0.8 stands with the side as it is told here.
         {f1 + 0.8 * f2 == f && T1 == f1 && T2 != f2 && beide, 0.8 * L * f2 + VM1},
         {0.8 * f1 + f2 == f && T1 == f1 && T2 != f2 && beide, L * f2 + 0.8 * w.nVM[S1] * w.Rd[S1]},
     }};
     const auto* treffer = std::find_if(faelle.begin(), faelle.end(), [](const auto& x) { return x.gilt; });
+    // Meant: the two last cases, with the factor 0.8 where it stands.
+    if (treffer != faelle.end() && treffer - faelle.begin() >= 6)
+        soVorgegeben("der Beiwert 0,8 steht bei der Seite, deren Platte oder Verbindungsmittel hier zählen");
     return treffer != faelle.end() ? treffer->Rd : L * f;
 }
 
@@ -143,6 +148,8 @@ void zugInRippe(Wand& w, int i) {
         w.FcdVeraenderlich(i) = 0;
         w.FcdSchwelle(i) = 0;
     } else {
+        if (zugkante && summe != 0)
+            soVorgegeben("Druck aus Vertikallasten mindert den Zug der Zugkante nicht");
         w.Ftd(i) = kante;
     }
 }

@@ -31,6 +31,8 @@ void widerstand(Wand& w, const Ausziehart& art) {
     if (einbindung == Einbindung::grenze) return;
     const Dickenband band = dickenband(w, S1);
     if (band == Dickenband::unter12) {
+        // Meant: screws with approval leave f1k1 as it was.
+        if (art.f1kErstAb12) soVorgegeben("unter 12 mm Plattendicke bleibt f1,k, wie es war");
         w.Rxk[S1] = RxkDuennePlatte;
         return;
     }
@@ -40,7 +42,7 @@ void widerstand(Wand& w, const Ausziehart& art) {
 }
 
 // f1k and f2k of a fastener by its class; failed when there is no such class.
-Zahl f1kNachKlasse(const Wand& w, double Tragfaehigkeitsklasse::*c) {
+Zahl f1kNachKlasse(const Wand& w, Tabellenwert Tragfaehigkeitsklasse::*c) {
     const Tragfaehigkeitsklasse* klasse = tragfaehigkeitsklasse(w, S1);
     return klasse != nullptr ? ausziehparameter(klasse->*c, w.rhok) : Zahl::fehlgeschlagen();
 }
@@ -86,7 +88,6 @@ void widerstandSchrauben(Wand& w) {
 
 void widerstandSchraubenMitZulassung(Wand& w) {
     setzeEinbindelaenge(w, S1);
-    // Meant: thinner sheathing leaves f1k1 as it was.
     widerstand(w, {.mindestens = mindesteinbindungSchraube,
                    .f1k = f1kNachKlasse(w, &Tragfaehigkeitsklasse::schrauben),
                    .f2kUeber20 = f2kNachKlasse(w),

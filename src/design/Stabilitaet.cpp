@@ -7,7 +7,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double pi = 3.14159265358979;
+constexpr Konstante pi{"π", 3.14159265358979};
 
 bool randrippe(const Wand& w, int i) { return lage(w, i) != Rippenlage::innen; }
 
@@ -51,6 +51,8 @@ void kippbeiwerte(Wand& w) {
     // Meant: with one side sheathed and neither rib slender both are computed.
     const bool nurInnenSchlank = w.Einseitig && !randSchlank && innenSchlank;
     const bool nurRandSchlank = w.Einseitig && randSchlank && !innenSchlank;
+    if (w.Einseitig && !randSchlank && !innenSchlank)
+        soVorgegeben("einseitig beplankt hält die Beplankung gedrungene Rippen nicht: km wird gerechnet");
     const bool beideGehalten =
         !w.Einseitig && 50 * w.t[Seite::eins] >= w.Rippenabstand && 50 * w.t[Seite::zwei] >= w.Rippenabstand;
     w.kmRandrippe = nurInnenSchlank || beideGehalten ? Zahl(1) : km(w.lambdaMRandrippe);

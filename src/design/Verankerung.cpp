@@ -10,14 +10,18 @@ namespace rippenscheibe {
 namespace {
 
 // Takes the permanent factor out and the one for stabilising or for destabilising actions in.
-constexpr double stabilisierend = gammaGStabilisierend / gammaG;
-constexpr double destabilisierend = gammaQ / gammaG;
+Zahl stabilisierend() { return gammaGStabilisierend / gammaG; }
+Zahl destabilisierend() { return gammaQ / gammaG; }
 
 // Only the permanent compression directly above the tension edge stabilises.
 void zugkraftVereinfacht(Wand& w) {
     const Zahl kante = w.Fvd >= 0 ? Zahl(1) : Zahl(w.AnzahlRippen);
-    w.FStab = stabilisierend * w.FcdStabilitaet(kante);
-    if (w.Lastfall != 1) w.FEdge = destabilisierend * w.FEdge;
+    w.FStab = stabilisierend() * w.FcdStabilitaet(kante);
+    // Meant: only a purely horizontal load keeps its force.
+    if (w.Lastfall != 1) {
+        soVorgegeben("neben Vertikallasten wird die Randkraft um γQ / γG vergrößert");
+        w.FEdge = destabilisierend() * w.FEdge;
+    }
     const Zahl kraft = w.FEdge - w.FStab;
     w.Ftdst = kraft > 0 ? kraft : Zahl(0);
 }
@@ -28,10 +32,12 @@ void momente(Wand& w, int erste, Zahl letzte, const auto& hebel) {
         w.MStab(i) = w.MStab(i - 1) + w.FcdStabilitaet(i) * hebel(i);
         w.MDst(i) = w.MDst(i - 1) + w.Ftd(i) * hebel(i);
     }
-    w.MStabSumme = stabilisierend * w.MStab(letzte);
+    w.MStabSumme = stabilisierend() * w.MStab(letzte);
     const Zahl destabilisierendesMoment = w.MDst(letzte);
-    w.MDstSumme =
-        w.gd == 0 && w.Lastfall == 1 ? destabilisierendesMoment : destabilisierend * destabilisierendesMoment;
+    // Meant: only a purely horizontal load without permanent load keeps its moment.
+    const bool nurHorizontal = w.gd == 0 && w.Lastfall == 1;
+    if (!nurHorizontal) soVorgegeben("neben ständiger Last wird das Kippmoment um γQ / γG vergrößert");
+    w.MDstSumme = nurHorizontal ? destabilisierendesMoment : destabilisierend() * destabilisierendesMoment;
 }
 
 // Sum of the moments about the support at the compressed edge.

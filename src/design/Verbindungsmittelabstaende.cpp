@@ -16,6 +16,7 @@ struct Vielfache {
 
 // Meant: the routine of side 2 never writes a42 and aRand2.
 void setzeRippe(Wand& w, Seite n, const Vielfache& v) {
+    if (n == Seite::zwei) soVorgegeben("Seite 2 setzt a4 und aRand nicht");
     w.a1[n] = v.a1 * w.d[n];
     w.a2[n] = v.a2 * w.d[n];
     w.a3[n] = v.a3 * w.d[n];
@@ -33,6 +34,7 @@ void leichteRippe(Wand& w, Seite n) {
     }
     // Meant: on side 2 the row of 7d asks for d1 < 5 and the row of 10d for d2 >= 5. With different
     // diameters both or neither may apply; the later one stands.
+    soVorgegeben("auf Seite 2 gilt a3 = 7 d bei d1 < 5 und 10 d bei d2 ≥ 5; a4 und aRand setzt sie nicht");
     w.a1[n] = 5 * w.d[n];
     w.a2[n] = 5 * w.d[n];
     if (w.d[Seite::eins] < 5) w.a3[n] = 7 * w.d[n];
@@ -78,9 +80,11 @@ void klammern(Wand& w, Seite n) {
     w.a1[n] = (w.beta >= 30 ? 10 * sinus + 5 : Zahl(10)) * d;
     w.a2[n] = (5 * sinus + 5) * d;
     w.a3[n] = 10 * d;
+    // Meant: a4 and aRand on side 1 only.
+    if (n == Seite::zwei) soVorgegeben("Seite 2 setzt a4 und aRand nicht");
     w.aPlatteUnbelastet[n] = (5 * sinus + 5) * d;
     w.aPlatte[n] = 10 * d;
-    if (n == Seite::eins) {  // Meant: on side 1 only
+    if (n == Seite::eins) {
         w.a4[n] = 20 * d;
         w.aRand[n] = 15 * d;
     }

@@ -17,6 +17,7 @@ Zahl verschiebungsmodul(const Wand& w, Seite n) {
     if (!istKlammer(w, n)) return rho15 * pow(w.d[n], 0.8) / 25;
     // Meant: staples of either side count only when side 1 has staples.
     if (istKlammer(w, S1)) return 2 * rho15 * pow(w.d[n], 0.8) / 60;
+    soVorgegeben("Klammern haben nur dann einen Verschiebungsmodul, wenn Seite 1 Klammern hat");
     return 0;
 }
 
@@ -45,13 +46,13 @@ void plattenraender(Wand& w) {
 
 // What sets one calculation of the five shares apart.
 struct Zustand {
-    Zahl sv;             // shear flow, N/mm
-    Zahl Fv;             // horizontal load, kN
-    Zahl SigmaC90;       // sill pressure at the compressed edge, N/mm²
-    Zahl Ft;             // anchor force, kN
-    Zahl kserAnker;      // anchor stiffness, kN/mm
-    Paar<Zahl> kser;     // slip moduli, N/mm
-    double gammaModuln;  // divisor of the moduli
+    Zahl sv;           // shear flow, N/mm
+    Zahl Fv;           // horizontal load, kN
+    Zahl SigmaC90;     // sill pressure at the compressed edge, N/mm²
+    Zahl Ft;           // anchor force, kN
+    Zahl kserAnker;    // anchor stiffness, kN/mm
+    Paar<Zahl> kser;   // slip moduli, N/mm
+    Zahl gammaModuln;  // divisor of the moduli
 };
 
 struct Anteile {
@@ -106,7 +107,7 @@ void berechne(const Wand& w, const Zustand& z, const Anteile& u) {
     const Zahl l = w.Wandlaenge;
     anteilVerbindungsmittel(w, z, u.uVM);
     u.uRippe = (h * h * h / (l * l) * 1000 + l * 1000) *
-               (2.0 / 3.0 * z.Fv * 10 / (w.E0mean / z.gammaModuln * w.ARandrippe));
+               (Zahl(2) / 3 * z.Fv * 10 / (w.E0mean / z.gammaModuln * w.ARandrippe));
     anteilSchub(w, z, u.uSchub);
     u.uSchwelle = z.SigmaC90 * w.bKopfFussrippe / (w.E90mean / z.gammaModuln) * h / l;
     if (z.kserAnker != 0) u.uAnker = h / l * z.Ft / z.kserAnker;
@@ -129,15 +130,18 @@ Zahl summe(const Wand& w, const Anteile& u) {
 }
 
 // Divisor that takes a design load back to its characteristic value.
-double lastteiler(const Wand& w) {
+// Meant: 1.35 beside a variable vertical load or wind across the wall.
+Zahl lastteiler(const Wand& w) {
     const bool veraenderlich = w.Fcqd != 0 || w.qd != 0 || w.wd != 0;
+    if (w.Lastfall == 3 && veraenderlich)
+        soVorgegeben("neben veränderlicher Vertikallast oder Wind wird die Horizontallast durch γG geteilt");
     return w.Lastfall == 3 && veraenderlich ? gammaG : gammaQ;
 }
 
 void gebrauchstauglichkeit(Wand& w) {
     verschiebungsmoduln(w);
     plattenraender(w);
-    const double teiler = lastteiler(w);
+    const Zahl teiler = lastteiler(w);
     w.FvCharakt = w.Fvd / teiler;
     w.svCharakt = w.sv0d / teiler;
     w.SigmaC90Charakt = w.SigmaC90d(druckrandrippe(w)) / teiler;
@@ -182,10 +186,11 @@ void nachweisVerformung(Wand& w) {
 }
 
 void wandsteifigkeit(Wand& w) {
-    // Meant: the anchor counts as missing here, its share is 0.
     const Anteile u = anteileSteifigkeit(w);
     berechne(w, {w.sv0d, w.Fvd, w.SigmaC90d(druckrandrippe(w)), w.Ftdst, 0, {{w.kser[S1], w.kser[S2]}}, 1},
              u);
+    // Meant: the anchor counts as missing here, its share is 0.
+    soVorgegeben("der Anker zählt in der Wandsteifigkeit nicht mit");
     const Zahl h3 = w.Wandhoehe * w.Wandhoehe * w.Wandhoehe;
     w.SteifigkeitGesamt = h3 * w.Fvd / (3 * (u.uVM + u.uRippe + u.uSchub + u.uSchwelle + u.uAnker));
     w.SteifigkeitOhneVM = h3 * w.Fvd / (3 * (u.uRippe + u.uSchub + u.uSchwelle));

@@ -24,6 +24,7 @@ constexpr std::array<Tragfaehigkeitsklasse, 9> klassen{{
     {50, 80, 100},  // 3C
 }};
 // clang-format on
+const Tabellenangabe tabelle(klassen, "Tragfähigkeitsklassen nach DIN 1052 (2008), Tabellen 14 und 15");
 
 }  // namespace
 
@@ -42,8 +43,8 @@ Dickenband dickenband(const Wand& w, Seite n) {
     return w.t[n] <= 20 ? Dickenband::bis20 : Dickenband::ueber20;
 }
 
-Zahl ausziehparameter(double c, Zahl rho) { return c * 1e-6 * pow(rho, 2); }
-Zahl kopfdurchziehparameter(double c) { return ausziehparameter(c, rohdichteKopf); }
+Zahl ausziehparameter(Zahl c, Zahl rho) { return c * 1e-6 * pow(rho, 2); }
+Zahl kopfdurchziehparameter(Zahl c) { return ausziehparameter(c, rohdichteKopf); }
 
 Einbindung pruefeEinbindung(const Wand& w, Seite n, int vielfaches) {
     if (w.lef[n] < vielfaches * w.d[n]) return Einbindung::zuKurz;

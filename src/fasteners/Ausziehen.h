@@ -9,9 +9,9 @@ namespace rippenscheibe {
 
 // Factors c of f1k and f2k = c * 10^-6 * rho² by load-capacity class.
 struct Tragfaehigkeitsklasse {
-    double sondernaegel;  // shank of special nails
-    double schrauben;     // thread of screws with approval
-    double kopf;          // head of both
+    Tabellenwert sondernaegel;  // shank of special nails
+    Tabellenwert schrauben;     // thread of screws with approval
+    Tabellenwert kopf;          // head of both
 };
 // The class of side n, "1A" to "3C"; nullptr for a number outside 1 to 9, which only a file can hold.
 const Tragfaehigkeitsklasse* tragfaehigkeitsklasse(const Wand& w, Seite n);
@@ -40,9 +40,9 @@ inline constexpr double RxkDuennePlatte = 400;
 inline constexpr double f2kBis20 = 8;
 
 // c * 10^-6 * rho².
-Zahl ausziehparameter(double c, Zahl rho);
+Zahl ausziehparameter(Zahl c, Zahl rho);
 // The same for the head, always with the density 380 kg/m³ and not that of the ribs.
-Zahl kopfdurchziehparameter(double c);
+Zahl kopfdurchziehparameter(Zahl c);
 
 // At lef = m * d exactly the fastener is neither too short nor long enough: Rxk keeps its earlier value.
 enum class Einbindung { zuKurz, grenze, genuegt };

@@ -42,6 +42,8 @@ bool istEigenesMaterialUngebohrt(const Wand& w, Seite n) {
 
 // Meant: chipboard with approval is in the group of wood-based boards on neither side.
 bool istKlammerHolzwerkstoff(const Wand& w, Seite n) {
+    if (istSpanplatteMitZulassung(plattenmaterial(w, n)) && !istSpanplatte(plattenmaterial(w, n)))
+        soVorgegeben("Spanplatten mit Zulassung zählen bei diesen Klammern nicht zu den Holzwerkstoffen");
     return istOsb(w, n) || istSpanplatte(plattenmaterial(w, n));
 }
 
@@ -50,6 +52,7 @@ bool istKlammerHolzwerkstoff(const Wand& w, Seite n) {
 void setzeRestgruppeKlammernSeite2(Wand& w) {
     constexpr Seite n = Seite::zwei;
     if (!hatFormel(w, n, Lochleibung::gipsfaser)) return;
+    soVorgegeben("Seite 2 schreibt ihre Lochleibungsfestigkeit in das Feld von Seite 1 und hat A = 0");
     w.fhkPlatte[Seite::eins] = lochleibung(w, n, Lochleibung::gipsfaser);
     setzeBeiwerte(w, n, {0, 7 * w.d[n], 30});
 }
@@ -95,6 +98,8 @@ void klammernDin18182Vereinfacht(Wand& w, Seite n) {
     }
     // Meant: staples in the own material have no capacity on side 2.
     const double AFaktorEigen = n == Seite::eins ? 0.8 : 0;
+    if (n == Seite::zwei && istEigenesMaterialUngebohrt(w, n))
+        soVorgegeben("diese Klammern haben im eigenen Material auf Seite 2 A = 0");
     if (istEigenesMaterialUngebohrt(w, n)) setzeEigenesMaterial(w, n, AFaktorEigen);
     setzeRk(w, n);
     w.Rd[n] = klammerAusgeschlossen(w, n) ? Zahl(0) : klammerRdVereinfacht(w, n);

@@ -12,7 +12,7 @@ Zahl ausziehtragfaehigkeit(const Wand& w, Seite n) {
     return Min(w.f1k[n] * w.d[n] * w.lef[n], w.f2k[n] * pow(w.dk[n], 2));
 }
 
-void setzeRxkNachDicke(Wand& w, Seite n, double kopf) {
+void setzeRxkNachDicke(Wand& w, Seite n, Zahl kopf) {
     const Dickenband band = dickenband(w, n);
     if (band == Dickenband::unter12) {
         w.Rxk[n] = RxkDuennePlatte;

@@ -12,7 +12,7 @@ namespace rippenscheibe {
 Zahl ausziehtragfaehigkeit(const Wand& w, Seite n);
 // Rxk by the thickness band for a fastener that reaches deep enough, with f1k as it stands. Writes f2k in the
 // bands from 12 mm on; kopf is the c of the head above 20 mm.
-void setzeRxkNachDicke(Wand& w, Seite n, double kopf);
+void setzeRxkNachDicke(Wand& w, Seite n, Zahl kopf);
 
 // The gain, 0.25 times the withdrawal capacity and at most anteil * Rk or anteil * Rd.
 void setzeDeltaRk(Wand& w, Seite n, double anteil);

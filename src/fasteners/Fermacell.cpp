@@ -13,13 +13,15 @@ namespace {
 // Penetration into the rib, mm.
 constexpr double treqNagel = 30;
 constexpr double treqSondernagel = 27;
-// Meant: staples need 32 mm on side 1 and 30 mm on side 2.
 constexpr Paar<double> treqKlammer{{32, 30}};
 
 bool duennerAls2(const Wand& w, Seite n) { return w.d[n] < 2; }
 bool dickerAls3(const Wand& w, Seite n) { return w.d[n] > 3; }
 // Meant: nails on side 2 measure the penetration by d1, the diameter of side 1.
-bool nageleinbindungUnter4d1(const Wand& w, Seite n) { return w.ln[n] - w.t[n] < 4 * w.d[Seite::eins]; }
+bool nageleinbindungUnter4d1(const Wand& w, Seite n) {
+    if (n == Seite::zwei) soVorgegeben("Nägel auf Seite 2 messen die Einbindetiefe mit d1 von Seite 1");
+    return w.ln[n] - w.t[n] < 4 * w.d[Seite::eins];
+}
 
 constexpr std::array<Ausschluss, 4> ausschluesseNaegel{randrippeZuDuenn, duennerAls2, dickerAls3,
                                                        nageleinbindungUnter4d1};
@@ -40,6 +42,8 @@ Zahl faserbeiwertNagel(const Wand& w, Seite n) {
 
 Zahl faserbeiwertKlammer(const Wand& w, Seite n) {
     // Meant: side 1 reduces under vertical load, whatever the thickness.
+    if (n == Seite::eins)
+        soVorgegeben("kFaser mindert Klammern auf Seite 1 unter Vertikallast, auf Seite 2 wie bei Nägeln");
     if (n == Seite::zwei) return faserbeiwertNagel(w, n);
     return w.Lastfall == 2 || w.Lastfall == 3 ? 1.5 / w.d[n] : Zahl(1);
 }
@@ -56,7 +60,10 @@ void setzeRkFaser(Wand& w, Seite n, double treqRippe, Zahl kFaser) {
 void setzeLochleibungGenau(Wand& w, Seite n) {
     setzeLochleibung(w, n, Lochleibung::gipsfaser);
     // Meant: predrilled, side 1 keeps the earlier value, side 2 has none.
-    if (n == Seite::zwei && w.Vorgebohrt[n]) w.fhkPlatte[n] = 0;
+    if (n == Seite::zwei && w.Vorgebohrt[n]) {
+        soVorgegeben("vorgebohrt hat Seite 2 keine Lochleibungsfestigkeit, Seite 1 behält die frühere");
+        w.fhkPlatte[n] = 0;
+    }
 }
 
 }  // namespace
@@ -84,6 +91,7 @@ void sondernaegelFermacellVereinfacht(Wand& w, Seite n) {
     setzeRkFaser(w, n, treqSondernagel, faserbeiwertNagel(w, n));
     // Meant: side 1 adds deltaRk1, which this family never computes: what another fastener left there enters,
     // whatever DeltaRd says.
+    if (n == Seite::eins) soVorgegeben("Seite 1 zählt ΔRk hinzu, wie ein anderes Verbindungsmittel es ließ");
     const Zahl zuwachs = n == Seite::eins ? Zahl(w.deltaRk[n]) : Zahl(0);
     w.Rd[n] =
         ausgeschlossen(w, n, ausschluesseSondernaegel) ? Zahl(0) : bemessungswert(w, n, w.Rk[n] + zuwachs);
@@ -102,6 +110,8 @@ void sondernaegelFermacellGenau(Wand& w, Seite n) {
 void klammernFermacellVereinfacht(Wand& w, Seite n) {
     assert(istGipsfaser(w, n));
     setzeFliessmomentKlammer(w, n);
+    // Meant: staples need 32 mm on side 1 and 30 mm on side 2.
+    soVorgegeben("Klammern in Gipsfaserplatten brauchen auf Seite 1 32 mm in der Rippe, auf Seite 2 30 mm");
     setzeRkFaser(w, n, treqKlammer[n], faserbeiwertKlammer(w, n));
     w.Rd[n] = einbindungUnter8d(w, n) ? Zahl(0) : klammerRdVereinfacht(w, n);
 }

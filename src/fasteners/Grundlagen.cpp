@@ -8,10 +8,10 @@ namespace {
 
 // Partial safety factors: the simplified method as a whole, and the exact one by the number of plastic
 // hinges of the failure mode.
-constexpr double gammaVereinfacht = 1.1;
-constexpr double gammaOhneGelenk = 1.3;
-constexpr double gammaEinGelenk = 1.2;
-constexpr double gammaZweiGelenke = 1.1;
+constexpr Konstante gammaVereinfacht{"γ_{M}", 1.1};
+constexpr Konstante gammaOhneGelenk{"γ_{M}", 1.3};
+constexpr Konstante gammaEinGelenk{"γ_{M}", 1.2};
+constexpr Konstante gammaZweiGelenke{"γ_{M}", 1.1};
 
 // Stands for an embedment ratio without bound.
 constexpr double verhaeltnisUnbegrenzt = 1e28;

@@ -39,6 +39,8 @@ bool hatFliessmoment(const Wand& w, Seite n, Verfahren verfahren) {
     const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
     if (verfahren == Verfahren::genau) return zugfest && imBereich;
     // Meant: side 1 does not look at fuk, side 2 knows the diameter 4 alone.
+    if (n == Seite::eins && !zugfest) soVorgegeben("Seite 1 fragt nicht nach der Zugfestigkeit");
+    if (n == Seite::zwei) soVorgegeben("Seite 2 kennt allein den Durchmesser 4 mm");
     return n == Seite::eins ? imBereich : zugfest && w.d[n] == 4;
 }
 
@@ -54,6 +56,8 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     // calculation left there, 0 after program start.
     if (!(n == Seite::eins && verfahren == Verfahren::vereinfacht)) {
         w.f1k[n] = ausziehparameter(cSchraube, w.rhok);
+    } else {
+        soVorgegeben("Seite 1 lässt f1,k im vereinfachten Verfahren stehen");
     }
     switch (pruefeEinbindung(w, n, mindesteinbindungSchraube)) {
         case Einbindung::zuKurz:
@@ -78,6 +82,7 @@ void setzeGruppenDerSchrauben(Wand& w, Seite n) {
     } else if (n == Seite::zwei) {
         // Meant: all the rest takes the fibre-board value, predrilled too, and the required thickness goes by
         // d1, the diameter of side 1.
+        soVorgegeben("Seite 2 nimmt sonst den Wert der Gipsfaserplatte, A = 0 und d1 von Seite 1");
         w.fhkPlatte[n] = lochleibung(w, n, Lochleibung::gipsfaser);
         setzeBeiwerte(w, n, {0, 7 * w.d[Seite::eins], 30});
     } else if (istGipskarton(w, n)) {

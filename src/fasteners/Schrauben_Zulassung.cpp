@@ -11,13 +11,14 @@ namespace {
 
 constexpr double anteilEinhaengen = 1.0;
 
+// Meant: side 2, simplified, measures the rib depth by d1, the diameter of side 1.
 bool randrippeZuDuennFuerD1(const Wand& w, Seite n) {
+    soVorgegeben("Seite 2 misst die Rippe mit d1 von Seite 1");
     return w.hRandrippe < 14 * w.d[Seite::eins] && !w.Vorgebohrt[n];
 }
 
 constexpr std::array<Ausschluss, 4> ausschluesse{randrippeZuDuenn, durchmesserUnter4, durchmesserAb8,
                                                  einbindungUnter4d};
-// Meant: side 2, simplified, measures the rib depth by d1, the diameter of side 1.
 constexpr std::array<Ausschluss, 4> ausschluesseSeite2Vereinfacht{randrippeZuDuennFuerD1, durchmesserUnter4,
                                                                   durchmesserAb8, einbindungUnter4d};
 
@@ -25,6 +26,7 @@ bool hatFliessmoment(const Wand& w, Seite n, Verfahren verfahren) {
     const bool zugfest = w.fuk[n] >= 400;
     const bool imBereich = w.d[n] >= 4 && w.d[n] < 8;
     // Meant: the conditions of the four routines are all different but for the form.
+    soVorgegeben("wann es ein Fließmoment gibt, ist je Seite und Verfahren verschieden");
     if (verfahren == Verfahren::vereinfacht) {
         return n == Seite::eins ? zugfest && imBereich : zugfest && w.d[n] == 4;
     }
@@ -38,9 +40,11 @@ void setzeFliessmoment(Wand& w, Seite n, Verfahren verfahren) {
 
 bool istGipskartonGenau(const Wand& w, Seite n) {
     // Meant: side 1 takes its upper bound from the material of side 2.
-    if (n == Seite::eins)
+    if (n == Seite::eins) {
+        soVorgegeben("Seite 1 nimmt die obere Grenze der Gipskartonplatten vom Material der Seite 2");
         return plattenmaterial(w, Seite::eins) >= Platte::GKB &&
                plattenmaterial(w, Seite::zwei) <= Platte::GKFI;
+    }
     return istGipskarton(w, n);
 }
 
@@ -59,7 +63,10 @@ void setzeRxkTiefGenug(Wand& w, Seite n, Verfahren verfahren) {
         w.f2k[n] = kopfdurchziehparameter(k->kopf);
     }
     // Meant: side 2, exact, up to 20 mm computes the parameters only; Rxk2 keeps its value.
-    if (n == Seite::zwei && verfahren == Verfahren::genau && band == Dickenband::bis20) return;
+    if (n == Seite::zwei && verfahren == Verfahren::genau && band == Dickenband::bis20) {
+        soVorgegeben("Rx,k und Rx,d der Seite 2 behalten bis 20 mm Dicke ihren Wert");
+        return;
+    }
     w.Rxk[n] = ausziehtragfaehigkeit(w, n);
 }
 
@@ -77,7 +84,8 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
     }
 }
 
-// Meant: in the band that leaves Rxk2 alone Rxd2 keeps its value too, and the gain is formed from it.
+// Side difference: in the band that leaves Rxk2 alone, as it says, Rxd2 keeps its value too, and the gain is
+// formed from it.
 bool laesstRxdStehen(const Wand& w, Seite n) {
     return n == Seite::zwei && dickenband(w, n) == Dickenband::bis20 &&
            pruefeEinbindung(w, n, mindesteinbindungSchraube) == Einbindung::genuegt;

@@ -42,8 +42,10 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
         return;
     }
     const Tragfaehigkeitsklasse& klasse = *tragfaehigkeitsklasse(w, n);
-    // Meant: the simplified method has no density; f1k is 0 there, and only a sheathing below 12 mm gives a
+    // Meant: the simplified method has no density: f1k is 0 there, and only a sheathing below 12 mm gives a
     // gain.
+    if (verfahren == Verfahren::vereinfacht)
+        soVorgegeben("das vereinfachte Verfahren kennt hier keine Rohdichte: f1,k = 0");
     const Zahl rho = verfahren == Verfahren::vereinfacht ? Zahl(0) : Zahl(w.rhok);
     const Zahl f1k = ausziehparameter(klasse.sondernaegel, rho);
     w.f1k[n] = w.Vorgebohrt[n] ? beiwertVorgebohrt * f1k : f1k;
@@ -54,7 +56,10 @@ void setzeRxk(Wand& w, Seite n, Verfahren verfahren) {
         return;
     }
     // Meant: at lef = 8 d exactly the simplified method keeps Rxk, the exact one goes on.
-    if (einbindung == Einbindung::grenze && verfahren == Verfahren::vereinfacht) return;
+    if (einbindung == Einbindung::grenze && verfahren == Verfahren::vereinfacht) {
+        soVorgegeben("bei lef = 8 d behält Rx,k im vereinfachten Verfahren seinen Wert");
+        return;
+    }
     setzeRxkNachDicke(w, n, klasse.kopf);
 }
 

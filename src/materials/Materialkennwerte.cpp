@@ -10,23 +10,24 @@ namespace rippenscheibe {
 namespace {
 
 struct Holzklasse {
-    double rhok;  // kg/m³, all others N/mm²
-    double fmk;
-    double fc0k;
-    double ft0k;
-    double fc90k;
-    double E0mean;
-    double Gmean;
-    double E90mean;
+    Tabellenwert rhok;  // kg/m³, all others N/mm²
+    Tabellenwert fmk;
+    Tabellenwert fc0k;
+    Tabellenwert ft0k;
+    Tabellenwert fc90k;
+    Tabellenwert E0mean;
+    Tabellenwert Gmean;
+    Tabellenwert E90mean;
 };
 
+constexpr int C16 = 1;
 constexpr int letztesNadelholz = 5;
 // GL28h takes its G05 from 780 N/mm² and leaves GmeanHolz as it was; no routine reads GmeanHolz.
 constexpr int GL28h = 8;
 
 // clang-format off
-// Strength classes C16 to C40 and GL24h to GL36c (DIN 1052 (2008), tables F.5 and F.9), in the order of the
-// catalogue. Meant: the modulus 7000 of C16.
+// Strength classes C16 to C40 and GL24h to GL36c (DIN 1052 (2008), tables F.5 and F.9), in the order of
+// the catalogue.
 constexpr std::array<Holzklasse, 13> holzklassen{{
     // rhok  fmk   fc0k  ft0k  fc90k  E0mean   Gmean  E90mean
     {  310,  16,   17,   10,   2.2,    7000,   500,   270},
@@ -44,13 +45,15 @@ constexpr std::array<Holzklasse, 13> holzklassen{{
     {  430,  36,   29,   22.5, 3.3,   14700,   850,   460},
 }};
 // clang-format on
+const Tabellenangabe tabelleHolz(holzklassen,
+                                 "Festigkeitsklassen nach DIN 1052 (2008), Tabellen F.5 und F.9");
 
 // Thickness bands reach from over `ueber` up to and including `bis`, mm; gypsum boards are listed by
 // exact thickness.
 struct Festigkeiten {
-    double fvk;  // N/mm²
-    double fck;
-    double fmk;
+    Tabellenwert fvk;  // N/mm²
+    Tabellenwert fck;
+    Tabellenwert fmk;
 };
 constexpr Festigkeiten keine{0, 0, 0};
 
@@ -64,8 +67,8 @@ struct Spanplattenband {
     double ueber;
     double bis;
     Festigkeiten festigkeiten;
-    double rhok;   // kg/m³
-    double Gmean;  // N/mm²
+    Tabellenwert rhok;   // kg/m³
+    Tabellenwert Gmean;  // N/mm²
 };
 
 struct Plattendickenwert {
@@ -132,10 +135,23 @@ constexpr std::array<Spanplattenband, 6> P7{{
     {13, 20, { 8.1, 14.7, 16.7}, 600, 1200},
     {20, 25, { 7.9, 13.7, 15.4}, 550, 1150},
     {25, 32, { 7.4, 13.5, 14.2}, 550, 1100},
-    {32, 40, {13.2,  7.2, 13.3}, 500, 1050},  // fvk over fck: they stand in this order on purpose
+    {32, 40, {13.2,  7.2, 13.3}, 500, 1050},  // fvk over fck: see `spanplatte`
     {40, 50, { 7.0, 13,   12.5}, 500, 1000},
 }};
 // clang-format on
+
+constexpr std::string_view quelleOsb = "OSB-Platten nach DIN 1052 (2008), Anhang F";
+constexpr std::string_view quelleGips = "Gipsplatten nach DIN 1052 (2008), Anhang F";
+constexpr std::string_view quelleSpan = "Spanplatten nach DIN 1052 (2008), Tabelle F.14 und folgende";
+const std::array<Tabellenangabe, 9> tabellen{{{OSB3, quelleOsb},
+                                              {OSB4, quelleOsb},
+                                              {GKB, quelleGips},
+                                              {GKF, quelleGips},
+                                              {gipsfaser, "Gipsfaserplatten nach Zulassung"},
+                                              {P4, quelleSpan},
+                                              {P5, quelleSpan},
+                                              {P6, quelleSpan},
+                                              {P7, quelleSpan}}};
 
 template <class Band>
 const Band* bandZu(std::span<const Band> baender, Zahl t) {
@@ -157,12 +173,16 @@ void osb(Wand& w, Seite n, std::span<const Dickenband> baender, double Gmean) {
         setze(w, n, band->festigkeiten);
     } else if (n == Seite::eins && isOSB4 && w.t[n] >= 6) {
         // Meant: side 1 of OSB/4 keeps the bending strength of the last run for 6 mm and above 25 mm.
+        soVorgegeben(
+            "OSB/4 behält auf Seite 1 bei 6 mm und über 25 mm die Biegefestigkeit des letzten Laufs");
         w.fvk[n] = 0;
         w.fck[n] = 0;
     } else {
         setze(w, n, keine);
     }
     // Meant: side 1 has its density for every thickness, side 2 only inside a band.
+    if (band == nullptr)
+        soVorgegeben("OSB hat auf Seite 1 ihre Rohdichte bei jeder Dicke, auf Seite 2 nur im Dickenband");
     w.rhokBeplankung[n] = n == Seite::eins || band != nullptr ? 550 : 0;
     w.Wichte[n] = 6;
     w.Gmean[n] = Gmean;
@@ -193,6 +213,9 @@ void spanplatte(Wand& w, Seite n, std::span<const Spanplattenband> baender) {
     const bool isP4 = plattenmaterial(w, n) == Platte::P4;
     const bool isP7 = plattenmaterial(w, n) == Platte::P7;
     const Spanplattenband* band = bandZu(baender, w.t[n]);
+    // Meant: the top but one band of P7 holds a shear strength above the compressive one.
+    if (isP7 && w.t[n] > 32 && w.t[n] <= 40)
+        soVorgegeben("P7 über 32 bis 40 mm hat die Schubfestigkeit 13,2 und die Druckfestigkeit 7,2");
     setze(w, n, band != nullptr ? band->festigkeiten : keine);
     w.rhokBeplankung[n] = band != nullptr ? band->rhok : 0;
     w.Gmean[n] = band != nullptr ? band->Gmean : 10;
@@ -202,7 +225,10 @@ void spanplatte(Wand& w, Seite n, std::span<const Spanplattenband> baender) {
             soVorgegeben("P4 im obersten Dickenband hat auf Seite 1 den Schubmodul 700550");
             w.Gmean[n] = 700550;
         }
-        if (isP7 && band == nullptr) w.Gmean[n] = 1000;
+        if (isP7 && band == nullptr) {
+            soVorgegeben("P7 außerhalb der Dickenbänder hat auf Seite 1 den Schubmodul 1000");
+            w.Gmean[n] = 1000;
+        }
     }
     w.Wichte[n] = 6;
     w.G05[n] = 0.8 * w.Gmean[n];
@@ -212,6 +238,8 @@ void spanplatteMitZulassung(Wand& w, Seite n) {
     // Meant: the first band reaches from 10 to 18 mm on side 1, but holds only 10 mm itself on side 2.
     const double ersteGrenze = n == Seite::eins ? 18 : 10;
     const Zahl t = w.t[n];
+    if (t > 10 && t <= 18)
+        soVorgegeben("das erste Dickenband reicht auf Seite 1 bis 18 mm, auf Seite 2 hält es nur 10 mm");
     setze(w, n, keine);
     if (t >= 10 && t <= ersteGrenze) setze(w, n, {8, 14, 14});
     if (t > 18 && t <= 25) setze(w, n, {7, 12.5, 12.5});
@@ -241,12 +269,14 @@ void holzwerte(Wand& w) {
     if (klasse >= 1 && klasse <= static_cast<int>(holzklassen.size())) {
         const auto& holz = holzklassen[static_cast<std::size_t>(klasse) - 1];
         const bool nadelholz = klasse <= letztesNadelholz;
-        const double anteil05 = nadelholz ? 2.0 / 3.0 : 5.0 / 6.0;  // 5-% fractile over mean of the moduli
+        const Zahl anteil05 = nadelholz ? Zahl(2) / 3 : Zahl(5) / 6;  // 5-% fractile over mean of the moduli
         w.rhok = holz.rhok;
         w.fmk = holz.fmk;
         w.fc0k = holz.fc0k;
         w.ft0k = holz.ft0k;
         w.fc90k = holz.fc90k;
+        // Meant: 7000 N/mm² of C16.
+        if (klasse == C16) soVorgegeben("C16 hat den Elastizitätsmodul 7000 N/mm²");
         w.E0mean = holz.E0mean;
         w.E005 = anteil05 * w.E0mean;
         if (klasse != GL28h) w.GmeanHolz = holz.Gmean;

@@ -11,9 +11,9 @@ enum class Nutzungsklasse { eins, zwei };
 struct KmodZeile {
     Nutzungsklasse nkl;
     int KLED;
-    float OSB;
-    float gips;
-    float span;
+    Tabellenwert OSB;
+    Tabellenwert gips;
+    Tabellenwert span;
     int eigeneSpalte;  // column of the own-material table
 };
 
@@ -35,14 +35,16 @@ constexpr std::array<KmodZeile, 10> kmodTabelle{{
 // clang-format on
 
 // Solid and glued laminated timber, the same in both classes.
-constexpr std::array<double, 5> kmodVollholz{0.6, 0.7, 0.8, 0.9, 1.1};
+constexpr std::array<Tabellenwert, 5> kmodVollholz{0.6, 0.7, 0.8, 0.9, 1.1};
+
+constexpr std::string_view quelle = "DIN 1052 (2008), Tabelle F.1";
+const std::array<Tabellenangabe, 2> tabellen{{{kmodTabelle, quelle}, {kmodVollholz, quelle}}};
 
 }  // namespace
 
-double kmodHolz(int KLED) {
-    return KLED >= 1 && KLED <= static_cast<int>(kmodVollholz.size())
-               ? kmodVollholz[static_cast<std::size_t>(KLED) - 1]
-               : 0;
+Zahl kmodHolz(int KLED) {
+    const bool vorhanden = KLED >= 1 && KLED <= static_cast<int>(kmodVollholz.size());
+    return vorhanden ? Zahl(kmodVollholz[static_cast<std::size_t>(KLED) - 1]) : Zahl(0);
 }
 
 void modifikationsbeiwerte(Wand& w, Seite n) {

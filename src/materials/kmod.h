@@ -9,6 +9,6 @@ namespace rippenscheibe {
 void modifikationsbeiwerte(Wand& w, Seite n);
 
 // kmod of timber by load duration, in double precision; 0 for a number outside 1 to 5.
-double kmodHolz(int KLED);
+Zahl kmodHolz(int KLED);
 
 }  // namespace rippenscheibe

@@ -32,6 +32,9 @@ constexpr std::array<Kammnagel, 4> kammnaegel{{
 }};
 // clang-format on
 
+const std::array<Tabellenangabe, 2> tabellen{
+    {{ankertabelle, "Zuganker nach Herstellerangabe"}, {kammnaegel, "CNA-Kammnägel nach Herstellerangabe"}}};
+
 constexpr auto ankernamen = [] {
     std::array<std::string_view, ankertabelle.size()> namen{};
     for (std::size_t i = 0; i < namen.size(); ++i) namen[i] = ankertabelle[i].name;

@@ -3,6 +3,8 @@
 #include <span>
 #include <string_view>
 
+#include "basis/Herkunft.h"
+
 namespace rippenscheibe {
 
 enum class Ankergruppe { HD, HTT, HD2P, HD2PSG, frei };
@@ -12,8 +14,8 @@ struct Anker {
     std::string_view name;
     Ankergruppe gruppe;
     int naegelHoechstens;  // 0 where the number is fixed or not used
-    double deckel;         // kN, the cap of the anchor itself; HTT is limited by its nails instead
-    double beton;          // the force in the concrete anchor as a multiple of the tension
+    Tabellenwert deckel;   // kN, the cap of the anchor itself; HTT is limited by its nails instead
+    Tabellenwert beton;    // the force in the concrete anchor as a multiple of the tension
 };
 
 inline constexpr int freierAnker = 13;  // its name and capacity are inputs
@@ -29,9 +31,9 @@ std::span<const std::string_view> Ankernamen();  // 13
 struct Kammnagel {
     std::string_view name;
     std::string_view gedruckt;  // as the report names it
-    double f;                   // kN per nail
-    double fHTT;                // kN per nail in HTT
-    double deckelHTT;           // kN, cap of HTT with these nails
+    Tabellenwert f;             // kN per nail
+    Tabellenwert fHTT;          // kN per nail in HTT
+    Tabellenwert deckelHTT;     // kN, cap of HTT with these nails
 };
 
 std::span<const Kammnagel> Kammnaegel();  // 4

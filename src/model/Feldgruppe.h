@@ -38,10 +38,11 @@ struct Feldangabe {
     std::string_view name;       // as printed: "Wandlaenge", "Rd2", "fv0d1Term3"
     std::string_view einheit;    // "mm", "N/mm²", "-"; empty for texts, choices and truth values
     std::string_view bedeutung;  // one German phrase
-    std::string_view symbol{};   // "f_{u,k}"
+    std::string_view symbol{};   // "f_{u,k}": braces hold the index; the same for both sides
     Wertebereich bereich{};
     std::string_view maske{};   // how a dialog shows it, in the dialog's unit: "0.0"
     std::string_view quelle{};  // clause of the standard
+    int seite = 0;              // 1 or 2 of a field of both sides
 };
 
 // Groups joined to one flat struct, visited one after another.
@@ -74,8 +75,8 @@ struct Gruppen : G... {
 #define RS_FELD_DESCRIBE(Typ, Name, Vorgabe, Einheit, Bedeutung, ...) \
     besucher(RS_ANGABE(#Name, Einheit, Bedeutung __VA_OPT__(,) __VA_ARGS__), gruppe.Name);
 #define RS_PAAR_DESCRIBE(Typ, Name, Name1, Name2, Vorgabe, Einheit, Bedeutung, ...) \
-    besucher(RS_ANGABE(Name1, Einheit, Bedeutung __VA_OPT__(,) __VA_ARGS__), gruppe.Name[Seite::eins]); \
-    besucher(RS_ANGABE(Name2, Einheit, Bedeutung __VA_OPT__(,) __VA_ARGS__), gruppe.Name[Seite::zwei]);
+    besucher(RS_ANGABE(Name1, Einheit, Bedeutung __VA_OPT__(,) __VA_ARGS__, .seite = 1), gruppe.Name[Seite::eins]); \
+    besucher(RS_ANGABE(Name2, Einheit, Bedeutung __VA_OPT__(,) __VA_ARGS__, .seite = 2), gruppe.Name[Seite::zwei]);
 // clang-format on
 
 #define RS_GRUPPE(Name, LISTE)                                    \

@@ -38,6 +38,9 @@ void berechnungslauf(Wand& w) {
     // resistances and proofs, and the exact distribution of vertical loads compounds from pass to pass.
     for (const Seite n : beideSeiten) {
         verteiler(w, n);
+        // Meant: the pass behind side 1 sees Rd2 of the run before.
+        if (n == Seite::eins && !w.Einseitig && traegt(w, Seite::eins) && traegt(w, Seite::zwei))
+            soVorgegeben("der Durchgang nach Seite 1 rechnet mit Rd2 des vorigen Laufs");
         zwischendurchgang(w);
     }
     beanspruchbarkeitParallel(w);

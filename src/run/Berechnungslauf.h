@@ -9,8 +9,8 @@ namespace rippenscheibe {
 void berechnungslauf(Wand& w);
 
 // The pass of resistances and proofs behind the dispatch of either side, when all sides in use have capacity
-// and spacing. It is no rehearsal: the exact distribution of vertical loads compounds from pass to pass.
-// Meant: on a two-sided panel the pass behind side 1 sees Rd2 of the run before.
+// and spacing. It is no rehearsal: the exact distribution of vertical loads compounds from pass to pass. On a
+// two-sided panel the pass behind side 1 sees Rd2 of the run before.
 void zwischendurchgang(Wand& w);
 
 enum class Hinweisbehandlung { beachten, uebergehen };

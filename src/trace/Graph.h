@@ -50,7 +50,7 @@ struct Feldeintrag {
     std::string_view name;
     std::string_view einheit;
     std::string_view bedeutung;
-    std::string_view zeichen;  // "f_{m,d}"
+    std::string zeichen;  // "f_{m,d}", of a side "f_{v,d,1}"
     std::string_view quelle;
     Typ typ = Typ::f64;
     bool eingabe = false;

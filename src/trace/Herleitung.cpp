@@ -1,6 +1,10 @@
 #include "trace/Herleitung.h"
 
-#include "trace/Zeichen.h"
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "report/Bericht.h"
 #include "trace/spur/Lauf.h"
 
 namespace rippenscheibe {
@@ -55,12 +59,19 @@ Wandinhalt inhalt(const Wand& w, const Grundmasse& felder) {
 herleitung::Graph leiteHer(const Wand& vorDemLauf, const Grundmasse& felder, char dezimalzeichen) {
     herleitung::Graph graph;
     herleitung::laufeMitSpur(inhalt(vorDemLauf, felder), dezimalzeichen, graph);
-    for (herleitung::Feldeintrag& feld : graph.felder) {
-        const Feldzeichen z = feldzeichen(feld.name);
-        feld.zeichen = z.zeichen;
-        feld.quelle = z.quelle;
-    }
     return graph;
+}
+
+std::unique_ptr<herleitung::Graph> leiteLaufHer(const Wand& vorDemLauf, const Grundmasse& felder,
+                                                const Wand& nachDemLauf, char dezimalzeichen) {
+    auto graph = std::make_unique<herleitung::Graph>(leiteHer(vorDemLauf, felder, dezimalzeichen));
+    std::vector<std::string> gezeigt;
+    for (const Zeile& zeile : bericht(nachDemLauf, Form::ansicht, {.dezimalzeichen = dezimalzeichen})) {
+        const auto* text = std::get_if<Textzeile>(&zeile);
+        if (text != nullptr && text->text) gezeigt.push_back(*text->text);
+    }
+    const bool gleich = std::ranges::equal(gezeigt, graph->bericht, {}, {}, &herleitung::Berichtszeile::text);
+    return gleich ? std::move(graph) : nullptr;
 }
 
 }  // namespace rippenscheibe

@@ -59,8 +59,18 @@ class Fueller {
         for (std::string& text : texte) text = inhalt_.texte[text_++];
     }
     double zahl() { return inhalt_.zahlen[zahl_++]; }
+    // The side is the last of the indices.
+    static std::string zeichen(const Feldangabe& angabe) {
+        std::string text(angabe.symbol);
+        if (angabe.seite == 0 || text.empty()) return text;
+        const std::string nummer = std::to_string(angabe.seite) + "}";
+        if (text.back() != '}') return text + "_{" + nummer;
+        text.back() = ',';
+        return text + nummer;
+    }
     Ort neu(const Feldangabe& angabe, Typ typ) {
-        graph_.felder.push_back({angabe.name, angabe.einheit, angabe.bedeutung, {}, {}, typ, eingabe});
+        graph_.felder.push_back(
+            {angabe.name, angabe.einheit, angabe.bedeutung, zeichen(angabe), angabe.quelle, typ, eingabe});
         return static_cast<Ort>(graph_.felder.size()) - 1;
     }
 
