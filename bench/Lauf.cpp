@@ -1,9 +1,13 @@
 #include <benchmark/benchmark.h>
 
+#include <chrono>
+#include <cstdint>
+
 #include "report/Bericht.h"
 #include "run/Berechnungslauf.h"
 #include "run/FrischerLauf.h"
 #include "run/Zuweisen.h"
+#include "trace/Herleitung.h"
 
 // What one press of a start button costs. The default wall has nine ribs.
 
@@ -68,6 +72,20 @@ void berichtLang(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(bericht(w, Form::lang));
 }
 BENCHMARK(berichtLang)->Unit(benchmark::kMicrosecond);
+
+// The whole derivation of a wall, at most 5 ms.
+void herleitungNeunRippen(benchmark::State& state) {
+    constexpr auto hoechstens = std::chrono::milliseconds(5);
+    Wand w = wand(5);
+    const Grundmasse felder = grundmasse(w);
+    zuweisen(w, felder);
+    const auto beginn = std::chrono::steady_clock::now();
+    for (auto _ : state) benchmark::DoNotOptimize(leiteHer(w, felder));
+    const auto dauer = std::chrono::steady_clock::now() - beginn;
+    if (dauer > hoechstens * static_cast<std::int64_t>(state.iterations()))
+        state.SkipWithError("more than 5 ms");
+}
+BENCHMARK(herleitungNeunRippen)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace rippenscheibe

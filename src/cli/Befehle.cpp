@@ -26,6 +26,7 @@
 #include "run/Zuweisen.h"
 #include "study/Lastfaelle.h"
 #include "trace/Herleitung.h"
+#include "trace/Rechenweg.h"
 
 namespace rippenscheibe {
 
@@ -90,9 +91,12 @@ class Arbeit {
             ausgaben_.meldungen("Unbekanntes Feld: " + fremd + "\nAlle Felder: rippenscheibe-cli felder\n");
             return Rueckgabe::aufruf;
         }
+        if (schriebeUeberEingabe()) return Rueckgabe::aufruf;
         if (!ladeMaterialien()) return Rueckgabe::dateifehler;
         const auto wand = frischeWand();
-        return hoehere(leiteDateiHer(auftrag_.dateien.front(), *wand), schreibeZieldatei());
+        const Rueckgabe rueckgabe = leiteDateiHer(auftrag_.dateien.front(), *wand);
+        // Without a run there is nothing that could take the place of an older derivation.
+        return rueckgabe < Rueckgabe::hinweise ? hoehere(rueckgabe, schreibeZieldatei()) : rueckgabe;
     }
 
     // The verbs that compute many walls. Each file is read on its own, as after program start.
@@ -123,8 +127,20 @@ class Arbeit {
         melde(datei, lauf.meldungen);
         if (!lauf.gerechnet()) return lauf.rueckgabe;
         const herleitung::Graph graph = leiteHer(vorher, *felder);
-        gibAus(auftrag_.ausgabe == Ausgabeart::json ? herleitungJson(graph, auftrag_.herleitung)
-                                                    : herleitungText(graph, auftrag_.herleitung));
+        switch (auftrag_.ausgabe) {
+            case Ausgabeart::json:
+                gibAus(herleitungJson(graph, auftrag_.herleitung));
+                break;
+            case Ausgabeart::text:
+                gibAus(herleitungText(graph, auftrag_.herleitung));
+                break;
+            case Ausgabeart::rtf: {
+                const Pruefblatt blatt =
+                    pruefblatt(vorher, pfadtext(datei.filename()), liesDatei(datei).bytes);
+                gibAus(alsRtf(fliesstext(rechenweg(graph, w, blatt))));
+                break;
+            }
+        }
         return lauf.rueckgabe;
     }
 

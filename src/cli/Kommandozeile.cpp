@@ -296,7 +296,7 @@ void Befehlszeile::herleite() {
         "--tief", [this] { auftrag_.herleitung.tief = true; }, "mit allen Schritten, auf denen sie beruhen");
     material(verb);
     laeufe(verb);
-    ausgabe(verb, feldausgabearten);
+    ausgabe(verb, ausgabearten);
     nach(verb);
 }
 

@@ -103,6 +103,10 @@ Schrift schrift(Stil stil) {
         case Stil::klein:
             s.groesse = 8;
             break;
+        case Stil::anmerkung:
+            s.groesse = 8;
+            s.farbe = Farbe::dunkelgrau;
+            break;
         case Stil::bemerkung:
             s.name = "Courier New";
             break;

@@ -24,6 +24,7 @@ class Setzer {
     void operator()(const Schlussbemerkungen& z) {
         for (const std::string& zeile : z.zeilen) text_.push_back(absatz(zeile, Stil::bemerkung));
     }
+    void operator()(const Formelzeile& z) { text_.push_back(absatz(z.text, Stil::text)); }
     void operator()(const Leerzeile&) { text_.emplace_back(); }
     void operator()(const Trennlinie& z) {
         constexpr std::size_t breite = 67;

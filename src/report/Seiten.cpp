@@ -21,7 +21,13 @@ class Seiten {
         if (!z.text) return;
         f_.setzeSchrift(schrift(z.stil));
         if (istUeberschrift(z.stil)) merkeUeberschrift(z);
-        f_.text(textrand, ZeileY_, *z.text);
+        const std::size_t tab = z.spalte > 0 ? z.text->find('\t') : std::string::npos;
+        f_.text(textrand, ZeileY_, z.text->substr(0, tab));
+        if (tab != std::string::npos) f_.text(textrand + z.spalte, ZeileY_, z.text->substr(tab + 1));
+    }
+    void operator()(const Formelzeile& z) {
+        f_.formel(z.nummer, textrand, ZeileY_ + z.abstand);
+        ZeileY_ += z.abstand + z.hoehe;
     }
     void operator()(const Bildzeile& z) { f_.bild(z.bild, {z.x, ZeileY_ + z.versatz, z.breite, z.hoehe}); }
     void operator()(const Seitenpruefung& z) { seitenwechsel(z.grenze); }

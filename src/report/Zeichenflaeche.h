@@ -33,6 +33,8 @@ class Zeichenflaeche {
     virtual void flaeche(const Rechteck& rechteck, Farbe farbe) = 0;
     // A picture has no ground of its own: a long line may reach into its margin.
     virtual void bild(Bild bild, const Rechteck& rechteck) = 0;
+    // A formula of this number; only a surface that set formulas knows any.
+    virtual void formel(int /*nummer*/, double /*x*/, double /*y*/) {}
     virtual void neueSeite() = 0;
 
     // Height of a line with this text in the current font.

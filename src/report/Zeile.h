@@ -37,7 +37,12 @@ enum class Bild {
 };
 
 // Colours of the report as 0xRRGGBB.
-enum class Farbe : std::uint32_t { schwarz = 0x000000, blau = 0x000080, grau = 0x808080 };
+enum class Farbe : std::uint32_t {
+    schwarz = 0x000000,
+    blau = 0x000080,
+    grau = 0x808080,
+    dunkelgrau = 0x595959
+};
 
 // The text styles.
 enum class Stil {
@@ -49,6 +54,7 @@ enum class Stil {
     ueberschrift3,  // H3
     text,
     klein,
+    anmerkung,  // under a step of the derivation
     fett,
     schluss,    // verdict of the result view
     bemerkung,  // closing remarks on paper
@@ -96,6 +102,16 @@ struct Textzeile {
     std::optional<std::string> text{};
     std::optional<Ausnutzung> ausnutzung{};
     std::vector<Zahlstelle> zahlen{};  // the numbers of the text, from left to right
+    double spalte = 0.0;               // what follows a tab stands so far right of the margin; 0: no tab
+};
+
+// A typeset formula at the left margin. The surface that set it knows it by its number; running text shows
+// its words.
+struct Formelzeile {
+    int nummer = 0;
+    double abstand = 0.0;
+    double hoehe = 0.0;
+    std::string text{};
 };
 
 // A picture at x and at the cursor plus `versatz`.
@@ -143,7 +159,7 @@ struct Trennlinie {
 
 using Zeile =
     std::variant<Textzeile, Bildzeile, Seitenpruefung, Zeilenpruefung, Vorschub, Zeilenstand, AnkerMerken,
-                 AnkerPlus, Seitenkopfdruck, Schlussbemerkungen, Leerzeile, Trennlinie>;
+                 AnkerPlus, Seitenkopfdruck, Schlussbemerkungen, Leerzeile, Trennlinie, Formelzeile>;
 using Bericht = std::vector<Zeile>;
 
 }  // namespace rippenscheibe

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "basis/Zahlenformat.h"
+#include "model/Kataloge.h"
 #include "trace/Formel.h"
 
 namespace rippenscheibe {
@@ -31,8 +32,12 @@ Schreibweise aufPapier(std::function<std::string(Ort)> blatt) {
 // A number of the code as it is written there.
 std::string woertlich(double wert) {
     std::array<char, 32> puffer{};
-    const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), wert).ptr;
-    std::string text(puffer.data(), ende);
+    char* const anfang = puffer.data();
+    char* const grenze = anfang + puffer.size();
+    const auto einfach = static_cast<float>(wert);  // 0.9F reads 0,9
+    const char* ende = static_cast<double>(einfach) == wert ? std::to_chars(anfang, grenze, einfach).ptr
+                                                            : std::to_chars(anfang, grenze, wert).ptr;
+    std::string text(anfang, static_cast<std::size_t>(ende - anfang));
     std::replace(text.begin(), text.end(), '.', ',');
     return text;
 }
@@ -46,6 +51,17 @@ Vergleich gegenteil(Vergleich v) {
                                               Vergleich::groesserGleich, Vergleich::groesser,
                                               Vergleich::kleinerGleich,  Vergleich::kleiner};
     return andere[static_cast<std::size_t>(v)];
+}
+
+// What a stored choice stands for: "OSB/3" of Material1 = 1.
+std::string_view katalogname(std::string_view feld, double wert) {
+    const auto index = static_cast<int>(wert);
+    if (feld.starts_with("Material")) return eintrag(Plattenmaterialien(), index);
+    if (feld.starts_with("VMArt")) return eintrag(VMArten(), index);
+    if (feld.starts_with("VMKlasse")) return eintrag(VMKlassen(), index);
+    if (feld == "Holzart") return eintrag(Holzarten(), index);
+    if (feld == "KLED") return eintrag(KLEDNamen(), index);
+    return {};
 }
 
 }  // namespace
@@ -144,6 +160,8 @@ std::string Darstellung::wertMitEinheit(const Stand& s) const {
     const Feldeintrag& f = feld(s);
     if (f.typ == Typ::wahrheit) return s.wert != 0 ? "ja" : "nein";
     std::string text = lesbar(s.wert);
+    if (const std::string_view name = katalogname(f.name, s.wert); !name.empty())
+        text.append(" (").append(name).append(")");
     if (!f.einheit.empty() && f.einheit != "-") text.append(" ").append(f.einheit);
     return text;
 }
@@ -251,17 +269,23 @@ std::vector<std::string> Darstellung::tabellenwerte(const Schritt& s) const {
     return texte;
 }
 
+std::string_view Darstellung::quelle(const Schritt& s) const {
+    const std::string_view text = feld(stand(s)).quelle;
+    const bool genauer = std::ranges::any_of(
+        tabellenwerte(s), [&](const std::string& t) { return t.find(text) != std::string::npos; });
+    return genauer ? std::string_view() : text;
+}
+
 std::vector<std::string> Darstellung::anmerkungen(const Schritt& s) const {
     std::vector<std::string> texte;
     const Stand& x = stand(s);
     if (s.behalten) {
         const Stand& davor = graph_.staende[static_cast<std::size_t>(s.vorher)];
         texte.push_back("behält den Wert " + wertMitEinheit(x) +
-                        (davor.schritt == keiner ? " von vor dem Lauf"
-                                                 : " aus Schritt " + std::to_string(davor.schritt + 1)));
+                        (davor.schritt == keiner ? " von vor dem Lauf" : " aus einem früheren Schritt"));
     }
     if (const int n = durchgang(s); n > 0) texte.push_back(std::to_string(n) + ". Durchgang");
-    if (!feld(x).quelle.empty()) texte.emplace_back(feld(x).quelle);
+    if (!quelle(s).empty()) texte.emplace_back(quelle(s));
     for (std::string& text : tabellenwerte(s)) texte.push_back(std::move(text));
     std::string weil;
     for (const std::string& text : bedingungen(s)) weil += (weil.empty() ? "weil " : ", ") + text;

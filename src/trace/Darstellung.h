@@ -43,6 +43,8 @@ class Darstellung {
     std::vector<std::string> anmerkungen(const herleitung::Schritt& s) const;
     std::vector<std::string> bedingungen(const herleitung::Schritt& s) const;
     std::vector<std::string> tabellenwerte(const herleitung::Schritt& s) const;
+    // The clause that gives the formula; "" too where a value of the step names it with its row.
+    std::string_view quelle(const herleitung::Schritt& s) const;
 
     // The steps that these rest on, themselves included, in the order of the run.
     std::vector<herleitung::Ort> grundlagen(const std::vector<herleitung::Ort>& schritte) const;

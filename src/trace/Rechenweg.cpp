@@ -8,13 +8,17 @@
 #include <vector>
 
 #include "basis/Utf8.h"
+#include "basis/Version.h"
 #include "report/Berichtsbau.h"
+#include "report/Seitenkopf.h"
+#include "run/Berechnungslauf.h"
 #include "run/FrischerLauf.h"
 #include "run/Luecken.h"
 #include "run/Urteil.h"
 #include "run/Zuweisen.h"
 #include "trace/Darstellung.h"
 #include "trace/Formel.h"
+#include "trace/Pruefsumme.h"
 
 namespace rippenscheibe {
 
@@ -23,8 +27,14 @@ using namespace herleitung;  // the graph is all this file is about
 namespace {
 
 constexpr std::size_t breiteText = 88;    // characters of a line of 10 points
-constexpr std::size_t breiteKlein = 105;  // of 8 points
-constexpr double seitenende = 258;        // mm
+constexpr std::size_t breiteKlein = 118;  // of 8 points
+constexpr std::size_t breiteMerkmal = 66;
+constexpr double seitenende = 262;  // mm
+constexpr double spalteMerkmal = 42;
+constexpr double spaltePunkt = 5;
+constexpr double zeileText = 4.4;  // mm, height of a line
+constexpr double zeileKlein = 3.6;
+constexpr double luft = 2.2;  // above a step
 
 // Breaks at blanks; the first line begins with `anfang`, those behind it with `einzug`.
 std::vector<std::string> umbrochen(const std::string& text, std::size_t breite, const std::string& anfang,
@@ -68,7 +78,8 @@ std::string rippennamen(const std::vector<int>& rippen) {
 
 class Rechenwegbau {
   public:
-    Rechenwegbau(const Graph& graph, const Wand& w) : d_(graph), w_(w), b_(Form::lang, {}) {}
+    Rechenwegbau(const Graph& graph, const Wand& w, Formelsatz* satz)
+        : d_(graph), w_(w), satz_(satz), b_(Form::lang, {}) {}
 
     Bericht baue(const Pruefblatt& blatt) && {
         b_.neu(Seitenkopfdruck{});
@@ -87,57 +98,71 @@ class Rechenwegbau {
         b_.neu(Zeilenstand{45});
     }
 
-    void absatz(const std::string& text, double abstand = 5) {
-        for (const std::string& zeile : umbrochen(text, breiteText, "", "      ")) {
-            b_.neu(Seitenpruefung{seitenende});
-            b_.zeile(abstand, {zeile});
-            abstand = 4;
+    // A text behind a word or a dash, which stands at the margin.
+    void absatz(const std::string& wort, const std::string& text, double spalte, std::size_t breite) {
+        if (satz_ == nullptr) {
+            b_.zeile(0, {wort, " ", text});
+            return;
+        }
+        std::string anfang = wort + "\t";
+        for (const std::string& zeile : umbrochen(text, breite, "", "")) {
+            b_.neu(Seitenpruefung{seitenende - zeileText});
+            b_.neu(Textzeile{.abstand = zeileText, .text = anfang + zeile, .spalte = spalte});
+            anfang = "\t";
         }
     }
+    void merkmal(const std::string& name, const std::string& wert) {
+        absatz(name + ":", wert, spalteMerkmal, breiteMerkmal);
+    }
+    void punkt(std::string_view satz) { absatz("–", std::string(satz), spaltePunkt, breiteText); }
 
     void pruefblatt(const Pruefblatt& blatt) {
         b_.h1("Prüfblatt", 0);
-        absatz("Programm: " + blatt.programm, 8);
-        absatz("Projekt: " + w_.Projekt);
-        absatz(blatt.datei.empty() ? "Datei: noch nicht gespeichert" : "Datei: " + blatt.datei);
-        if (!blatt.pruefsumme.empty()) absatz("SHA-256: " + blatt.pruefsumme);
-        absatz("Art des Laufs: " + blatt.lauf);
+        b_.neu(Vorschub{2});
+        merkmal("Programm", blatt.programm);
+        merkmal("Projekt", w_.Projekt.empty() ? "–" : w_.Projekt);
+        merkmal("Datei", blatt.datei.empty() ? "noch nicht gespeichert" : blatt.datei);
+        merkmal("SHA-256 der Datei", blatt.pruefsumme.empty() ? "–" : blatt.pruefsumme);
+        merkmal("Art des Laufs", blatt.lauf);
         verfahren();
         urteilszeilen();
         offenes();
         vorgaben();
-        b_.neu(Seitenpruefung{235});
-        absatz("Aufgestellt:  ______________________________   Datum:  ______________", 16);
-        absatz("Geprüft:       ______________________________   Datum:  ______________", 12);
+        b_.neu(Seitenpruefung{228});
+        b_.neu(Vorschub{8});
+        for (const char* wort : {"Aufgestellt", "Geprüft"}) {
+            b_.neu(Vorschub{8});
+            merkmal(wort, "________________________________   Datum: _______________");
+        }
         b_.neu(Seitenpruefung{0});  // the steps begin on a page of their own
     }
 
     void verfahren() {
         b_.h2("Gewählte Verfahren", 8);
-        absatz(w_.GenauesVerfahren == 1 ? "Verbindungsmittel vereinfacht nach DIN 1052 (2008), 12.2 bis 12.8"
-                                        : "Verbindungsmittel genau nach DIN 1052 (2008), Anhang G.2.2");
-        absatz(w_.VertikallastVerteilung == 2 ? "Vertikallasten genau verteilt auf Rippen und Beplankung"
-                                              : "Vertikallasten nur über die Rippen");
-        absatz(!w_.NachweisVerankerung ? "Nachweis der Verankerung nicht geführt"
-               : w_.LagesicherungVerfahren == 2
-                   ? "Lagesicherheit genau: Summe der Momente um die Auflager"
-                   : "Lagesicherheit vereinfacht: Druckkraft über der Randrippe");
-        absatz(w_.Erhoehung20 ? "Rd um 20 % erhöht nach DIN 1052 (2008), 10.6 (4)"
-                              : "Rd nicht um 20 % erhöht");
-        absatz(w_.DeltaRd ? "Einhängeeffekt (deltaRd) angesetzt"
-                          : "Einhängeeffekt (deltaRd) nicht angesetzt");
+        merkmal("Verbindungsmittel", w_.GenauesVerfahren == 1
+                                         ? "vereinfacht nach DIN 1052 (2008), 12.2 bis 12.8"
+                                         : "genau nach DIN 1052 (2008), Anhang G.2.2");
+        merkmal("Erhöhung um 20 %",
+                w_.Erhoehung20 ? "angesetzt nach DIN 1052 (2008), 10.6 (4)" : "nicht angesetzt");
+        merkmal("Einhängeeffekt", w_.DeltaRd ? "deltaRd angesetzt" : "nicht angesetzt");
+        merkmal("Vertikallasten", w_.VertikallastVerteilung == 2 ? "genau verteilt auf Rippen und Beplankung"
+                                                                 : "nur über die Rippen");
+        merkmal("Lagesicherheit", w_.LagesicherungVerfahren == 2
+                                      ? "genau: Summe der Momente um die Auflager"
+                                      : "vereinfacht: Druckkraft über der Randrippe");
+        merkmal("Verankerung", w_.NachweisVerankerung ? "Nachweis geführt" : "Nachweis nicht geführt");
     }
 
     void urteilszeilen() {
         b_.h2("Ergebnis", 8);
         const Urteil u = urteil(w_);
         if (u.maxEta) {
-            std::string text = "Größte Ausnutzung: " + ausnutzung(*u.maxEta);
+            std::string text = ausnutzung(*u.maxEta);
             if (u.massgebend) text += " (" + std::string(*u.massgebend) + ")";
-            absatz(text);
+            merkmal("Größte Ausnutzung", text);
         }
-        absatz(w_.AlleNachweiseErfuellt ? "Alle Nachweise werden erfüllt."
-                                        : "Es werden nicht alle Nachweise erfüllt.");
+        merkmal("Urteil", w_.AlleNachweiseErfuellt ? "Alle Nachweise werden erfüllt."
+                                                   : "Es werden nicht alle Nachweise erfüllt.");
     }
     // A value above 1 never reads as 1.
     static std::string ausnutzung(double eta) {
@@ -148,8 +173,8 @@ class Rechenwegbau {
     void offenes() {
         b_.h2("Beanspruchungen ohne Nachweis", 8);
         const std::vector<std::string> saetze = lueckensaetze(w_);
-        if (saetze.empty()) absatz("keine");
-        for (const std::string& satz : saetze) absatz("- " + satz);
+        if (saetze.empty()) punkt("keine");
+        for (const std::string& satz : saetze) punkt(satz);
     }
 
     void vorgaben() {
@@ -159,12 +184,14 @@ class Rechenwegbau {
                 if (std::ranges::find(saetze, satz) == saetze.end()) saetze.push_back(satz);
         }
         b_.h2("So vorgegeben", 8);
-        if (saetze.empty()) absatz("keine Besonderheiten in diesem Lauf");
-        for (const std::string_view satz : saetze) absatz("- " + std::string(satz));
+        if (saetze.empty()) punkt("keine Besonderheiten in diesem Lauf");
+        for (const std::string_view satz : saetze) punkt(satz);
     }
 
     // The report once more, each heading with the steps of its numbers that were not told before.
     void schritte() {
+        b_.h1("Rechenweg", 0);
+        rest_ = zeileText;
         std::string nummeriert;  // the last heading with a number: some below it have none
         std::string ueberschrift;
         std::vector<Ort> ausdruecke;
@@ -202,20 +229,38 @@ class Rechenwegbau {
                 neue.push_back(ort);
         }
         if (neue.empty() && frueher.empty()) return;
-        b_.h2(ueberschrift, 7, 245);
-        b_.neu(Vorschub{2});
+        b_.h2(ueberschrift, rest_ + 5, 245);
+        rest_ = zeileText;
         for (const Gruppe& gruppe : gruppiert(neue)) gib(gruppe);
-        for (const Stand* s : frueher) {
-            absatz(d_.zeichen(*s) + " = " + d_.wertMitEinheit(*s));
-            anmerkung("nicht zugewiesen, Stand vor dem Lauf");
+        for (const Stand* s : frueher) gibFrueheren(*s);
+        gibBerichtswerte(berichtswerte);
+    }
+
+    // What the report forms itself, once for ribs whose numbers are the same.
+    void gibBerichtswerte(const std::vector<Ort>& ausdruecke) {
+        std::map<std::pair<std::string, std::string>, std::vector<Ort>> gleiche;
+        std::vector<std::vector<Ort>*> reihenfolge;
+        for (const Ort ort : ausdruecke) {
+            const auto [stelle, neu] = gleiche.try_emplace({d_.eingesetzt(ort), lesbar(d_.knoten(ort).wert)});
+            stelle->second.push_back(ort);
+            if (neu) reihenfolge.push_back(&stelle->second);
         }
-        std::set<std::string> gesagt;
-        for (const Ort ausdruck : berichtswerte) {
-            const std::string text = d_.symbolisch(ausdruck) + " = " + d_.eingesetzt(ausdruck) + " = " +
-                                     lesbar(d_.knoten(ausdruck).wert);
-            if (gesagt.insert(text).second) {
-                absatz("im Bericht: " + text);
+        for (const std::vector<Ort>* orte : reihenfolge) {
+            std::set<int> rippen;
+            for (const Ort ort : *orte) {
+                jederOperand(d_.graph(), ort, [&](Ort operand) {
+                    const Stand* s = d_.standAus(operand);
+                    if (s != nullptr && s->rippe >= 0) rippen.insert(s->rippe);
+                });
             }
+            std::vector<std::string> worte;
+            if (rippen.size() > 1) worte.push_back("ebenso: " + rippennamen({rippen.begin(), rippen.end()}));
+            const Ort ort = orte->front();
+            gib(satz_ != nullptr
+                    ? satz_->ausdruck(d_, ort)
+                    : Formelzeile{.text = "im Bericht: " + d_.symbolisch(ort) + " = " + d_.eingesetzt(ort) +
+                                          " = " + lesbar(d_.knoten(ort).wert)},
+                worte);
         }
     }
 
@@ -258,60 +303,104 @@ class Rechenwegbau {
     }
 
     void gib(const Gruppe& gruppe) {
-        absatz(d_.zeile(*gruppe.schritt));
-        if (gruppe.rippen.size() > 1) anmerkung("ebenso: " + rippennamen(gruppe.rippen));
-        for (const std::string& text : d_.anmerkungen(*gruppe.schritt)) anmerkung(text);
+        std::vector<std::string> worte;
+        if (gruppe.rippen.size() > 1) worte.push_back("ebenso: " + rippennamen(gruppe.rippen));
+        for (std::string& text : d_.anmerkungen(*gruppe.schritt)) {
+            const bool daneben = satz_ != nullptr && text == d_.quelle(*gruppe.schritt);
+            if (!daneben) worte.push_back(std::move(text));
+        }
+        gib(satz_ != nullptr ? satz_->schritt(d_, *gruppe.schritt)
+                             : Formelzeile{.text = d_.zeile(*gruppe.schritt)},
+            worte);
     }
 
-    void anmerkung(const std::string& text) {
-        for (const std::string& zeile : umbrochen(text, breiteKlein, "        ", "          ")) {
-            b_.neu(Seitenpruefung{seitenende});
-            b_.zeile(4, {zeile}, Stil::klein);
+    void gibFrueheren(const Stand& s) {
+        const std::string text = d_.zeichen(s) + " = " + d_.wertMitEinheit(s);
+        if (satz_ != nullptr) {
+            b_.neu(Seitenpruefung{seitenende - 3 * zeileText});
+            b_.zeile(rest_ + luft, {text});
+            rest_ = zeileText;
+            anmerkung("nicht zugewiesen, Stand vor dem Lauf");
+        } else {
+            gib(Formelzeile{.text = text}, {"nicht zugewiesen, Stand vor dem Lauf"});
         }
+    }
+
+    // A formula with what stands under it, on one page.
+    void gib(Formelzeile formel, const std::vector<std::string>& worte) {
+        std::vector<std::string> zeilen;
+        for (const std::string& text : worte) {
+            if (satz_ == nullptr) {
+                zeilen.push_back("        " + text);
+                continue;
+            }
+            for (std::string& zeile : umbrochen(text, breiteKlein, "\t", "\t  "))
+                zeilen.push_back(std::move(zeile));
+        }
+        const double hoehe = rest_ + luft + formel.hoehe + zeileKlein * static_cast<double>(zeilen.size());
+        b_.neu(Seitenpruefung{seitenende - hoehe});
+        formel.abstand = rest_ + luft;
+        rest_ = 0;
+        b_.neu(std::move(formel));
+        for (const std::string& zeile : zeilen) anmerkung(zeile);
+    }
+
+    void anmerkung(const std::string& zeile) {
+        const double abstand = rest_ > 0 ? zeileKlein : 0.4;
+        b_.neu(Textzeile{.stil = Stil::anmerkung, .abstand = abstand, .text = zeile, .spalte = spaltePunkt});
+        rest_ = zeileKlein;
     }
 
     const Darstellung d_;
     const Wand& w_;
+    Formelsatz* const satz_;
     Berichtsbau b_;
+    double rest_ = 0;  // mm from the cursor to the lower edge of what stands there
     std::set<std::pair<std::string, std::vector<double>>> gezeigt_;
     std::set<const Stand*> genannt_;
 };
 
+// All numbers that a run leaves behind.
+std::vector<double> ergebnisse(const Wand& w) {
+    std::vector<double> werte;
+    const auto sammle = [&](const Feldangabe&, const auto& feld) {
+        if constexpr (requires { feld(1).value(); }) {
+            for (int i = 0; i < static_cast<int>(Rippenfeld::laenge); ++i) werte.push_back(feld(i).value());
+        } else if constexpr (requires { feld.value(); }) {
+            werte.push_back(static_cast<double>(feld.value()));
+        }
+    };
+    jedesErgebnis(w, sammle);
+    return werte;
+}
+
 }  // namespace
 
 std::string laufart(const Wand& vorDemLauf) {
-    Wand vergleich = vorDemLauf;
-    static_cast<Ergebnisse&>(vergleich) = ergebnisseNachProgrammstart();
-    zuweisen(vergleich, grundmasse(vergleich));
     Wand ist = vorDemLauf;
     zuweisen(ist, grundmasse(ist));
-    bool gleich = true;
-    std::vector<double> werte;
-    std::size_t stelle = 0;
-    bool sammeln = true;
-    const auto besuche = [&](const Feldangabe&, const auto& feld) {
-        const auto nimm = [&](double wert) {
-            if (sammeln) {
-                werte.push_back(wert);
-            } else {
-                gleich = gleich && werte[stelle++] == wert;
-            }
-        };
-        if constexpr (requires { feld(1).value(); }) {
-            for (int i = 0; i < static_cast<int>(Rippenfeld::laenge); ++i) nimm(feld(i).value());
-        } else if constexpr (requires { feld.value(); }) {
-            nimm(static_cast<double>(feld.value()));
-        }
-    };
-    jedesErgebnis(std::as_const(vergleich), besuche);
-    sammeln = false;
-    jedesErgebnis(std::as_const(ist), besuche);
-    return gleich ? "erster Lauf, ohne Ergebnisse früherer Läufe"
-                  : "weiterer Lauf: Felder, die er nicht zuweist, behalten den Stand früherer Läufe";
+    const std::vector<double> gesucht = ergebnisse(ist);
+    Wand w = vorDemLauf;
+    static_cast<Ergebnisse&>(w) = ergebnisseNachProgrammstart();
+    zuweisen(w, grundmasse(w));
+    if (ergebnisse(w) == gesucht) return "erster Lauf, ohne Ergebnisse früherer Läufe";
+    constexpr int laeufe = 3;  // by then the results of equal inputs have settled
+    for (int lauf = 1; lauf <= laeufe; ++lauf) {
+        berechnungslauf(w);
+        zuweisen(w, grundmasse(w));
+        if (ergebnisse(w) == gesucht) return "zweiter oder späterer Lauf mit denselben Eingaben";
+    }
+    return "Lauf nach einer anderen Wand oder anderen Eingaben: was er nicht zuweist, behält den früheren "
+           "Stand";
 }
 
-Bericht rechenweg(const Graph& graph, const Wand& w, const Pruefblatt& blatt) {
-    return Rechenwegbau(graph, w).baue(blatt);
+Pruefblatt pruefblatt(const Wand& vorDemLauf, std::string datei, std::string_view bytes) {
+    return {std::string(Programmzeile) + ", Version " + std::string(programmversion()), std::move(datei),
+            bytes.empty() ? "" : sha256(bytes), laufart(vorDemLauf)};
+}
+
+Bericht rechenweg(const Graph& graph, const Wand& w, const Pruefblatt& blatt, Formelsatz* satz) {
+    return Rechenwegbau(graph, w, satz).baue(blatt);
 }
 
 }  // namespace rippenscheibe

@@ -186,6 +186,18 @@ TEST(Herleitung, TheToolTellsTheFieldsAskedFor) {
               std::string::npos);
 }
 
+TEST(Herleitung, TheToolWritesTheDocumentToAFile) {
+    const fs::path datei = fs::temp_directory_path() / "rippenscheibe-herleitung.rtf";
+    const std::string wand = std::string(RIPPENSCHEIBE_BEISPIELE) + "/zweiseitig.rsw";
+    EXPECT_EQ(tool({"herleite", wand, "--ausgabe", "rtf", "-o", datei.string()}).find("{\\rtf1"),
+              std::string::npos);
+    const std::string rtf = liesDatei(datei).bytes;
+    EXPECT_TRUE(rtf.starts_with("{\\rtf1"));
+    EXPECT_NE(rtf.find("SHA-256 der Datei: "), std::string::npos);
+    EXPECT_NE(rtf.find("fm,d = kmod,Rippen"), std::string::npos);
+    fs::remove(datei);
+}
+
 TEST(Herleitung, AStepReadsAsFormulaNumbersAndReason) {
     Wand w = vorgabewand();
     EXPECT_NE(gelesen(w, "Rd1").find("= min("), std::string::npos);

@@ -2,14 +2,15 @@
 
 #include <algorithm>
 
+#include "report/Seiten.h"
 #include "report/Textausgabe.h"
 #include "run/Berechnungslauf.h"
+#include "support/Aufzeichnung.h"
 #include "support/Walls.h"
 #include "trace/Darstellung.h"
 #include "trace/Herleitung.h"
 #include "trace/Pruefsumme.h"
 #include "trace/Rechenweg.h"
-#include "trace/Zeichen.h"
 
 namespace rippenscheibe {
 namespace {
@@ -58,7 +59,7 @@ TEST(Rechenweg, TellsEachStepOnceInTheOrderOfTheReport) {
     EXPECT_LT(text.find("\nfm,d = "), text.find("\nRd,1 = "));
     EXPECT_LT(text.find("\nRd,1 = "), text.find("\nuges,T = "));
     EXPECT_NE(text.find("3. Durchgang"), std::string::npos) << "the loads are reduced from pass to pass";
-    EXPECT_EQ(wieOft(text, "\n- jeder Durchgang eines Laufs mindert"), 1U)
+    EXPECT_EQ(wieOft(text, "\n– jeder Durchgang eines Laufs mindert"), 1U)
         << "the first page says what is odd";
     EXPECT_GE(wieOft(text, "so vorgegeben: jeder Durchgang eines Laufs mindert"), 1U);
     EXPECT_NE(text.find("Rippen 2 bis 8"), std::string::npos) << "inner ribs that are alike";
@@ -70,16 +71,45 @@ TEST(Rechenweg, TellsTheKindOfRunOnItsFirstPage) {
     zuweisen(w, grundmasse(w));
     EXPECT_NE(dokument(w).text.find("erster Lauf"), std::string::npos);
     berechnungslauf(w);
-    EXPECT_NE(dokument(w).text.find("weiterer Lauf"), std::string::npos);
+    EXPECT_NE(dokument(w).text.find("zweiter oder späterer Lauf"), std::string::npos);
+    w.av[Seite::eins] = 35;
+    EXPECT_NE(dokument(w).text.find("nach einer anderen Wand"), std::string::npos);
 }
 
-TEST(Rechenweg, KeepsItsLinesWithinThePage) {
-    for (const Zeile& zeile : dokument(wand()).bericht) {
-        const auto* text = std::get_if<Textzeile>(&zeile);
-        if (text == nullptr || !text->text) continue;
+// Formulas of one height.
+class Satz : public Formelsatz {
+  public:
+    static constexpr double hoehe = 15;
+    Formelzeile schritt(const Darstellung&, const herleitung::Schritt&) override { return {.hoehe = hoehe}; }
+    Formelzeile ausdruck(const Darstellung&, herleitung::Ort) override { return {.hoehe = hoehe}; }
+};
+class Flaeche : public tests::Aufzeichnung {
+  public:
+    void formel(int, double, double y) override {
+        ++formeln;
+        tiefste = std::max(tiefste, y + Satz::hoehe);
+    }
+    int formeln = 0;
+    double tiefste = 0;
+};
+
+TEST(Rechenweg, KeepsItsFormulasAndLinesWithinThePage) {
+    Wand w = wand();
+    const herleitung::Graph graph = leiteHer(w, grundmasse(w));
+    zuweisen(w, grundmasse(w));
+    berechnungslauf(w);
+    Satz satz;
+    Flaeche flaeche;
+    const Bericht b = rechenweg(graph, w, {"Programm", "W1.rsw", sha256(""), "Lauf"}, &satz);
+    EXPECT_EQ(druckeSeiten(flaeche, b, {}).seiten, flaeche.seiten);
+    EXPECT_GT(flaeche.formeln, 200);
+    EXPECT_LE(flaeche.tiefste, 265);
+    EXPECT_GT(flaeche.zeile("Gewählte Verfahren").seite, 0);
+    for (const auto& eintrag : flaeche.nur(tests::Aufzeichnung::Art::text)) {
+        EXPECT_LE(eintrag.wo.y, 265) << eintrag.text;
         const auto zeichen = std::ranges::count_if(
-            *text->text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
-        EXPECT_LE(zeichen, text->stil == Stil::klein ? 110 : 90) << *text->text;
+            eintrag.text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
+        EXPECT_LE(zeichen, eintrag.schrift.groesse == 8 ? 125 : 95) << eintrag.text;
     }
 }
 

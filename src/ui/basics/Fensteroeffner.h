@@ -27,6 +27,7 @@ enum class Fensterart {
     auslegen,             // Auslegen
     einfluss,             // Einfluss
     druck,                // Form6
+    rechenweg,            // Form6 with the derivation
     ergebnisse,           // Form23
     ueber,                // Ueber
 };

@@ -50,6 +50,7 @@ class Programm : public QObject {
     QString DialogDateiname;                  // the file name that the file dialog holds
     std::optional<std::size_t> Dateistand;    // hash of the open file as this program read or wrote it
     std::optional<int> Ergebnisziel;          // the section 5.x at which the result view opens
+    std::string Feldziel;                     // the input at which its dialog opens, "" for the first
     QString DialogOrdner;                     // its initial folder
     std::unique_ptr<Fensteroeffner> fenster;  // makes the windows that others ask for; set by the main window
 

@@ -18,14 +18,13 @@ using namespace herleitung;  // expressions are all this file is about
 namespace {
 
 constexpr double verkleinerung = 0.72;  // of indices and exponents
-constexpr double kleinste = 8;          // px
-constexpr double strich = 1;            // px, rules of fractions and roots
 
 QFont schrift(const QString& familie, const Formelkasten& k) {
     QFont f(familie);
     f.setPixelSize(std::max(1, qRound(k.groesse)));
     f.setItalic(k.kursiv);
     f.setBold(k.fett);
+    f.setHintingPreference(QFont::PreferNoHinting);
     return f;
 }
 
@@ -34,19 +33,48 @@ QFont schrift(const QString& familie, const Formelkasten& k) {
 // Builds the boxes of a formula from its expression.
 class Formelsetzer {
   public:
-    Formelsetzer(const Darstellung& d, Formelbild& bild, const QFont& font) : d_(d), bild_(bild) {
-        bild_.familie_ = font.family();
-        groesse_ = font.pixelSize() > 0 ? font.pixelSize() : QFontMetricsF(font).height() * 0.8;
-        groesse_ *= 1.15;
+    Formelsetzer(const Darstellung& d, Formelbild& bild, const Formelmass& mass)
+        : d_(d), bild_(bild), mass_(mass), groesse_(mass.groesse) {
+        bild_.familie_ = mass.familie;
+        bild_.strich_ = mass.strich;
     }
 
     using Index = std::size_t;
 
-    void zeile(const std::vector<Index>& teile) {
+    void zeile(const std::vector<Index>& teile, double x = 0) {
         const Index reihe = nebeneinander(teile);
-        const double y = bild_.zeilen_.empty() ? 0 : unterkante_ + 0.6 * groesse_;
-        bild_.zeilen_.push_back({{0, y + k(reihe).oben}, reihe});
+        const double y = bild_.zeilen_.empty() ? 0 : unterkante_ + mass_.zeilenluft;
+        bild_.zeilen_.push_back({{x, y + k(reihe).oben}, reihe});
         unterkante_ = y + k(reihe).oben + k(reihe).unten;
+    }
+
+    // "links = symbols = numbers = value": in one row if the measure asks for it, else in rows whose signs of
+    // equality stand below each other.
+    void gleichung(Index links, Ort ausdruck, const QString& wert) {
+        const Index gleich = wort(QStringLiteral(" = "));
+        const bool nurWert = ausdruck == keiner;
+        const bool rechnet = !nurWert && !istBlatt(d_.knoten(ausdruck).op) &&
+                             d_.symbolisch(ausdruck) != d_.eingesetzt(ausdruck);
+        const std::vector<Index> zeichen =
+            nurWert ? std::vector<Index>() : glieder(ausdruck, Formelstil::zeichen);
+        const std::vector<Index> zahlen =
+            rechnet ? glieder(ausdruck, Formelstil::zahlen) : std::vector<Index>();
+        const std::vector<Index> ergebnis{gleich, wort(wert, false, true)};
+        std::vector<Index> alles{links};
+        for (const std::vector<Index>* stueck : {&zeichen, &zahlen}) {
+            if (stueck->empty()) continue;
+            alles.push_back(gleich);
+            alles.insert(alles.end(), stueck->begin(), stueck->end());
+        }
+        alles.insert(alles.end(), ergebnis.begin(), ergebnis.end());
+        if (nurWert || (mass_.einzeilig && breite(alles) <= mass_.breite)) return zeile(alles);
+
+        const double einzug = k(links).breite;
+        umbrich({links, gleich}, zeichen, 0, einzug + k(gleich).breite);
+        if (!zahlen.empty()) umbrich({gleich}, zahlen, einzug, einzug + k(gleich).breite);
+        zeile(ergebnis, einzug);
+        const double b = bild_.groesse().width();
+        if (mass_.einzeilig && b > mass_.breite) bild_.massstab_ = mass_.breite / b;
     }
 
     Index wort(const QString& text, bool kursiv = false, bool fett = false) {
@@ -129,6 +157,10 @@ class Formelsetzer {
     // Indices stand in braces behind a line; letters of the symbol itself are slanted.
     std::vector<Index> symbol(std::string_view zeichen) {
         std::vector<Index> teile;
+        if (constexpr std::string_view groesstes = "max "; zeichen.starts_with(groesstes)) {
+            teile.push_back(wort(qtext(groesstes)));
+            zeichen.remove_prefix(groesstes.size());
+        }
         while (!zeichen.empty()) {
             const std::size_t anfang = zeichen.find("_{");
             if (anfang != 0) {
@@ -145,16 +177,58 @@ class Formelsetzer {
 
     Index tiefer(const QString& text) {
         const double vorher = groesse_;
-        groesse_ = std::max(kleinste, groesse_ * verkleinerung);
+        groesse_ = std::max(mass_.kleinste, groesse_ * verkleinerung);
         const Index index = wort(text);
         groesse_ = vorher;
         Formelkasten kasten;
         const double tiefe = 0.22 * groesse_;
-        kasten.breite = k(index).breite + 1;
+        kasten.breite = k(index).breite + mass_.strich;
         kasten.oben = k(index).oben - tiefe;
         kasten.unten = k(index).unten + tiefe;
         kasten.teile = {{{0, tiefe}, index}};
         return neu(std::move(kasten));
+    }
+
+    double breite(const std::vector<Index>& teile) {
+        double summe = 0;
+        for (const Index teil : teile) summe += k(teil).breite;
+        return summe;
+    }
+
+    // A row and as many more as it takes, each but the first from `einzug` on.
+    void umbrich(std::vector<Index> reihe, const std::vector<Index>& teile, double x, double einzug) {
+        double b = x + breite(reihe);
+        bool leer = true;
+        for (const Index teil : teile) {
+            if (!leer && mass_.breite > 0 && b + k(teil).breite > mass_.breite) {
+                zeile(reihe, x);
+                reihe.clear();
+                b = x = einzug;
+            }
+            reihe.push_back(teil);
+            b += k(teil).breite;
+            leer = false;
+        }
+        zeile(reihe, x);
+    }
+
+    // Where a sum or a product may break: its terms, each behind its sign.
+    std::vector<Index> glieder(Ort ort, Formelstil stil) {
+        const Knoten& x = d_.knoten(ort);
+        const bool summe = x.op == Op::plus || x.op == Op::minus;
+        if (!summe && x.op != Op::mal) return {setze(ort, stil)};
+        const Op links = d_.knoten(x.a).op;
+        const bool kette = summe ? links == Op::plus || links == Op::minus : links == Op::mal;
+        std::vector<Index> teile = kette   ? glieder(x.a, stil)
+                                   : summe ? std::vector{setze(x.a, stil)}
+                                           : std::vector{geklammertWenn(x.a, stil, istStrich)};
+        const Index zeichen = wort(x.op == Op::plus    ? QStringLiteral(" + ")
+                                   : x.op == Op::minus ? QStringLiteral(" − ")
+                                                       : QStringLiteral(" · "));
+        const Index rechts = geklammertWenn(
+            x.b, stil, [&](Op op) { return x.op == Op::plus ? op == Op::negativ : istStrich(op); });
+        teile.push_back(nebeneinander({zeichen, rechts}));
+        return teile;
     }
 
     template <class Bedingung>
@@ -195,8 +269,8 @@ class Formelsetzer {
         const double rechts = art == Formelkasten::Art::wurzel ? 0.15 * groesse_ : 0.35 * groesse_;
         kasten.groesse = groesse_;
         kasten.breite = links + k(innen).breite + rechts;
-        kasten.oben = k(innen).oben + (art == Formelkasten::Art::wurzel ? 3 : 1);
-        kasten.unten = k(innen).unten + 1;
+        kasten.oben = k(innen).oben + (art == Formelkasten::Art::wurzel ? 3 : 1) * mass_.strich;
+        kasten.unten = k(innen).unten + mass_.strich;
         kasten.teile = {{{links, 0}, innen}};
         return neu(std::move(kasten));
     }
@@ -207,15 +281,15 @@ class Formelsetzer {
         const Index basis =
             blattUnten ? geklammertWenn(x.a, stil, [](Op) { return false; }) : klammern(setze(x.a, stil));
         const double vorher = groesse_;
-        groesse_ = std::max(kleinste, groesse_ * verkleinerung);
+        groesse_ = std::max(mass_.kleinste, groesse_ * verkleinerung);
         const Index exponent = setze(x.b, stil);
         groesse_ = vorher;
         Formelkasten kasten;
         const double hoehe = k(basis).oben - 0.45 * k(exponent).oben;
-        kasten.breite = k(basis).breite + k(exponent).breite + 1;
+        kasten.breite = k(basis).breite + k(exponent).breite + mass_.strich;
         kasten.oben = std::max(k(basis).oben, hoehe + k(exponent).oben);
         kasten.unten = k(basis).unten;
-        kasten.teile = {{{0, 0}, basis}, {{k(basis).breite + 1, -hoehe}, exponent}};
+        kasten.teile = {{{0, 0}, basis}, {{k(basis).breite + mass_.strich, -hoehe}, exponent}};
         return neu(std::move(kasten));
     }
 
@@ -258,6 +332,14 @@ class Formelsetzer {
         return nebeneinander({name, neu(std::move(spalte))});
     }
 
+    Index stift() {
+        Formelkasten kasten;
+        kasten.art = Formelkasten::Art::stift;
+        kasten.groesse = 0.62 * groesse_;
+        kasten.breite = kasten.oben = kasten.groesse;
+        return neu(std::move(kasten));
+    }
+
     Index blatt(Ort ort, Formelstil stil) {
         const Knoten& x = d_.knoten(ort);
         const bool fuehrtWeiter = x.op == Op::stand || x.op == Op::eigenes;
@@ -271,49 +353,55 @@ class Formelsetzer {
         } else {
             kasten = wort(qtext(d_.blattzeichen(ort)));
         }
+        const Stand* stand = d_.standAus(ort);
+        if (mass_.stifte && stil == Formelstil::zeichen && stand != nullptr && d_.feld(*stand).eingabe)
+            kasten = nebeneinander({kasten, stift()});
         if (fuehrtWeiter) k(kasten).knoten = ort;
         return kasten;
     }
 
     const Darstellung& d_;
     Formelbild& bild_;
-    double groesse_ = 14;
+    const Formelmass& mass_;
+    double groesse_;
     double unterkante_ = 0;
 };
 
-namespace {
-
-void setzeZeilen(Formelsetzer& s, const Darstellung& d, Ort ausdruck, std::size_t links,
-                 const QString& wert) {
-    const QString gleich = QStringLiteral(" = ");
-    s.zeile({links, s.wort(gleich), s.setze(ausdruck, Formelstil::zeichen)});
-    const bool rechnet = d.symbolisch(ausdruck) != d.eingesetzt(ausdruck);
-    if (rechnet && !istBlatt(d.knoten(ausdruck).op))
-        s.zeile({s.wort(gleich), s.setze(ausdruck, Formelstil::zahlen)});
-    s.zeile({s.wort(gleich), s.wort(wert, false, true)});
+void zeichneStift(QPainter& maler, const QRectF& r) {
+    const auto punkt = [&](double x, double y) {
+        return QPointF(r.x() + x * r.width(), r.y() + y * r.height());
+    };
+    maler.drawPolygon(QPolygonF(
+        {punkt(0.05, 0.95), punkt(0.12, 0.68), punkt(0.72, 0.08), punkt(0.92, 0.28), punkt(0.32, 0.88)}));
+    maler.drawLine(punkt(0.58, 0.22), punkt(0.78, 0.42));
 }
 
-}  // namespace
+Formelmass schirmmass(const QFont& schrift, double breite) {
+    const double groesse =
+        1.15 * (schrift.pixelSize() > 0 ? schrift.pixelSize() : QFontMetricsF(schrift).height() * 0.8);
+    return {.familie = schrift.family(),
+            .groesse = groesse,
+            .zeilenluft = 0.6 * groesse,
+            .breite = breite,
+            .stifte = true};
+}
 
 Formelbild Formelbild::gleichung(const Darstellung& d, const herleitung::Schritt& schritt,
-                                 const QFont& schrift) {
+                                 const Formelmass& mass) {
     Formelbild bild;
-    Formelsetzer s(d, bild, schrift);
+    Formelsetzer s(d, bild, mass);
     const Stand& stand = d.stand(schritt);
     const QString wert = schritt.behalten ? QStringLiteral("ohne Wert") : qtext(d.wertMitEinheit(stand));
     const Op op = d.knoten(schritt.ausdruck).op;
-    if (op == Op::zahl || op == Op::tabelle) {
-        s.zeile({s.zeichen(stand), s.wort(QStringLiteral(" = ")), s.wort(wert, false, true)});
-    } else {
-        setzeZeilen(s, d, schritt.ausdruck, s.zeichen(stand), wert);
-    }
+    const bool nurWert = op == Op::zahl || op == Op::tabelle;
+    s.gleichung(s.zeichen(stand), nurWert ? keiner : schritt.ausdruck, wert);
     return bild;
 }
 
-Formelbild Formelbild::ausdruck(const Darstellung& d, Ort ort, const QFont& schrift) {
+Formelbild Formelbild::ausdruck(const Darstellung& d, Ort ort, const Formelmass& mass) {
     Formelbild bild;
-    Formelsetzer s(d, bild, schrift);
-    setzeZeilen(s, d, ort, s.wort(QStringLiteral("im Bericht")), qtext(lesbar(d.knoten(ort).wert)));
+    Formelsetzer s(d, bild, mass);
+    s.gleichung(s.wort(QStringLiteral("im Bericht")), ort, qtext(lesbar(d.knoten(ort).wert)));
     return bild;
 }
 
@@ -323,75 +411,85 @@ QSizeF Formelbild::groesse() const {
         const Formelkasten& k = kaesten_[zeile.kasten];
         groesse = groesse.expandedTo({zeile.ort.x() + k.breite, zeile.ort.y() + k.unten});
     }
-    return groesse;
+    return groesse * massstab_;
 }
+
+double Formelbild::breiteErsteZeile() const {
+    return zeilen_.empty() ? 0 : massstab_ * kaesten_[zeilen_.front().kasten].breite;
+}
+
+double Formelbild::grundlinie() const { return zeilen_.empty() ? 0 : massstab_ * zeilen_.front().ort.y(); }
 
 namespace {
 
 // The signs around the parts of a box at `o`, its left end on the base line.
-void maleBruchstrich(QPainter& maler, const Formelkasten& k, QPointF o) {
-    maler.drawLine(QPointF(o.x() + 1, o.y() - k.groesse), QPointF(o.x() + k.breite - 1, o.y() - k.groesse));
+void maleBruchstrich(QPainter& maler, const Formelkasten& k, QPointF o, double strich) {
+    maler.drawLine(QPointF(o.x() + strich, o.y() - k.groesse),
+                   QPointF(o.x() + k.breite - strich, o.y() - k.groesse));
 }
 
-void maleWurzel(QPainter& maler, const Formelkasten& k, QPointF o) {
+void maleWurzel(QPainter& maler, const Formelkasten& k, QPointF o, double strich) {
     const double oben = o.y() - k.oben;
     const double unten = o.y() + k.unten;
     const double r = 0.75 * k.groesse;
     maler.drawPolyline(QPolygonF({{o.x() + 0.1 * r, o.y() - 0.3 * k.groesse},
                                   {o.x() + 0.3 * r, o.y() - 0.4 * k.groesse},
-                                  {o.x() + 0.6 * r, unten - 1},
-                                  {o.x() + 0.95 * r, oben + 1},
-                                  {o.x() + k.breite - 1, oben + 1}}));
+                                  {o.x() + 0.6 * r, unten - strich},
+                                  {o.x() + 0.95 * r, oben + strich},
+                                  {o.x() + k.breite - strich, oben + strich}}));
 }
 
-void maleKlammern(QPainter& maler, const Formelkasten& k, QPointF o) {
+void maleKlammern(QPainter& maler, const Formelkasten& k, QPointF o, double strich) {
     const double oben = o.y() - k.oben;
     const double unten = o.y() + k.unten;
     const double b = 0.22 * k.groesse;
     for (const double seite : {1.0, -1.0}) {
-        const double x = seite > 0 ? o.x() + 2 : o.x() + k.breite - 2;
+        const double x = seite > 0 ? o.x() + 2 * strich : o.x() + k.breite - 2 * strich;
         QPainterPath bogen(QPointF(x + seite * b, oben));
         bogen.quadTo(QPointF(x - seite * b, (oben + unten) / 2), QPointF(x + seite * b, unten));
         maler.drawPath(bogen);
     }
 }
 
-void maleSchranken(QPainter& maler, const Formelkasten& k, QPointF o) {
-    for (const double x : {o.x() + 3, o.x() + k.breite - 3})
+void maleSchranken(QPainter& maler, const Formelkasten& k, QPointF o, double strich) {
+    for (const double x : {o.x() + 3 * strich, o.x() + k.breite - 3 * strich})
         maler.drawLine(QPointF(x, o.y() - k.oben), QPointF(x, o.y() + k.unten));
 }
 
 // One large brace at the left.
-void maleListe(QPainter& maler, const Formelkasten& k, QPointF o) {
+void maleListe(QPainter& maler, const Formelkasten& k, QPointF o, double strich) {
     const double oben = o.y() - k.oben;
     const double unten = o.y() + k.unten;
     const double x = o.x() + 0.15 * k.groesse;
     const double b = 0.3 * k.groesse;
     const double mitte = (oben + unten) / 2;
-    QPainterPath bogen(QPointF(x + b, oben + 1));
-    bogen.quadTo(QPointF(x, oben + 1), QPointF(x + b / 2, (oben + mitte) / 2));
-    bogen.quadTo(QPointF(x + b / 2, mitte - 2), QPointF(x, mitte));
-    bogen.quadTo(QPointF(x + b / 2, mitte + 2), QPointF(x + b / 2, (unten + mitte) / 2));
-    bogen.quadTo(QPointF(x, unten - 1), QPointF(x + b, unten - 1));
+    QPainterPath bogen(QPointF(x + b, oben + strich));
+    bogen.quadTo(QPointF(x, oben + strich), QPointF(x + b / 2, (oben + mitte) / 2));
+    bogen.quadTo(QPointF(x + b / 2, mitte - 2 * strich), QPointF(x, mitte));
+    bogen.quadTo(QPointF(x + b / 2, mitte + 2 * strich), QPointF(x + b / 2, (unten + mitte) / 2));
+    bogen.quadTo(QPointF(x, unten - strich), QPointF(x + b, unten - strich));
     maler.drawPath(bogen);
 }
 
-void maleZeichen(QPainter& maler, const Formelkasten& k, QPointF o, const QString& familie) {
+void maleZeichen(QPainter& maler, const Formelkasten& k, QPointF o, const QString& familie, double strich) {
     switch (k.art) {
         case Formelkasten::Art::text:
             maler.setFont(schrift(familie, k));
             maler.drawText(o, k.text);
             break;
         case Formelkasten::Art::bruch:
-            return maleBruchstrich(maler, k, o);
+            return maleBruchstrich(maler, k, o, strich);
         case Formelkasten::Art::wurzel:
-            return maleWurzel(maler, k, o);
+            return maleWurzel(maler, k, o, strich);
         case Formelkasten::Art::klammern:
-            return maleKlammern(maler, k, o);
+            return maleKlammern(maler, k, o, strich);
         case Formelkasten::Art::schranken:
-            return maleSchranken(maler, k, o);
+            return maleSchranken(maler, k, o, strich);
         case Formelkasten::Art::liste:
-            return maleListe(maler, k, o);
+            return maleListe(maler, k, o, strich);
+        case Formelkasten::Art::stift:
+            return zeichneStift(
+                maler, QRectF(o.x() + 0.15 * k.groesse, o.y() - k.oben, 0.85 * k.groesse, k.groesse));
         case Formelkasten::Art::reihe:
             break;
     }
@@ -403,12 +501,16 @@ void Formelbild::male(QPainter& maler, QPointF ecke, const QPalette& farben) con
     const std::function<void(const Formelkasten&, QPointF, bool)> male = [&](const Formelkasten& k, QPointF o,
                                                                              bool verweis) {
         verweis = verweis || k.knoten != keiner;
-        maler.setPen(QPen(farben.color(verweis ? QPalette::Link : QPalette::Text), strich));
-        maleZeichen(maler, k, o, familie_);
+        maler.setPen(QPen(farben.color(verweis ? QPalette::Link : QPalette::Text), strich_));
+        maleZeichen(maler, k, o, familie_, strich_);
         for (const Formelkasten::Teil& teil : k.teile) male(kaesten_[teil.kasten], o + teil.ort, verweis);
     };
+    maler.save();
+    maler.translate(ecke);
+    maler.scale(massstab_, massstab_);
     maler.setBrush(Qt::NoBrush);
-    for (const Formelkasten::Teil& zeile : zeilen_) male(kaesten_[zeile.kasten], ecke + zeile.ort, false);
+    for (const Formelkasten::Teil& zeile : zeilen_) male(kaesten_[zeile.kasten], zeile.ort, false);
+    maler.restore();
 }
 
 std::optional<Ort> Formelbild::treffer(QPointF punkt) const {
@@ -418,6 +520,7 @@ std::optional<Ort> Formelbild::treffer(QPointF punkt) const {
         if (innen && k.knoten != keiner) gefunden = k.knoten;
         for (const Formelkasten::Teil& teil : k.teile) suche(kaesten_[teil.kasten], o + teil.ort);
     };
+    punkt /= massstab_;
     for (const Formelkasten::Teil& zeile : zeilen_) suche(kaesten_[zeile.kasten], zeile.ort);
     return gefunden;
 }

@@ -1,5 +1,6 @@
 #include "ui/derivation/Herleitungsansicht.h"
 
+#include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -10,8 +11,6 @@
 #include <utility>
 #include <variant>
 
-#include "report/Bericht.h"
-#include "report/Fliesstext.h"
 #include "trace/Formel.h"
 #include "trace/Herleitung.h"
 #include "ui/basics/Fensteroeffner.h"
@@ -25,6 +24,21 @@ namespace {
 
 constexpr int raster = 8;
 constexpr double rand = 6;  // around a formula, px
+
+// The pencil of an input, or as much room.
+QIcon zeilenbild(const QPalette& farben, bool eingabe) {
+    constexpr int seite = 16;
+    constexpr int dichte = 2;
+    QPixmap bild(seite * dichte, seite * dichte);
+    bild.setDevicePixelRatio(dichte);
+    bild.fill(Qt::transparent);
+    if (!eingabe) return bild;
+    QPainter maler(&bild);
+    maler.setRenderHint(QPainter::Antialiasing);
+    maler.setPen(farben.color(QPalette::Link));
+    zeichneStift(maler, QRectF(2, 2, seite - 4, seite - 4));
+    return bild;
+}
 
 // The dialog of each group of inputs; the three lengths of the wall stand in the main window.
 std::optional<Fensterart> dialogZu(std::string_view feld) {
@@ -137,17 +151,9 @@ Herleitungsansicht::Herleitungsansicht(Programm& programm, Meldungen& meldungen,
 bool Herleitungsansicht::leiteHer() {
     if (graph_ != nullptr) return true;
     if (vergeblich_) return false;
-    auto graph =
-        std::make_unique<Graph>(rippenscheibe::leiteHer(vorDemLauf_, programm_.felder, dezimalzeichen()));
-    std::vector<std::string> gezeigt;
-    for (const Zeile& zeile : bericht(nachDemLauf_, Form::ansicht, {.dezimalzeichen = dezimalzeichen()})) {
-        const auto* text = std::get_if<Textzeile>(&zeile);
-        if (text != nullptr && text->text) gezeigt.push_back(*text->text);
-    }
-    vergeblich_ =
-        !std::ranges::equal(gezeigt, graph->bericht, {}, {}, [](const Berichtszeile& z) { return z.text; });
+    graph_ = leiteLaufHer(vorDemLauf_, programm_.felder, nachDemLauf_, dezimalzeichen());
+    vergeblich_ = graph_ == nullptr;
     if (vergeblich_) return false;
-    graph_ = std::move(graph);
     d_ = std::make_unique<Darstellung>(*graph_);
     return true;
 }
@@ -223,18 +229,19 @@ void Herleitungsansicht::zeigePfad() {
 
 void Herleitungsansicht::zeige() {
     const Station& s = pfad_.back();
+    const Formelmass mass = schirmmass(font(), rahmen_->viewport()->width() - 2 * rand);
     zeigePfad();
     QStringList zeilen;
     if (s.schritt == keiner) {
         bedeutung_->setText(QStringLiteral("vom Bericht gebildet"));
-        formel_->zeige(Formelbild::ausdruck(*d_, s.ausdruck, font()), qtext(d_->symbolisch(s.ausdruck)));
+        formel_->zeige(Formelbild::ausdruck(*d_, s.ausdruck, mass), qtext(d_->symbolisch(s.ausdruck)));
     } else {
         const herleitung::Schritt& schritt = graph_->schritte[static_cast<std::size_t>(s.schritt)];
         const Stand& stand = d_->stand(schritt);
         QString bedeutung = qtext(d_->feld(stand).bedeutung);
         if (stand.rippe >= 0) bedeutung += QStringLiteral(", Rippe %1").arg(stand.rippe);
         bedeutung_->setText(bedeutung);
-        formel_->zeige(Formelbild::gleichung(*d_, schritt, font()), qtext(d_->zeile(schritt)));
+        formel_->zeige(Formelbild::gleichung(*d_, schritt, mass), qtext(d_->zeile(schritt)));
         for (const std::string& text : d_->anmerkungen(schritt)) zeilen << qtext(text);
     }
     anmerkungen_->setText(zeilen.join(QLatin1Char('\n')));
@@ -270,6 +277,7 @@ void Herleitungsansicht::woher(Ort knoten, bool bedingung) {
     }
     auto* zeile = new QListWidgetItem(text, woher_);
     zeile->setData(Qt::UserRole, knoten);
+    zeile->setIcon(zeilenbild(palette(), stand->schritt == keiner && feld.eingabe));
 }
 
 void Herleitungsansicht::waehle(const QListWidgetItem& zeile) {
@@ -283,13 +291,16 @@ void Herleitungsansicht::waehle(const QListWidgetItem& zeile) {
 }
 
 void Herleitungsansicht::oeffneEingabe(const Stand& stand) {
-    const std::optional<Fensterart> art = dialogZu(d_->feld(stand).name);
+    const std::string_view feld = d_->feld(stand).name;
+    const std::optional<Fensterart> art = dialogZu(feld);
     if (!art) {
         anmerkungen_->setText(qtext(d_->zeichen(stand)) +
                               QStringLiteral(" wird im Hauptfenster eingegeben."));
         return;
     }
+    programm_.Feldziel = feld == "hInnenrippe" ? "hRandrippe" : feld;  // one control for both
     oeffne(*art, programm_, meldungen_, window());
+    programm_.Feldziel.clear();
 }
 
 // No formula, only words.

@@ -66,6 +66,17 @@ void Eingabedialog::beginne() {
     laedt_ = false;
     folgeAenderungen();
     zeichneNeu();
+    geheZumFeld();
+}
+
+// To the control of the input that someone wants to see.
+void Eingabedialog::geheZumFeld() {
+    if (programm_.Feldziel.empty()) return;
+    const auto ziel = std::ranges::find(bindungen_, programm_.Feldziel, &Bindung::feld);
+    if (ziel == bindungen_.end()) return;
+    auto* feld = qobject_cast<QWidget*>(ziel->bedienung);
+    if (const auto* auswahl = qobject_cast<QButtonGroup*>(ziel->bedienung)) feld = auswahl->checkedButton();
+    if (feld != nullptr) feld->setFocus(Qt::TabFocusReason);
 }
 
 void Eingabedialog::folgeAenderungen() {

@@ -110,19 +110,22 @@ class Eingabedialog : public Fenster {
         bindungen_.push_back({[=](const Wand& w) {
                                   feld->setzeWert(static_cast<double>(std::invoke(ort, w).value()) / teiler);
                               },
-                              [=](Wand& w) { std::invoke(ort, w) = feld->wert() * teiler; }});
+                              [=](Wand& w) { std::invoke(ort, w) = feld->wert() * teiler; }, angabe(ort).name,
+                              feld});
         return feld;
     }
     template <class Ort>
     void binde(const Ort& ort, QCheckBox* feld) {
         bindungen_.push_back({[=](const Wand& w) { feld->setChecked(std::invoke(ort, w)); },
-                              [=](Wand& w) { std::invoke(ort, w) = feld->isChecked(); }});
+                              [=](Wand& w) { std::invoke(ort, w) = feld->isChecked(); }, angabe(ort).name,
+                              feld});
         beschreibe(*feld, angabe(ort), zusatz(ort));
     }
     template <class Ort>
     void binde(const Ort& ort, QComboBox* feld) {
         bindungen_.push_back({[=](const Wand& w) { waehle(feld, std::invoke(ort, w)); },
-                              [=](Wand& w) { uebernimm(feld, std::invoke(ort, w)); }});
+                              [=](Wand& w) { uebernimm(feld, std::invoke(ort, w)); }, angabe(ort).name,
+                              feld});
         beschreibe(*feld, angabe(ort), zusatz(ort));
     }
     // Option buttons. A value that none of them stands for shows `sonst`; what was not changed is written
@@ -135,7 +138,8 @@ class Eingabedialog : public Fenster {
                               [=](Wand& w) {
                                   const std::optional<int> neu = gewaehlt(*auswahl, werte);
                                   if (neu) setze(std::invoke(ort, w), *neu);
-                              }});
+                              },
+                              angabe(ort).name, auswahl});
         for (QAbstractButton* knopf : auswahl->buttons()) beschreibe(*knopf, angabe(ort), zusatz(ort));
     }
 
@@ -169,6 +173,8 @@ class Eingabedialog : public Fenster {
     struct Bindung {
         std::function<void(const Wand&)> lade;
         std::function<void(Wand&)> schreibe;
+        std::string_view feld;  // its name
+        QObject* bedienung;     // a widget, or a group of buttons
     };
 
     template <class Ort>
@@ -190,6 +196,7 @@ class Eingabedialog : public Fenster {
     static std::optional<int> gewaehlt(const QButtonGroup& auswahl, const std::vector<Wahlwert>& werte);
 
     void uebernehmen();
+    void geheZumFeld();
     void zeichneNeu();
     void folgeAenderungen();
 

@@ -32,6 +32,10 @@ bool zeige(Programm& programm, Meldungen& meldungen, QWidget* fenster) {
     return Fensterklasse(programm, meldungen, fenster).exec() == QDialog::Accepted;
 }
 
+bool zeigeRechenweg(Programm& programm, Meldungen& meldungen, QWidget* fenster) {
+    return Form6(programm, meldungen, fenster, Form6::Wahl::rechenweg).exec() == QDialog::Accepted;
+}
+
 struct Eintrag {
     Fensterart art;
     bool (*zeige)(Programm&, Meldungen&, QWidget*);
@@ -57,6 +61,7 @@ constexpr Eintrag eintraege[] = {
     {Fensterart::auslegen, zeige<Auslegen>, "Auslegen"},
     {Fensterart::einfluss, zeige<Einfluss>, "Einfluss"},
     {Fensterart::druck, zeige<Form6>, "Druck"},
+    {Fensterart::rechenweg, zeigeRechenweg, "Rechenweg"},
     {Fensterart::ergebnisse, zeige<Form23>, "Ergebnisse"},
     {Fensterart::ueber, zeige<Ueber>, "Über"},
 };

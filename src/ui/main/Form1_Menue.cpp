@@ -61,6 +61,8 @@ Menue Form1::dateimenue() {
           [this] { rechneUndZeige(Fensterart::druck); }},
          {qtext("mnuFView"), qtext("Berechnung starten und Ergebnisse &einsehen"),
           [this] { rechneUndZeige(Fensterart::ergebnisse); }},
+         {qtext("mnuRechenweg"), qtext("Berechnung starten und &Rechenweg ausdrucken"),
+          [this] { rechneUndZeige(Fensterart::rechenweg); }},
          trenner,
          {qtext("mnuFClose"), qtext("Programm &beenden"), [this] { beende(); },
           QKeySequence(Qt::CTRL | Qt::Key_Q)}}};

@@ -21,7 +21,7 @@
 #include "ui/help/Handbuch.h"
 #include "ui/main/Form0_Startbild.h"
 #include "ui/main/Form1_Hauptfenster.h"
-#include "ui/paper/PdfBefehl.h"
+#include "ui/output/PdfBefehl.h"
 
 using namespace rippenscheibe;
 

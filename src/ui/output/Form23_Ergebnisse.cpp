@@ -157,6 +157,8 @@ void Form23::baueSchaltflaechen() {
           QStringLiteral("Speichert den ausführlichen Ausdruck als .PDF Datei"), &Form23::speichereAlsPdf);
     knopf(QStringLiteral("ComDruck"), QStringLiteral("Drucken"),
           QStringLiteral("Öffnet das Fenster zum Drucken"), &Form23::drucke, QKeySequence::Print);
+    knopf(QStringLiteral("ComRechenweg"), QStringLiteral("Rechenweg"),
+          QStringLiteral("Druckt und speichert, woher jede Zahl kommt"), &Form23::zeigeRechenweg);
     // Enter belongs to the text and to the search here.
     zurueck(QStringLiteral("ComEnde"))->setDefault(false);
 }
@@ -229,6 +231,8 @@ void Form23::fuegeSystembildEin() {
 }
 
 void Form23::drucke() { oeffne(Fensterart::druck, programm_, meldungen_, this); }
+
+void Form23::zeigeRechenweg() { oeffne(Fensterart::rechenweg, programm_, meldungen_, this); }
 
 void Form23::speichereAlsPdf() {
     speicherePdf(programm_, meldungen_, this,

@@ -37,6 +37,7 @@ class Form23 : public Fenster {
     void kopiere();
     void fuegeSystembildEin();
     void drucke();
+    void zeigeRechenweg();
     void speichereAlsPdf();
 
     void zeigeSuche();

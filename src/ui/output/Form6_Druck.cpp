@@ -20,7 +20,9 @@
 
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
+#include "ui/basics/Zieldatei.h"
 #include "ui/controls/Werteingabe.h"
+#include "ui/derivation/Rechenwegdruck.h"
 #include "ui/paper/Druckdialog.h"
 #include "ui/paper/Druckpuffer.h"
 
@@ -41,7 +43,7 @@ bool hatBemerkungen(const Wand& w) {
 
 }  // namespace
 
-Form6::Form6(Programm& programm, Meldungen& meldungen, QWidget* parent)
+Form6::Form6(Programm& programm, Meldungen& meldungen, QWidget* parent, Wahl wahl)
     : Fenster(programm, meldungen, parent, QStringLiteral("Form6"), QStringLiteral("   Drucken "),
               Tippen::aendertNichts),
       logo_(liesLogo(programm.ordner)) {
@@ -65,6 +67,8 @@ Form6::Form6(Programm& programm, Meldungen& meldungen, QWidget* parent)
     start->setDefault(true);
     QPushButton* alsPdf = schaltflaeche(QStringLiteral("ComPdf"), QStringLiteral("Als PDF speichern"));
     alsPdf->setToolTip(QStringLiteral("Schreibt den Ausdruck in eine PDF-Datei"));
+    alsRtf_ = schaltflaeche(QStringLiteral("ComRtf"), QStringLiteral("Als RTF speichern"));
+    alsRtf_->setToolTip(QStringLiteral("Schreibt den Rechenweg in eine RTF-Datei"));
     stopp_ = schaltflaeche(QStringLiteral("Command3"), QStringLiteral("Druck stoppen"));
     stopp_->setToolTip(QStringLiteral("Löscht den Druckauftrag"));
     stopp_->setEnabled(false);
@@ -73,10 +77,13 @@ Form6::Form6(Programm& programm, Meldungen& meldungen, QWidget* parent)
 
     connect(start, &QPushButton::clicked, this, &Form6::drucke);
     connect(alsPdf, &QPushButton::clicked, this, &Form6::speicherePdf);
+    connect(alsRtf_, &QPushButton::clicked, this, &Form6::speichereRtf);
     connect(stopp_, &QPushButton::clicked, this, [this] { gestoppt_ = true; });
     connect(abbruch, &QPushButton::clicked, this, &Form6::reject);
 
     lade();
+    if (wahl == Wahl::rechenweg) rechenweg_->setChecked(true);
+    waehleForm();
     folgeAenderungen();
     resize(1040, 720);
 }
@@ -113,7 +120,10 @@ QGroupBox* Form6::baueForm() {
     lang_->setChecked(true);
     auto* kurz = new QRadioButton(QStringLiteral("Kurzausdruck"), rahmen);
     kurz->setObjectName(QStringLiteral("Option1(0)"));
-    for (QRadioButton* knopf : {lang_, kurz}) {
+    rechenweg_ = new QRadioButton(QStringLiteral("Rechenweg"), rahmen);
+    rechenweg_->setObjectName(QStringLiteral("Option1(2)"));
+    rechenweg_->setToolTip(QStringLiteral("Woher jede Zahl des Berichts kommt, mit einem Prüfblatt davor"));
+    for (QRadioButton* knopf : {lang_, kurz, rechenweg_}) {
         knopf->setAccessibleName(knopf->text());
         reihe->addWidget(knopf);
     }
@@ -121,7 +131,7 @@ QGroupBox* Form6::baueForm() {
 }
 
 QGroupBox* Form6::baueUmfang() {
-    auto* rahmen = new QGroupBox(QStringLiteral("Umfang"), this);
+    auto* rahmen = umfang_ = new QGroupBox(QStringLiteral("Umfang"), this);
     rahmen->setObjectName(QStringLiteral("Frame4"));
     auto* reihe = new QVBoxLayout(rahmen);
     reihe->setSpacing(raster);
@@ -260,7 +270,23 @@ void Form6::setzeZaehlung(bool an) {
     index_->setEnabled(an);
 }
 
+// The derivation has no parts to choose from.
+void Form6::waehleForm() {
+    if (rechenweg_->isChecked() && dokument_ == nullptr) {
+        dokument_ = rechenwegdokument(letzterLauf(programm_));
+        if (dokument_ == nullptr) {
+            lang_->setChecked(true);
+            rechenweg_->setEnabled(false);
+            rechenweg_->setToolTip(
+                QStringLiteral("Der letzte Lauf ist nicht mehr bekannt: bitte neu berechnen."));
+        }
+    }
+    umfang_->setEnabled(!rechenweg_->isChecked());
+    alsRtf_->setEnabled(rechenweg_->isChecked());
+}
+
 void Form6::folgeAenderungen() {
+    connect(rechenweg_, &QRadioButton::toggled, this, &Form6::waehleForm);
     connect(seitenzahl_, &QCheckBox::toggled, this, &Form6::setzeZaehlung);
     // One new preview for a burst of changes.
     auto* uhr = new QTimer(this);
@@ -279,6 +305,7 @@ void Form6::folgeAenderungen() {
 Ausdruck Form6::ausdruck() const {
     Ausdruck a = standardausdruck(programm_.w, programm_.einstellungen, logo_);
     a.form = lang_->isChecked() ? Form::lang : Form::kurz;
+    if (rechenweg_->isChecked()) a.dokument = dokument_;
     a.optionen.Systemgrafik = systemgrafik_->isChecked();
     a.optionen.MitBemerkungen = bemerkungen_->isChecked();
     a.optionen.MitRandbedingungen = randbedingungen_->isChecked();
@@ -331,6 +358,7 @@ void Form6::drucke() {
     for (QPushButton* knopf : knoepfe) knopf->setEnabled(knopf == stopp_);
     const bool gesendet = setzeUndSende();
     for (QPushButton* knopf : knoepfe) knopf->setEnabled(knopf != stopp_);
+    alsRtf_->setEnabled(rechenweg_->isChecked());
     optionen_->setEnabled(true);
     druckt_ = false;
     if (gestoppt_) setWindowTitle(QStringLiteral(" Drucken"));
@@ -392,6 +420,19 @@ void Form6::speicherePdf() {
     uebernimmZaehlung();
     const auto ergebnis = rippenscheibe::speicherePdf(programm_, meldungen_, this, ausdruck());
     if (ergebnis) merkeSeite(*ergebnis);
+}
+
+void Form6::speichereRtf() {
+    const std::optional<QString> ziel =
+        waehleZiel(meldungen_, this,
+                   {.titel = QStringLiteral("Als RTF speichern"),
+                    .ordner = dialogordner(programm_),
+                    .vorschlag = dateivorschlag(programm_) + QStringLiteral(" Rechenweg.rtf"),
+                    .filter = QStringLiteral("Rich-Text-Format (*.RTF)"),
+                    .endung = QStringLiteral("rtf")});
+    if (!ziel) return;
+    if (const auto fehler = schreibeDauerhaft(pfad(*ziel), rechenwegRtf(letzterLauf(programm_))))
+        meldungen_.kritisch(this, QStringLiteral("Fehler"), qtext(fehler->text));
 }
 
 // The last page number printed, for the next opening of the window. The field stays: what is saved as PDF and

@@ -24,7 +24,9 @@ class Form6 : public Fenster {
     Q_OBJECT
 
   public:
-    Form6(Programm& programm, Meldungen& meldungen, QWidget* parent);
+    // What is chosen when it opens.
+    enum class Wahl { bericht, rechenweg };
+    Form6(Programm& programm, Meldungen& meldungen, QWidget* parent, Wahl wahl = Wahl::bericht);
 
     // Does nothing while a job runs but to stop it.
     void reject() override;
@@ -40,6 +42,7 @@ class Form6 : public Fenster {
 
     void lade();
     void setzeZaehlung(bool an);
+    void waehleForm();
     void folgeAenderungen();
 
     // What the controls say.
@@ -53,6 +56,7 @@ class Form6 : public Fenster {
     void zeigeAnlauf();
     void pruefeStopp() const;
     void speicherePdf();
+    void speichereRtf();
     void merkeSeite(const Druckergebnis& ergebnis);
 
     bool gestoppt_ = false;
@@ -60,10 +64,14 @@ class Form6 : public Fenster {
     int erstesBlatt_ = 1;  // of the pages that the user chose
     int letztesBlatt_ = 0;
     QImage logo_;
+    std::shared_ptr<const Dokument> dokument_;  // the derivation, made when it is first asked for
     QPrinter vorschaudrucker_{QPrinter::HighResolution};
 
     QWidget* optionen_;
     QRadioButton* lang_;
+    QRadioButton* rechenweg_;
+    QGroupBox* umfang_;
+    QPushButton* alsRtf_;
     QCheckBox* bemerkungen_;
     QCheckBox* systemgrafik_;
     QCheckBox* randbedingungen_;

@@ -28,6 +28,9 @@ class Seitenauswahl final : public Zeichenflaeche {
     void bild(Bild was, const Rechteck& rechteck) override {
         if (gewaehlt()) ziel_.bild(was, rechteck);
     }
+    void formel(int nummer, double x, double y) override {
+        if (gewaehlt()) ziel_.formel(nummer, x, y);
+    }
     void neueSeite() override {
         ++seite_;
         if (seite_ > von_ && seite_ <= bis_) ziel_.neueSeite();
@@ -74,6 +77,9 @@ void Druckpuffer::flaeche(const Rechteck& rechteck, Farbe farbe) {
 }
 void Druckpuffer::bild(Bild bild, const Rechteck& rechteck) {
     aufrufe_.emplace_back([bild, rechteck](Zeichenflaeche& f) { f.bild(bild, rechteck); });
+}
+void Druckpuffer::formel(int nummer, double x, double y) {
+    aufrufe_.emplace_back([nummer, x, y](Zeichenflaeche& f) { f.formel(nummer, x, y); });
 }
 void Druckpuffer::neueSeite() {
     if (vorSeite_) vorSeite_();

@@ -26,6 +26,7 @@ class Druckpuffer : public Zeichenflaeche {
     void rahmen(const Rechteck& rechteck, Farbe farbe) override;
     void flaeche(const Rechteck& rechteck, Farbe farbe) override;
     void bild(Bild bild, const Rechteck& rechteck) override;
+    void formel(int nummer, double x, double y) override;
     void neueSeite() override;
     double texthoehe(std::string_view text) const override;
     void lesezeichen(int rang, double y, std::string_view text) override;

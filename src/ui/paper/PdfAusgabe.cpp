@@ -48,6 +48,8 @@ QString dokumenttitel(const Wand& w) {
 }
 
 Druckergebnis setze(Zeichenflaeche& flaeche, const Wand& w, const Ausdruck& ausdruck) {
+    if (ausdruck.dokument != nullptr)
+        return druckeSeiten(flaeche, ausdruck.dokument->zeilen, ausdruck.auftrag);
     return druckeSeiten(flaeche, bericht(w, ausdruck.form, ausdruck.optionen), ausdruck.auftrag);
 }
 
@@ -56,7 +58,9 @@ std::optional<QString> aufGeraet(QPagedPaintDevice& geraet, const Wand& w, const
     QPainter painter;
     if (!painter.begin(&geraet)) return std::nullopt;
     Seitenmaler maler(painter, geraet.logicalDpiY() / mmJeZoll,
-                      {w, ausdruck.logo, ausdruck.optionen.dezimalzeichen}, [&] { geraet.newPage(); });
+                      {w, ausdruck.logo, ausdruck.optionen.dezimalzeichen,
+                       ausdruck.dokument != nullptr ? ausdruck.dokument->male : nullptr},
+                      [&] { geraet.newPage(); });
     zeichne(maler);
     if (!painter.end()) return std::nullopt;
     return maler.abgeschnitten();
@@ -100,7 +104,9 @@ std::optional<Druckergebnis> speicherePdf(Programm& programm, Meldungen& meldung
         waehleZiel(meldungen, fenster,
                    {.titel = QStringLiteral("Als PDF speichern"),
                     .ordner = dialogordner(programm),
-                    .vorschlag = dateivorschlag(programm) + QStringLiteral(".pdf"),
+                    .vorschlag = dateivorschlag(programm) + (ausdruck.dokument != nullptr
+                                                                 ? QStringLiteral(" Rechenweg.pdf")
+                                                                 : QStringLiteral(".pdf")),
                     .filter = QStringLiteral("PDF-Datei (*.pdf)"),
                     .endung = QStringLiteral("pdf")});
     if (!ziel) return std::nullopt;

@@ -4,11 +4,13 @@
 #include <QImage>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "files/Dateischreiber.h"
 #include "report/Bericht.h"
 #include "report/Seiten.h"
+#include "ui/paper/Dokument.h"
 
 class QPagedPaintDevice;
 class QWidget;
@@ -24,6 +26,7 @@ struct Ausdruck {
     Berichtsoptionen optionen;
     Druckauftrag auftrag;
     QImage logo;
+    std::shared_ptr<const Dokument> dokument;  // in place of the report
 };
 
 // The printout that the settings ask for. Pages are numbered from 1 when numbers are standard.

@@ -80,6 +80,10 @@ void Seitenmaler::bild(Bild bild, const Rechteck& rechteck) {
     painter_.restore();
 }
 
+void Seitenmaler::formel(int nummer, double x, double y) {
+    if (bilder_.formel) bilder_.formel(painter_, mm_, nummer, {x, y});
+}
+
 void Seitenmaler::neueSeite() {
     if (neueSeite_) neueSeite_();
 }

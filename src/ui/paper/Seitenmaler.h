@@ -21,6 +21,8 @@ class Seitenmaler final : public Zeichenflaeche {
         const Wand& w;
         QImage logo;
         char dezimalzeichen = ',';
+        // Draws a formula by its number; `mm` is the painter's unit for one.
+        std::function<void(QPainter&, double mm, int nummer, QPointF ort)> formel{};
     };
     // `mm` is the painter's unit for one millimetre; the painter's origin is the corner of the page.
     // `neueSeite` begins the next page.
@@ -32,6 +34,7 @@ class Seitenmaler final : public Zeichenflaeche {
     void rahmen(const Rechteck& rechteck, Farbe farbe) override;
     void flaeche(const Rechteck& rechteck, Farbe farbe) override;
     void bild(Bild bild, const Rechteck& rechteck) override;
+    void formel(int nummer, double x, double y) override;
     void neueSeite() override;
     double texthoehe(std::string_view text) const override;
 

@@ -10,7 +10,7 @@
 
 #include "faults/Fehlerprobe.h"
 #include "files/Pfad.h"
-#include "ui/paper/PdfBefehl.h"
+#include "ui/output/PdfBefehl.h"
 
 namespace rippenscheibe {
 namespace {

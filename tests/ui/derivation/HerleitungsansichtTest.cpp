@@ -78,6 +78,29 @@ TEST_F(Herleitungsspalte, LeadsFromAPrintedNumberDownToItsInputAndBack) {
     EXPECT_EQ(pfadtext(), QStringLiteral("Rd,1"));
 }
 
+TEST_F(Herleitungsspalte, AnInputOpensItsDialogAtItsControl) {
+    struct Fall {
+        Fensterart art;
+        const char* feld;
+        const char* bedienung;
+    };
+    constexpr std::array<Fall, 5> faelle{{{Fensterart::verbindungsmittel, "d1", "Textbox1(8)"},
+                                          {Fensterart::rippen, "hRandrippe", "Textbox1(0)"},
+                                          {Fensterart::belastung, "wk", "Textbox1(5)"},
+                                          {Fensterart::bemessung, "VertikallastVerteilung", "Option3(0)"},
+                                          {Fensterart::beplankung, "Plattenbreite1", "Textbox1(1)"}}};
+    Fensterfabrik fabrik;
+    for (const Fall& fall : faelle) {
+        programm.Feldziel = fall.feld;
+        QTimer::singleShot(0, [&] {
+            auto* dialog = QApplication::activeModalWidget();
+            EXPECT_EQ(dialog->focusWidget()->objectName().toStdString(), fall.bedienung) << fall.feld;
+            qobject_cast<QDialog*>(dialog)->reject();
+        });
+        fabrik.oeffne(fall.art, programm, meldungen, nullptr);
+    }
+}
+
 TEST_F(Herleitungsspalte, SaysSoWhenTheRunBeforeIsNotKnown) {
     programm.vorDemLauf.av[Seite::eins] = 20;
     oeffne();

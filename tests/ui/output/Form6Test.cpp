@@ -188,6 +188,28 @@ TEST_F(Druckfenster, APdfIsSavedAsShown) {
     EXPECT_EQ(meldungen.gezeigt.size(), 1U);
 }
 
+// What is told of a run needs the record before it.
+TEST_F(Druckfenster, TheDerivationTakesThePlaceOfTheReport) {
+    const auto fenster = neu();
+    klicke(*fenster, "Option1(2)");
+    EXPECT_TRUE(finde<QRadioButton>(*fenster, "Option1(1)").isChecked()) << "the run is not known";
+    EXPECT_FALSE(frei(*fenster, "Option1(2)"));
+
+    programm.vorDemLauf = programm.w = Wand();
+    rechne("windsog");
+    static_cast<Eingaben&>(programm.vorDemLauf) = programm.w;
+    Form6 druck(programm, meldungen, nullptr, Form6::Wahl::rechenweg);
+    EXPECT_FALSE(frei(druck, "Frame4"));
+    meldungen.dateien = {datei("r.pdf"), datei("r.rtf")};
+    klicke(druck, "ComPdf");
+    EXPECT_GT(inhalt(datei("r.pdf")).count("/Type /Page\n"), 8);
+    klicke(druck, "ComRtf");
+    EXPECT_TRUE(inhalt(datei("r.rtf")).contains("fm,d = kmod,Rippen"));
+    EXPECT_EQ(meldungen.gewaehlt[1].vorschlag, QStringLiteral("A 4-Außenwand im Sogbereich Rechenweg.rtf"));
+    klicke(druck, "Option1(0)");
+    EXPECT_FALSE(frei(druck, "ComRtf"));
+}
+
 TEST_F(Druckfenster, ThePreviewCountsThePagesOfTheChosenForm) {
     const auto fenster = neu();
     fenster->show();

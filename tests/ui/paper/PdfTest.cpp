@@ -5,9 +5,9 @@
 #include "files/Projektliste.h"
 #include "report/Bericht.h"
 #include "support/Gerechnet.h"
+#include "ui/output/PdfBefehl.h"
 #include "ui/paper/Druckpuffer.h"
 #include "ui/paper/PdfAusgabe.h"
-#include "ui/paper/PdfBefehl.h"
 #include "ui/paper/Seitenmaler.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
 
@@ -177,7 +177,11 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
         {"other form",
          {option, ziel, QStringLiteral("--form"), QStringLiteral("ansicht"), rsw("windsog")},
          Rueckgabe::aufruf,
-         "„ansicht“ ist nicht zulässig; erlaubt: lang, kurz"},
+         "„ansicht“ ist nicht zulässig; erlaubt: lang, kurz, rechenweg"},
+        {"derivation",
+         {option, ziel, QStringLiteral("--form"), QStringLiteral("rechenweg"), rsw("windsog")},
+         Rueckgabe::erfuellt,
+         ""},
         {"unknown option", {option, ziel, QStringLiteral("--x"), rsw("windsog")}, Rueckgabe::aufruf, "Hilfe"},
     };
     for (const Fall& fall : faelle) {

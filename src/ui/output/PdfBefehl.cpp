@@ -1,4 +1,4 @@
-#include "ui/paper/PdfBefehl.h"
+#include "ui/output/PdfBefehl.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -14,6 +14,7 @@
 #include "files/Positionsdatei.h"
 #include "run/Positionslauf.h"
 #include "ui/basics/Programm.h"
+#include "ui/derivation/Rechenwegdruck.h"
 #include "ui/paper/PdfAusgabe.h"
 
 namespace rippenscheibe {
@@ -27,14 +28,10 @@ constexpr const char* hilfeverweis = "\nHilfe: rippenscheibe --help\n";
 struct Pdfauftrag {
     std::filesystem::path ziel;
     std::filesystem::path position;
-    Form form = Form::lang;
+    QString form;
 };
 
-std::optional<Form> formAus(const QString& wort) {
-    if (wort == QStringLiteral("lang")) return Form::lang;
-    if (wort == QStringLiteral("kurz")) return Form::kurz;
-    return std::nullopt;
-}
+const QStringList formen{QStringLiteral("lang"), QStringLiteral("kurz"), QStringLiteral("rechenweg")};
 
 // One position from its file to its PDF.
 class Pdflauf {
@@ -44,7 +41,9 @@ class Pdflauf {
 
     Rueckgabe laufe() {
         if (!lade()) return Rueckgabe::dateifehler;
-        const Positionslauf lauf = laufePosition(*w_, grundmasse(*w_));
+        vorher_ = std::make_unique<Wand>(*w_);
+        felder_ = grundmasse(*w_);
+        const Positionslauf lauf = laufePosition(*w_, felder_);
         if (lauf.gerechnet() && !schreibe()) return Rueckgabe::dateifehler;
         for (const std::string& meldung : lauf.meldungen) melde(meldung);
         return lauf.rueckgabe;
@@ -67,12 +66,19 @@ class Pdflauf {
         const auto gelesen = liesEinstellungen(ordner_ / einstellungsdatei, einstellungen);
         if (const auto stoerung = gelesen.stoerung()) return scheitere(*stoerung);
         Ausdruck ausdruck = standardausdruck(*w_, einstellungen, liesLogo(ordner_));
-        ausdruck.form = auftrag_.form;
+        if (auftrag_.form == formen[1]) ausdruck.form = Form::kurz;
+        if (auftrag_.form == formen[2]) ausdruck.dokument = dokument();
         ausdruck.optionen.dezimalzeichen = ',';  // the same file in every locale
         const Pdf datei = pdf(*w_, ausdruck);
         if (!datei.abgeschnitten.isEmpty()) melde(utf8(abgeschnittenText(datei.abgeschnitten)));
         const auto fehler = schreibeDauerhaft(auftrag_.ziel, datei.bytes.toStdString());
         return fehler ? scheitere(*fehler) : true;
+    }
+
+    std::shared_ptr<const Dokument> dokument() const {
+        const std::string name = pfadtext(auftrag_.position.filename());
+        return rechenwegdokument(
+            {*vorher_, felder_, *w_, pruefblatt(*vorher_, name, liesDatei(auftrag_.position).bytes)});
     }
 
     bool scheitere(const Dateifehler& fehler) const {
@@ -88,6 +94,8 @@ class Pdflauf {
     const std::filesystem::path& ordner_;
     const Pdfausgaben& ausgaben_;
     std::unique_ptr<Wand> w_;
+    std::unique_ptr<Wand> vorher_;  // before the run
+    Grundmasse felder_{};
 };
 
 // Qt names the program by the path it was called with.
@@ -118,8 +126,9 @@ void beschreibeAufruf(QCommandLineParser& befehlszeile) {
     befehlszeile.addOption({optionPdf,
                             QStringLiteral("Schreibt den Ausdruck der Position als PDF, ohne Fenster."),
                             QStringLiteral("AUS.pdf")});
-    befehlszeile.addOption({optionForm, QStringLiteral("Form des PDF: lang oder kurz (sonst lang)."),
-                            QStringLiteral("lang|kurz"), QStringLiteral("lang")});
+    befehlszeile.addOption({optionForm,
+                            QStringLiteral("Form des PDF: lang, kurz oder rechenweg (sonst lang)."),
+                            formen.join(QLatin1Char('|')), QStringLiteral("lang")});
     befehlszeile.addPositionalArgument(QStringLiteral("DATEI"), QStringLiteral("Positionsdatei (*.rsw)"),
                                        QStringLiteral("[DATEI]"));
 }
@@ -158,16 +167,16 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
         return Rueckgabe::aufruf;
     };
     if (const auto antwort = beantworteAufruf(befehlszeile, argumente, ausgaben)) return *antwort;
-    const std::optional<Form> form = formAus(befehlszeile.value(optionForm));
-    if (!form)
-        return falscherAufruf(QStringLiteral("--form: „%1“ ist nicht zulässig; erlaubt: lang, kurz")
-                                  .arg(befehlszeile.value(optionForm)));
+    const QString form = befehlszeile.value(optionForm);
+    if (!formen.contains(form))
+        return falscherAufruf(QStringLiteral("--form: „%1“ ist nicht zulässig; erlaubt: %2")
+                                  .arg(form, formen.join(QStringLiteral(", "))));
     if (befehlszeile.value(optionPdf).isEmpty())
         return falscherAufruf(QStringLiteral("Nach --pdf fehlt der Name der Datei."));
     if (befehlszeile.positionalArguments().size() != 1)
         return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei erwartet."));
     const Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
-                             pfad(befehlszeile.positionalArguments().constFirst()), *form};
+                             pfad(befehlszeile.positionalArguments().constFirst()), form};
     if (sindDieselbeDatei(auftrag.ziel, auftrag.position))
         return falscherAufruf(QStringLiteral("--pdf: \"%1\" ist die Positionsdatei selbst.")
                                   .arg(befehlszeile.value(optionPdf)));
