@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QToolBar>
+#include <algorithm>
 #include <array>
 #include <utility>
 #include <vector>
@@ -62,64 +63,111 @@ std::vector<Aufschrift> aufschriften(const QWidget& fenster) {
     return alle;
 }
 
+// Letters and digits that every keyboard has; 0 is any other character.
+constexpr std::size_t plaetze = 37;
+std::size_t platz(QChar zeichen) {
+    const char16_t z = zeichen.toLower().unicode();
+    if (z >= u'a' && z <= u'z') return static_cast<std::size_t>(z - u'a') + 1;
+    if (z >= u'0' && z <= u'9') return static_cast<std::size_t>(z - u'0') + 27;
+    return 0;
+}
+
+int stelleDerMarke(const QString& text) {
+    for (int i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != QLatin1Char('&')) continue;
+        if (text[i + 1] != QLatin1Char('&')) return i;
+        ++i;
+    }
+    return -1;
+}
+
+// Where a text may be marked, the first of each word before all others.
+std::vector<int> stellen(const QString& text) {
+    std::vector<int> anfaenge;
+    std::vector<int> uebrige;
+    for (int i = 0; i < text.size(); ++i)
+        if (platz(text[i]) != 0)
+            (i == 0 || !text[i - 1].isLetterOrNumber() ? anfaenge : uebrige).push_back(i);
+    anfaenge.insert(anfaenge.end(), uebrige.begin(), uebrige.end());
+    return anfaenge;
+}
+
+// Gives each text a letter of its own, as long as there are enough of them: a text whose letters are all
+// taken has another one move to a free letter, and that one perhaps a third (a matching in a bipartite
+// graph, grown along augmenting paths).
 class Vergabe {
   public:
+    explicit Vergabe(std::vector<QString> texte) : texte_(std::move(texte)), stelle_(texte_.size(), -1) {}
+
     void belege(const QString& text) {
         const int marke = stelleDerMarke(text);
-        if (marke >= 0) ++benutzt_[platz(text[marke + 1])];
+        if (marke >= 0) halter_[platz(text[marke + 1])] = vergeben;
     }
-    void vergib(const Aufschrift& aufschrift) {
-        QString text = aufschrift.text();
-        if (text.contains(QLatin1Char('&'))) return;
-        const int stelle = besteStelle(text);
-        if (stelle < 0) return;
-        ++benutzt_[platz(text[stelle])];
-        aufschrift.setze(text.insert(stelle, QLatin1Char('&')));
+    // The place of the mark in each text, -1 for one without letters.
+    const std::vector<int>& verteile() {
+        for (int i = 0; i < static_cast<int>(texte_.size()); ++i) {
+            std::array<bool, plaetze> gefragt{};
+            if (!finde(i, gefragt)) teile(i);
+        }
+        return stelle_;
     }
 
   private:
-    // Letters and digits that every keyboard has; 0 is any other character.
-    static std::size_t platz(QChar zeichen) {
-        const char16_t z = zeichen.toLower().unicode();
-        if (z >= u'a' && z <= u'z') return static_cast<std::size_t>(z - u'a') + 1;
-        if (z >= u'0' && z <= u'9') return static_cast<std::size_t>(z - u'0') + 27;
-        return 0;
-    }
-    static int stelleDerMarke(const QString& text) {
-        for (int i = 0; i + 1 < text.size(); ++i) {
-            if (text[i] != QLatin1Char('&')) continue;
-            if (text[i + 1] != QLatin1Char('&')) return i;
-            ++i;
+    static constexpr int frei = -1;
+    static constexpr int vergeben = -2;
+
+    bool finde(int welcher, std::array<bool, plaetze>& gefragt) {
+        const QString& text = texte_[static_cast<std::size_t>(welcher)];
+        for (const int stelle : stellen(text)) {
+            const std::size_t p = platz(text[stelle]);
+            if (gefragt[p] || halter_[p] == vergeben) continue;
+            gefragt[p] = true;
+            if (halter_[p] != frei && !finde(halter_[p], gefragt)) continue;
+            halter_[p] = welcher;
+            stelle_[static_cast<std::size_t>(welcher)] = stelle;
+            return true;
         }
-        return -1;
+        return false;
     }
-    // The least used character, the first of a word before all others.
-    int besteStelle(const QString& text) const {
-        int beste = -1;
-        int bestes = 0;
-        for (int i = 0; i < text.size(); ++i) {
-            if (platz(text[i]) == 0) continue;
-            const bool anfang = i == 0 || !text[i - 1].isLetterOrNumber();
-            const int rang = 2 * benutzt_[platz(text[i])] + (anfang ? 0 : 1);
-            if (beste >= 0 && rang >= bestes) continue;
-            beste = i;
-            bestes = rang;
-        }
-        return beste;
+    // No letter is left: the one that the fewest share so.
+    void teile(int welcher) {
+        const QString& text = texte_[static_cast<std::size_t>(welcher)];
+        const std::vector<int> orte = stellen(text);
+        if (orte.empty()) return;
+        const auto geteilt = [&](int stelle) { return geteilt_[platz(text[stelle])]; };
+        const int bester = *std::ranges::min_element(orte, {}, geteilt);
+        ++geteilt_[platz(text[bester])];
+        stelle_[static_cast<std::size_t>(welcher)] = bester;
     }
 
-    std::array<int, 37> benutzt_{};
+    std::vector<QString> texte_;
+    std::vector<int> stelle_;
+    std::array<int, plaetze> halter_ = [] {
+        std::array<int, plaetze> leer{};
+        leer.fill(frei);
+        return leer;
+    }();
+    std::array<int, plaetze> geteilt_{};
 };
 
 }  // namespace
 
 void vergibKuerzel(QWidget& fenster) {
-    Vergabe vergabe;
+    const std::vector<Aufschrift> alle = aufschriften(fenster);
+    std::vector<Aufschrift> offene;
+    std::vector<QString> texte;
+    for (const Aufschrift& aufschrift : alle) {
+        if (aufschrift.text().contains(QLatin1Char('&'))) continue;
+        offene.push_back(aufschrift);
+        texte.push_back(aufschrift.text());
+    }
+    Vergabe vergabe(texte);
     if (const auto* haupt = qobject_cast<const QMainWindow*>(&fenster))
         for (const QAction* menue : haupt->menuBar()->actions()) vergabe.belege(menue->text());
-    const std::vector<Aufschrift> alle = aufschriften(fenster);
     for (const Aufschrift& aufschrift : alle) vergabe.belege(aufschrift.text());
-    for (const Aufschrift& aufschrift : alle) vergabe.vergib(aufschrift);
+    const std::vector<int>& marken = vergabe.verteile();
+    for (std::size_t i = 0; i < offene.size(); ++i)
+        if (marken[i] >= 0) offene[i].setze(texte[i].insert(marken[i], QLatin1Char('&')));
 }
 
 void ohneKuerzel(QWidget& teil) { teil.setProperty(ausgenommen, true); }
