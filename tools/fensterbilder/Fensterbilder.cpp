@@ -1,100 +1,73 @@
 // Pictures of every window, for the contact sheet of tools/kontaktbogen: each window is opened over a wall
-// of the examples, grabbed and closed.
+// of the examples, grabbed and closed. Names the texts that do not stand out, and fails for them.
 //
 //     fensterbilder ORDNER hell|dunkel|kontrast POSITION [FENSTER [FELD=TEXT ...]]
 //
-// With a window only this one is shown, with texts typed into its fields first.
+// With a window only this one is shown, with texts typed into its fields first. QT_STYLE_OVERRIDE chooses
+// another style than Fusion.
 
 #include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
 #include <cstdio>
 
+#include "fensterbilder/Kontrast.h"
 #include "files/Positionsdatei.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
+#include "ui/help/Handbuch.h"
 #include "ui/main/Fensterfabrik.h"
+#include "ui/main/Form0_Startbild.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
 using namespace rippenscheibe;
 
 namespace {
 
-// A window, and the buttons in it that open further ones.
+// The buttons that open further windows. Every other window is opened by itself.
 struct Bild {
     Fensterart art;
     std::vector<const char*> knoepfe;
 };
-
-const std::vector<Bild> bilder{
-    {Fensterart::rippen, {}},
-    {Fensterart::beplankung, {}},
-    {Fensterart::verbindungsmittel, {"ComInfo2"}},
-    {Fensterart::verankerung, {}},
-    {Fensterart::belastung, {"Command2"}},
-    {Fensterart::bemessung, {}},
-    {Fensterart::projektdaten, {"Command1"}},
-    {Fensterart::bemerkungen, {"Command3", "Command4"}},
-    {Fensterart::eigeneMaterialien, {}},
-    {Fensterart::randbedingungen, {}},
-    {Fensterart::ueberstaende, {}},
-    {Fensterart::rechner, {}},
-    {Fensterart::kalender, {}},
-    {Fensterart::systemkonfiguration, {}},
-    {Fensterart::seitenkopf, {}},
-    {Fensterart::druck, {}},
-    {Fensterart::ergebnisse, {}},
+const std::vector<Bild> weitere{
+    {Fensterart::verbindungsmittel, {"ComInfo2"}}, {Fensterart::belastung, {"Command2"}},
+    {Fensterart::projektdaten, {"Command1"}},      {Fensterart::bemerkungen, {"Command3", "Command4"}},
+    {Fensterart::seitenkopf, {"Command1"}},
 };
-
-QPalette palette(const QString& name) {
-    const bool kontrast = name == QStringLiteral("kontrast");
-    if (name == QStringLiteral("hell")) return QApplication::style()->standardPalette();
-    const QColor grund = kontrast ? QColor(Qt::black) : QColor(0x2B, 0x2D, 0x30);
-    const QColor feld = kontrast ? QColor(Qt::black) : QColor(0x1E, 0x1F, 0x22);
-    const QColor schrift = kontrast ? QColor(Qt::white) : QColor(0xDF, 0xE1, 0xE5);
-    QPalette farben(schrift, grund, grund.lighter(160), grund.darker(150), QColor(0x6F, 0x73, 0x7A), schrift,
-                    schrift, feld, grund);
-    farben.setColor(QPalette::Highlight, kontrast ? QColor(Qt::yellow) : QColor(0x35, 0x74, 0xF0));
-    farben.setColor(QPalette::HighlightedText, kontrast ? QColor(Qt::black) : QColor(Qt::white));
-    farben.setColor(QPalette::PlaceholderText,
-                    kontrast ? QColor(0xC0, 0xC0, 0xC0) : QColor(0x9D, 0xA0, 0xA8));
-    farben.setColor(QPalette::ToolTipBase, grund);
-    farben.setColor(QPalette::ToolTipText, schrift);
-    farben.setColor(QPalette::Link, kontrast ? QColor(Qt::yellow) : QColor(0x6B, 0x9B, 0xFA));
-    for (const QPalette::ColorRole rolle : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        farben.setColor(QPalette::Disabled, rolle, QColor(0x86, 0x8A, 0x91));
-    return farben;
-}
 
 class Aufnahme {
   public:
     Aufnahme(QString ordner, QStringList angaben)
         : ordner_(std::move(ordner)), angaben_(std::move(angaben)) {}
 
+    bool will(const QString& name) const { return angaben_.isEmpty() || angaben_.first() == name; }
     void nimmAuf(QWidget& fenster, const QString& name) {
+        if (!will(name)) return;
         QTest::qWait(150);
+        fuelle(fenster);
         fenster.grab().save(QDir(ordner_).filePath(name + QStringLiteral(".png")));
         std::printf("%s %d x %d, kleinste %d x %d\n", qPrintable(name), fenster.width(), fenster.height(),
                     fenster.minimumSizeHint().width(), fenster.minimumSizeHint().height());
+        const QStringList neue = schwacheTexte(fenster);
+        for (const QString& text : neue) std::printf("  zu schwach: %s\n", qPrintable(text));
+        schwache_ += neue.size();
     }
-    // Opens a window by `ausloesen`, types what is to be typed, takes its picture, and goes on with `weiter`.
-    void fenster(const std::function<void()>& ausloesen, const std::function<void(QWidget&)>& weiter) {
+    // Opens a modal window by `ausloesen`, takes its picture under its own name or `name`, and goes on with
+    // `weiter`.
+    void fenster(const std::function<void()>& ausloesen, const std::function<void(QWidget&)>& weiter,
+                 const QString& name = QString()) {
         const QWidget* vorher = QApplication::activeModalWidget();
         QTimer::singleShot(0, qApp, [&] {
             QWidget* offen = QApplication::activeModalWidget();
             if (offen == vorher) return;
-            const QString name = offen->objectName();
-            if (angaben_.isEmpty() || angaben_.first() == name) {
-                fuelle(*offen);
-                nimmAuf(*offen, name);
-            }
+            nimmAuf(*offen, name.isEmpty() ? offen->objectName() : name);
             weiter(*offen);
             static_cast<QDialog*>(offen)->reject();
         });
         ausloesen();
         QCoreApplication::processEvents();  // nothing may have opened
     }
+    qsizetype schwache() const { return schwache_; }
 
   private:
     void fuelle(QWidget& fenster) const {
@@ -110,17 +83,33 @@ class Aufnahme {
 
     QString ordner_;
     QStringList angaben_;
+    qsizetype schwache_ = 0;
 };
+
+void zeigeMeldungen(Aufnahme& aufnahme, Meldungen& meldungen, QWidget& fenster) {
+    const QString text = QStringLiteral("Wollen Sie das Programm wirklich beenden ?");
+    for (const Meldung& meldung :
+         {Meldung{Symbol::kritisch, QStringLiteral("kritisch"), text, Knoepfe::ok},
+          Meldung{Symbol::frage, QStringLiteral("frage"), text, Knoepfe::jaNein},
+          Meldung{Symbol::achtung, QStringLiteral("achtung"), text, Knoepfe::jaNeinAbbrechen,
+                  Knopfworte{QStringLiteral("Wiederherstellen"), QStringLiteral("Verwerfen"),
+                             QStringLiteral("Später")}}})
+        aufnahme.fenster([&] { meldungen.zeige(&fenster, meldung); }, [](QWidget&) {},
+                         QStringLiteral("Meldung-") + meldung.titel);
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
+    if (!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE")) QApplication::setStyle(QStringLiteral("fusion"));
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QTranslator deutsch;
+    verbindeRessourcen();
+    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
     const QStringList angaben = QApplication::arguments();
     if (angaben.size() < 4) return 64;
-    QApplication::setPalette(palette(angaben[2]));
+    if (angaben[2] != QStringLiteral("hell")) QApplication::setPalette(kontrastpalette(angaben[2]));
 
     const QTemporaryDir programmordner;
     Programm programm(pfad(programmordner.path()));
@@ -132,13 +121,25 @@ int main(int argc, char** argv) {
     Aufnahme aufnahme(angaben[1], angaben.mid(4));
     Form1 hauptfenster(programm, meldungen);
     hauptfenster.show();
-    if (angaben.size() == 4) aufnahme.nimmAuf(hauptfenster, QStringLiteral("Form1"));
-    for (const Bild& bild : bilder)
-        aufnahme.fenster([&] { oeffne(bild.art, programm, meldungen, &hauptfenster); },
-                         [&](QWidget& fenster) {
-                             for (const char* name : bild.knoepfe)
-                                 if (auto* knopf = fenster.findChild<QAbstractButton*>(QLatin1String(name)))
-                                     aufnahme.fenster([knopf] { knopf->click(); }, [](QWidget&) {});
-                         });
-    return 0;
+    aufnahme.nimmAuf(hauptfenster, hauptfenster.objectName());
+    for (int art = 0; art <= static_cast<int>(Fensterart::ueber); ++art)
+        aufnahme.fenster(
+            [&] { oeffne(static_cast<Fensterart>(art), programm, meldungen, &hauptfenster); },
+            [&](QWidget& fenster) {
+                for (const Bild& bild : weitere)
+                    for (const char* name : bild.knoepfe)
+                        if (bild.art == static_cast<Fensterart>(art))
+                            aufnahme.fenster(
+                                [&] { fenster.findChild<QAbstractButton*>(QLatin1String(name))->click(); },
+                                [](QWidget&) {});
+            });
+    zeigeMeldungen(aufnahme, meldungen, hauptfenster);
+    if (aufnahme.will(QStringLiteral("Handbuch"))) {
+        oeffneHandbuch(&hauptfenster);
+        aufnahme.nimmAuf(*hauptfenster.findChild<Handbuch*>(), QStringLiteral("Handbuch"));
+    }
+    Form0 startbild(programm);
+    startbild.show();
+    aufnahme.nimmAuf(startbild, QStringLiteral("Form0"));
+    return aufnahme.schwache() == 0 ? 0 : 1;
 }

@@ -10,6 +10,7 @@
 #include "files/Pfad.h"
 #include "run/FrischerLauf.h"
 #include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Farben.h"
 #include "ui/basics/Klartext.h"
 
 // Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.
@@ -29,6 +30,7 @@ Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {
     verbindeRessourcen();
     new Klartext(this);
+    new Zweitfarbe(this);
     std::error_code fehler;  // a folder that cannot be made shows when something is saved
     std::filesystem::create_directories(ordner, fehler);
     setzeVorgaben(w);

@@ -16,6 +16,7 @@
 #include "ui/basics/Kuerzel.h"
 #include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
+#include "ui/main/Akzentknopf.h"
 #include "ui/main/Eingabezeile.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/main/Form1_Zusammenfassung.h"
@@ -86,10 +87,9 @@ QWidget* Form1::baueLinkeSpalte() {
     connect(urteil_, &Urteilsanzeige::abschnittGewaehlt, this, &Form1::oeffneErgebnis);
     connect(urteil_, &Urteilsanzeige::hinweisGewaehlt, this, &Form1::oeffneZu);
     aussen->addWidget(urteil_);
-    const auto startknopf = [&](const char* name, const char* text, Fensterart ausgabe) {
-        auto* knopf = new QPushButton(qtext(text), spalte);
+    const auto startknopf = [&](QPushButton* knopf, const char* name, Fensterart ausgabe) {
         knopf->setObjectName(qtext(name));
-        knopf->setAccessibleName(qtext(text));
+        knopf->setAccessibleName(knopf->text());
         QFont schrift = knopf->font();
         schrift.setBold(true);
         knopf->setFont(schrift);
@@ -98,11 +98,11 @@ QWidget* Form1::baueLinkeSpalte() {
         ohneKuerzel(*knopf);
         connect(knopf, &QPushButton::clicked, this, [this, ausgabe] { rechneUndZeige(ausgabe); });
         aussen->addWidget(knopf);
-        return knopf;
     };
-    startknopf("ComErgDruck", "Berechnung starten und Werte ausdrucken", Fensterart::druck);
-    einsehen_ =
-        startknopf("ComErgEin2", "Berechnung starten und Ergebnisse einsehen", Fensterart::ergebnisse);
+    startknopf(new QPushButton(QStringLiteral("Berechnung starten und Werte ausdrucken"), spalte),
+               "ComErgDruck", Fensterart::druck);
+    einsehen_ = new Akzentknopf(QStringLiteral("Berechnung starten und Ergebnisse einsehen"), spalte);
+    startknopf(einsehen_, "ComErgEin2", Fensterart::ergebnisse);
     return spalte;
 }
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/basics/Farben.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -42,10 +44,9 @@ void maleUeberschritten(QPainter& painter, const QRectF& flaeche, double eta, co
 }  // namespace
 
 Urteilsfarben urteilsfarben(const QPalette& palette) {
-    if (dunkel(palette))
-        return {QColor(0x81C784), QColor(0xF2776D), QColor(0xF0B95A),
-                palette.color(QPalette::PlaceholderText)};
-    return {QColor(0x2E7D32), QColor(0xB3261E), QColor(0x8A5A00), palette.color(QPalette::PlaceholderText)};
+    const bool nacht = dunkel(palette);
+    return {lesbar(nacht ? 0x81C784 : 0x2E7D32, palette), lesbar(nacht ? 0xF2776D : 0xB3261E, palette),
+            lesbar(nacht ? 0xF0B95A : 0x8A5A00, palette), palette.color(QPalette::PlaceholderText)};
 }
 
 Balkenurteil balkenurteil(const Abschnittsurteil& abschnitt) {

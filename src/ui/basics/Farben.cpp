@@ -1,0 +1,70 @@
+#include "ui/basics/Farben.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <algorithm>
+#include <cmath>
+
+namespace rippenscheibe {
+
+namespace {
+
+constexpr double genug = 4.7;  // the guidelines ask for 4.5; the rest is for the smoothing of letters
+
+double leuchtdichte(const QColor& farbe) {
+    const auto anteil = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
+}
+
+QColor gemischt(const QColor& a, const QColor& b, double anteil) {
+    const auto kanal = [anteil](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * anteil)); };
+    return {kanal(a.red(), b.red()), kanal(a.green(), b.green()), kanal(a.blue(), b.blue())};
+}
+
+void staerkeZweitfarbe() {
+    const QPalette farben = QApplication::palette();
+    const QColor grund = farben.color(QPalette::Window);
+    QColor zweite = farben.color(QPalette::PlaceholderText);
+    zweite = gemischt(grund, zweite, zweite.alphaF());
+    zweite.setAlpha(255);
+    const QColor neue = lesbar(zweite, farben);
+    if (neue == farben.color(QPalette::PlaceholderText)) return;
+    QPalette nurDiese;  // all other colours stay those of the desktop
+    nurDiese.setColor(QPalette::PlaceholderText, neue);
+    QApplication::setPalette(nurDiese);
+}
+
+}  // namespace
+
+double kontrast(const QColor& a, const QColor& b) {
+    const auto [dunkler, heller] = std::minmax(leuchtdichte(a), leuchtdichte(b));
+    return (heller + 0.05) / (dunkler + 0.05);
+}
+
+QColor lesbar(const QColor& farbe, const QPalette& palette) {
+    const QColor fenster = palette.color(QPalette::Window);
+    const QColor feld = palette.color(QPalette::Base);
+    const QColor schrift = palette.color(QPalette::WindowText);
+    QColor neue = farbe;
+    for (double anteil = 0; anteil < 1; anteil += 0.02) {
+        neue = gemischt(farbe, schrift, anteil);
+        if (kontrast(neue, fenster) >= genug && kontrast(neue, feld) >= genug) break;
+    }
+    return neue;
+}
+
+Zweitfarbe::Zweitfarbe(QObject* parent) : QObject(parent) {
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return;
+    staerkeZweitfarbe();
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool Zweitfarbe::eventFilter(QObject* object, QEvent* event) {
+    if (object == QCoreApplication::instance() && event->type() == QEvent::ApplicationPaletteChange)
+        staerkeZweitfarbe();
+    return false;
+}
+
+}  // namespace rippenscheibe
