@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 
 #include "report/Bericht.h"
@@ -224,10 +225,28 @@ void Form23::fuegeSystembildEin() {
     QTextCursor marke = text_->textCursor();
     marke.clearSelection();
     text_->setTextCursor(marke);
-    // The text holds the picture for paper; what it shows is drawn for this screen.
-    const double bildpunkte = 96.0 * text_->devicePixelRatioF();
-    fuegeBildEin(marke, png(wand, aufloesungBild, stil), wand.mm, bild(wand, bildpunkte, stil.aufSchirm()));
+    // The text holds the picture for paper; what it shows is drawn for the screen.
+    const QByteArray papierbild = png(wand, aufloesungBild, stil);
+    systembilder_.push_back({fuegeBildEin(marke, papierbild, wand.mm, {}), wand});
+    zeichneSystembilder();
     text_->ensureCursorVisible();
+}
+
+// On a screen with other dots the pictures would be blurred.
+void Form23::zeichneSystembilder() {
+    Zeichenstil stil = Zeichenstil::papier().aufSchirm();
+    stil.dezimalzeichen = dezimalzeichen();
+    QTextDocument* text = text_->document();
+    for (const Systembild& systembild : systembilder_)
+        text->addResource(QTextDocument::ImageResource, systembild.name,
+                          bild(systembild.vorlage, 96.0 * text_->devicePixelRatioF(), stil));
+    text->markContentsDirty(0, text->characterCount());
+}
+
+void Form23::showEvent(QShowEvent* event) {
+    Fenster::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &Form23::zeichneSystembilder,
+            Qt::UniqueConnection);
 }
 
 void Form23::drucke() { oeffne(Fensterart::druck, programm_, meldungen_, this); }

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QTextCursor>
+#include <QUrl>
 #include <vector>
 
 #include "ui/basics/Fenster.h"
+#include "ui/drawings/Ausgabe.h"
 
 class QAction;
 class QLabel;
@@ -26,7 +28,16 @@ class Form23 : public Fenster {
     void reject() override;
     void done(int ergebnis) override;
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
+    // A picture of the wall in the text, and what draws it.
+    struct Systembild {
+        QUrl name;
+        Bildvorlage vorlage;
+    };
+
     QWidget* baueText();
     QWidget* baueSuchzeile();
     QWidget* mitHerleitung(QWidget* spalte);
@@ -36,6 +47,7 @@ class Form23 : public Fenster {
     void speichere();
     void kopiere();
     void fuegeSystembildEin();
+    void zeichneSystembilder();
     void drucke();
     void zeigeRechenweg();
     void speichereAlsPdf();
@@ -52,6 +64,7 @@ class Form23 : public Fenster {
     std::vector<QTextCursor> zeilen_;      // of the utilisations; they move along with edits
     std::vector<QTextCursor> abschnitte_;  // and of the headings 5.1 on
 
+    std::vector<Systembild> systembilder_;
     QTextCursor zeile_;  // the one that is lit
 
     QWidget* suchzeile_;

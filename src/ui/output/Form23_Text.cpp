@@ -136,13 +136,14 @@ Fliesstext fliesstextAus(const QTextDocument& dokument) {
 }
 
 // The name of the picture is the picture itself, so that it stays whole when it is copied.
-void fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QImage& schirmbild) {
+QUrl fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QImage& schirmbild) {
     QTextImageFormat f;
     f.setName(datenkopf + QString::fromLatin1(png.toBase64()));
     cursor.document()->addResource(QTextDocument::ImageResource, QUrl(f.name()), schirmbild);
     f.setWidth(mm.width() / mmJePixel);
     f.setHeight(mm.height() / mmJePixel);
     cursor.insertImage(f);
+    return f.name();
 }
 
 QVariant Ergebnisdokument::loadResource(int art, const QUrl& name) {

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QUrl>
 #include <vector>
 
 #include "report/Fliesstext.h"
@@ -21,8 +22,8 @@ std::vector<int> fuelleDokument(QTextDocument& dokument, const Fliesstext& text,
 Fliesstext fliesstextAus(const QTextDocument& dokument);
 
 // A picture at the cursor, of the given size in mm. The bytes stay in the text; `schirmbild` is what it
-// shows.
-void fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QImage& schirmbild);
+// shows. Returns the name of the picture in the document.
+QUrl fuegeBildEin(QTextCursor cursor, const QByteArray& png, QSizeF mm, const QImage& schirmbild);
 
 // A document that reads no files: what HTML names is loaded only when the name itself holds it.
 class Ergebnisdokument : public QTextDocument {
