@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "model/Kataloge.h"
@@ -203,17 +204,26 @@ void Form5::richteSeite(Seite n, Anlass anlass) {
     zeigeAbweichung(n);
 }
 
-// The report prints the name of the nail that was chosen, whatever its sizes became.
-void Form5::zeigeAbweichung(Seite n) {
-    const Seitenfelder& s = seiten_[n];
-    const bool gewaehlt = s.nagel->isEnabled() && s.nagel->currentIndex() >= 0;
-    if (!gewaehlt) return s.abweichung->hide();
+// Whether the sizes are others than those of the nail that was chosen.
+bool Form5::weichtAb(const Seitenfelder& s) {
+    if (!s.nagel->isEnabled() || s.nagel->currentIndex() < 0) return false;
     const Nageltyp& nagel = VMTypen()[static_cast<std::size_t>(s.nagel->currentIndex())];
-    const bool gleich = s.d->wert() == nagel.d && s.ln->wert() == nagel.ln && s.dk->wert() == nagel.dk;
-    s.abweichung->setText(QStringLiteral("⚠ d, l oder d - Kopf weichen vom Nagel %1 ab;\n"
-                                         "der Ausdruck nennt nur dessen Namen.")
-                              .arg(qtext(nagel.name)));
-    s.abweichung->setVisible(!gleich);
+    return s.d->wert() != nagel.d || s.ln->wert() != nagel.ln || s.dk->wert() != nagel.dk;
+}
+
+// The report prints the name of the nail that was chosen, whatever its sizes became. While one side says so,
+// the other keeps the room for it: the rows of the two stay in line.
+void Form5::zeigeAbweichung(Seite n) {
+    seiten_[n].abweichung->setText(QStringLiteral("⚠ d, l oder d - Kopf weichen vom Nagel %1 ab;\n"
+                                                  "der Ausdruck nennt nur dessen Namen.")
+                                       .arg(seiten_[n].nagel->currentText()));
+    seiten_[n].abweichung->setVisible(weichtAb(seiten_[n]));
+    const bool platz = std::ranges::any_of(beideSeiten, [this](Seite m) { return weichtAb(seiten_[m]); });
+    for (const Seite m : beideSeiten) {
+        QSizePolicy groesse = seiten_[m].abweichung->sizePolicy();
+        groesse.setRetainSizeWhenHidden(platz);
+        seiten_[m].abweichung->setSizePolicy(groesse);
+    }
 }
 
 void Form5::uebernimmNagel(Seite n) {

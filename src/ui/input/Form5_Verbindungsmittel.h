@@ -47,6 +47,7 @@ class Form5 : public Eingabedialog {
     void richteSeite(Seite n, Anlass anlass);
     // d, l and dk of the chosen row of the nail table.
     void uebernimmNagel(Seite n);
+    static bool weichtAb(const Seitenfelder& s);
     void zeigeAbweichung(Seite n);
 
     Paar<Seitenfelder> seiten_;
