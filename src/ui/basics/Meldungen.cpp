@@ -106,7 +106,8 @@ Antwort Plattformmeldungen::zeige(QWidget* fenster, const Meldung& meldung) {
     box.setIconPixmap(bild.pixmap(QSize(kante, kante), box.devicePixelRatioF()));
     for (QAbstractButton* knopf : box.buttons()) knopf->setIcon(QIcon());
     beschrifte(box, meldung.worte);
-    if (meldung.vorgabe) setzeVorgabe(box, *meldung.vorgabe);
+    // Said in any case: a desktop that orders the buttons the other way would take another one.
+    setzeVorgabe(box, meldung.vorgabe.value_or(meldung.knoepfe == Knoepfe::ok ? Antwort::ok : Antwort::ja));
     if (meldung.knoepfe == Knoepfe::jaNein) box.setEscapeButton(QMessageBox::No);
     return antwort(box.exec());
 }
