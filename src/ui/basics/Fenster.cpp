@@ -20,6 +20,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/basics/Beschreibungen.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
 
@@ -75,6 +76,8 @@ bool aendertSichAmRad(const QWidget& feld) {
 }
 
 constexpr const char* enterregel = "enterregel";
+
+Enter regelVon(const QWidget& feld) { return static_cast<Enter>(feld.property(enterregel).toInt()); }
 
 // What a window remembers, in a group of its name.
 const QString schluesselGroesse = QStringLiteral("Groesse");
@@ -133,6 +136,7 @@ bool Tastenregel::eventFilter(QObject* object, QEvent* event) {
 bool Tastenregel::taste(QWidget& feld, const QKeyEvent& taste) {
     if (istZeichen(taste) && taste.key() != Qt::Key_Tab && taste.key() != Qt::Key_Backtab) Q_EMIT getippt();
     if (istEnter(taste)) return (enter && enter(feld)) || drueckeEnter(feld, taste.isAutoRepeat());
+    if (taste.key() == Qt::Key_Space || taste.key() == Qt::Key_Select) return regelVon(feld) == Enter::weiter;
     if (feld.objectName().startsWith(QStringLiteral("Text3")) &&
         (taste.key() == Qt::Key_Up || taste.key() == Qt::Key_Down)) {
         QWidget* ziel = nachbar(&feld, fenster_, taste.key() == Qt::Key_Down);
@@ -143,7 +147,7 @@ bool Tastenregel::taste(QWidget& feld, const QKeyEvent& taste) {
 }
 
 bool Tastenregel::drueckeEnter(QWidget& feld, bool wiederholt) {
-    const auto regel = static_cast<Enter>(feld.property(enterregel).toInt());
+    const Enter regel = regelVon(feld);
     if (regel == Enter::eigen || feld.objectName().startsWith(QStringLiteral("qt_"))) return false;
     auto* knopf = qobject_cast<QAbstractButton*>(&feld);
     const bool wahl =
@@ -271,6 +275,7 @@ void Fenster::merke() const {
 void Fenster::setVisible(bool sichtbar) {
     if (sichtbar && !isVisible()) {
         vergibKuerzel(*this);
+        beschreibeBedienung(*this);
         bringeAufDenSchirm();
     } else if (!sichtbar && isVisible()) {
         merke();

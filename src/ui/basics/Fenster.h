@@ -20,7 +20,7 @@ class Programm;
 // list, a check box or an option.
 enum class Enter {
     ueblich,
-    weiter,  // a button that Enter does not press: it moves on
+    weiter,  // a button that no key presses, as it starts a run: Enter moves on, Space does nothing
     eigen,   // the control works with Enter itself
 };
 void setzeEnter(QWidget& feld, Enter enter);

@@ -25,10 +25,10 @@ QString formatiert(const QString& maske, double wert) {
     return qtext(formatiere(utf8(maske), wert, dezimalzeichen()));
 }
 
-// The unit without its explanation: "kN" of "kN (ständig)".
+// The unit without its explanation: "kN" of "kN (ständig)", nothing of "[-]".
 QString blosseEinheit(const Wertvorgabe& vorgabe) {
     const QString& einheit = vorgabe.bereichseinheit.isEmpty() ? vorgabe.einheit : vorgabe.bereichseinheit;
-    return einheit.section(QLatin1Char('('), 0, 0).trimmed();
+    return einheit == QStringLiteral("[-]") ? QString() : einheit.section(QLatin1Char('('), 0, 0).trimmed();
 }
 
 QString bereich(const Wertvorgabe& vorgabe) {

@@ -112,6 +112,7 @@ QPushButton* Form3::taste(QGridLayout* grid, const QString& name, const QString&
     auto* knopf = new QPushButton(text, this);
     knopf->setObjectName(name);
     knopf->setAccessibleName(text);
+    knopf->setAccessibleDescription(QStringLiteral("Taste des Rechners"));
     knopf->setAutoDefault(false);
     knopf->setMinimumSize(56, 40);
     knopf->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

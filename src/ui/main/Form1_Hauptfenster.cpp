@@ -17,6 +17,7 @@
 
 #include "files/EigeneMaterialienDatei.h"
 #include "run/Positionslauf.h"
+#include "ui/basics/Beschreibungen.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Meldungen.h"
@@ -87,19 +88,14 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     ablauf_.benutzt = [this](const QString& datei) { zuletzt_->merke(datei); };
 
     vergibKuerzel(*this);
+    beschreibeBedienung(*this);
     stelleGroesseHer();
     programm_.setzeTitel(QStringLiteral(" <Neue Datei> "));
     zeige();
 }
 
-// What follows the colours of the desktop: each icon is drawn twice, for a light and for a dark ground, and
-// the default action stands in the accent colour.
+// What follows the colours of the desktop: each icon is drawn twice, for a light and for a dark ground.
 void Form1::setzeFarben() {
-    QPalette akzent = palette();
-    // Darker than the accent itself: styles lighten their buttons, and the white text has to stand out.
-    akzent.setColor(QPalette::Button, palette().color(QPalette::Highlight).darker(140));
-    akzent.setColor(QPalette::ButtonText, palette().color(QPalette::HighlightedText));
-    einsehen_->setPalette(akzent);
     const bool dunkel = palette().color(QPalette::Window).lightness() < 128;
     for (const Symboltraeger& traeger : symbole_)
         traeger.setze(

@@ -26,38 +26,39 @@ namespace rippenscheibe {
 
 namespace {
 
-// One number of a material: its column, the index of its box TextBox2 and its words.
+// One number of a material: its column, the index of its box TextBox2, its words and what it means.
 struct Wertzeile {
     int spalte;
     int index;
     const char* beschriftung;
     const char* einheit;
+    const char* bedeutung;
 };
 
 // The boxes in the order of the eye: characteristic values, kmod of service class 1, of class 2, fh,1,k.
 // Meant: the unit text of fh,1,k speaks of bending.
 // clang-format off
 constexpr std::array<Wertzeile, 20> wertzeilen{{
-    { 2,  1, "fv,k =",    "N/mm² (Schub als Scheibe)"},
-    { 3,  0, "fc,k =",    "N/mm² (Druck als Scheibe)"},
-    { 4,  2, "ft,k =",    "N/mm² (Zug als Scheibe)"},
-    { 5,  6, "fm,k =",    "N/mm² (Biegung als Platte, rechtwinklig zur Deckschicht)"},
-    { 6,  3, "t,req =",   " x d         (d = VM-Durchmesser)"},
-    { 8,  5, "E,mean =",  "N/mm² (E-Modul)"},
-    { 9,  7, "G,mean =",  "N/mm² (Schubmodul)"},
-    {10,  8, "rho,k =",   "kg/m³ (Rohdichte)"},
-    {11,  9, "Wichte =",  "kN/m³"},
-    {12,  4, "KLED ständig: k,mod =",   "[-]"},
-    {13, 10, "KLED lang: k,mod =",      "[-]"},
-    {14, 11, "KLED mittel: k,mod =",    "[-]"},
-    {15, 12, "KLED kurz: k,mod =",      "[-]"},
-    {21, 18, "KLED sehr kurz: k,mod =", "[-]"},
-    {16, 13, "KLED ständig: k,mod =",   "[-]"},
-    {17, 14, "KLED lang: k,mod =",      "[-]"},
-    {18, 15, "KLED mittel: k,mod =",    "[-]"},
-    {19, 16, "KLED kurz: k,mod =",      "[-]"},
-    {22, 19, "KLED sehr kurz: k,mod =", "[-]"},
-    {20, 17, "fh,1,k =",  "N/mm² (Biegung als Platte)"},
+    { 2,  1, "fv,k =",                  "N/mm² (Schub als Scheibe)",                                "Schubfestigkeit bei Scheibenbeanspruchung"},
+    { 3,  0, "fc,k =",                  "N/mm² (Druck als Scheibe)",                                "Druckfestigkeit bei Scheibenbeanspruchung"},
+    { 4,  2, "ft,k =",                  "N/mm² (Zug als Scheibe)",                                  "Zugfestigkeit bei Scheibenbeanspruchung"},
+    { 5,  6, "fm,k =",                  "N/mm² (Biegung als Platte, rechtwinklig zur Deckschicht)", "Biegefestigkeit bei Plattenbeanspruchung"},
+    { 6,  3, "t,req =",                 " x d         (d = VM-Durchmesser)",                        "Mindestdicke als Vielfaches von d"},
+    { 8,  5, "E,mean =",                "N/mm² (E-Modul)",                                          "Elastizitätsmodul"},
+    { 9,  7, "G,mean =",                "N/mm² (Schubmodul)",                                       "Schubmodul"},
+    {10,  8, "rho,k =",                 "kg/m³ (Rohdichte)",                                        "charakteristische Rohdichte"},
+    {11,  9, "Wichte =",                "kN/m³",                                                    "Wichte für das Eigengewicht"},
+    {12,  4, "KLED ständig: k,mod =",   "[-]",                                                      "Modifikationsbeiwert, NKL 1, KLED ständig"},
+    {13, 10, "KLED lang: k,mod =",      "[-]",                                                      "Modifikationsbeiwert, NKL 1, KLED lang"},
+    {14, 11, "KLED mittel: k,mod =",    "[-]",                                                      "Modifikationsbeiwert, NKL 1, KLED mittel"},
+    {15, 12, "KLED kurz: k,mod =",      "[-]",                                                      "Modifikationsbeiwert, NKL 1, KLED kurz"},
+    {21, 18, "KLED sehr kurz: k,mod =", "[-]",                                                      "Modifikationsbeiwert, NKL 1, KLED sehr kurz"},
+    {16, 13, "KLED ständig: k,mod =",   "[-]",                                                      "Modifikationsbeiwert, NKL 2, KLED ständig"},
+    {17, 14, "KLED lang: k,mod =",      "[-]",                                                      "Modifikationsbeiwert, NKL 2, KLED lang"},
+    {18, 15, "KLED mittel: k,mod =",    "[-]",                                                      "Modifikationsbeiwert, NKL 2, KLED mittel"},
+    {19, 16, "KLED kurz: k,mod =",      "[-]",                                                      "Modifikationsbeiwert, NKL 2, KLED kurz"},
+    {22, 19, "KLED sehr kurz: k,mod =", "[-]",                                                      "Modifikationsbeiwert, NKL 2, KLED sehr kurz"},
+    {20, 17, "fh,1,k =",                "N/mm² (Biegung als Platte)",                               "Lochleibungsfestigkeit der Beplankung"},
 }};
 // clang-format on
 constexpr std::size_t kennwerte = 9;
@@ -148,6 +149,9 @@ Werteingabe* Form99::werteingabe(std::size_t zeile) {
     vorgabe.min = bereich.min;
     vorgabe.max = bereich.max;
     vorgabe.maske = QStringLiteral("0.00");
+    vorgabe.symbol =
+        vorgabe.beschriftung.section(QLatin1Char('='), 0, 0).section(QLatin1Char(':'), -1).trimmed();
+    vorgabe.bedeutung = QString::fromUtf8(z.bedeutung);
     werte_.push_back(new Werteingabe(QStringLiteral("TextBox2(%1)").arg(z.index), vorgabe, this));
     return werte_.back();
 }

@@ -44,8 +44,8 @@ struct Balkenwert {
     QString beschreibung;  // what the tip says of it; empty: made of the others
 };
 
-// A row "5.1 ▇▇▇▇▇▇▁▁▁|  0,61" that can be pressed by mouse, Space and, where the window allows it, Enter
-// (`clicked`). A screen reader hears name, value and verdict.
+// A row "5.1 ▇▇▇▇▇▇▁▁▁|  0,61" that can be pressed (`clicked`); which keys do so, the window tells. A screen
+// reader hears name, value and verdict.
 class Ausnutzungsbalken : public QAbstractButton {
     Q_OBJECT
 

@@ -3,12 +3,12 @@
 #include <QAccessible>
 #include <QEvent>
 #include <QGridLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Kurzzeile.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
@@ -70,6 +70,12 @@ Kurzzeile* zeile(const char* name, int hoechstzeilen, QVBoxLayout& reihe) {
     return schild;
 }
 
+// A screen reader says the new verdict at once.
+void sageAn(QWidget& schild) {
+    QAccessibleEvent gemeldet(&schild, QAccessible::Alert);
+    QAccessible::updateAccessibility(&gemeldet);
+}
+
 // A finding that leads to its dialog: two lines of text that can be pressed.
 class Hinweisknopf : public QAbstractButton {
   public:
@@ -113,12 +119,13 @@ class Hinweisknopf : public QAbstractButton {
 
 // ---- The slim line ----
 
-Urteilszeile::Urteilszeile(QWidget* parent) : QWidget(parent) {
+Urteilszeile::Urteilszeile(QWidget* parent) : QLabel(parent) {
     setObjectName(QStringLiteral("SofortUrteil"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
 void Urteilszeile::zeige(const Sofortergebnis& ergebnis) {
+    const QString vorher = urteil_;
     urteil_ = urteilstext(ergebnis);
     rest_ =
         ergebnis.hinweise.empty() ? massgebendtext(ergebnis.urteil) : qtext(ergebnis.hinweise.front().text);
@@ -129,6 +136,7 @@ void Urteilszeile::zeige(const Sofortergebnis& ergebnis) {
     setAccessibleName(urteil_ + QStringLiteral(" · ") + rest_);
     setToolTip(accessibleName());
     update();
+    if (isVisible() && vorher != urteil_) sageAn(*this);
 }
 
 QSize Urteilszeile::sizeHint() const { return {0, fontMetrics().height() + 4}; }
@@ -178,6 +186,7 @@ QWidget* Urteilsanzeige::baueBalken() {
     for (int i = 0; i < abschnitte; ++i) {
         auto* balken = new Ausnutzungsbalken(seite);
         balken->setObjectName(QStringLiteral("SofortBalken(%1)").arg(i + 1));
+        setzeEnter(*balken, Enter::weiter);
         connect(balken, &QAbstractButton::clicked, this, [this, i] { Q_EMIT abschnittGewaehlt(i + 1); });
         constexpr int zeilenzahl = abschnitte / spaltenzahl;
         grid->addWidget(balken, i % zeilenzahl, i / zeilenzahl);
@@ -225,9 +234,7 @@ void Urteilsanzeige::zeige(const Sofortergebnis& ergebnis) {
         zeigeHinweise();
     seiten_->setCurrentIndex(ergebnis.urteil.maxEta ? 0 : 1);
     faerbe();
-    if (vorher == urteil_->text()) return;
-    QAccessibleEvent gemeldet(urteil_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&gemeldet);
+    if (vorher != urteil_->text()) sageAn(*urteil_);
 }
 
 void Urteilsanzeige::zeigeBalken() {

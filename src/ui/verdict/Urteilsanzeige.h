@@ -1,12 +1,12 @@
 #pragma once
 
+#include <QLabel>
 #include <QWidget>
 #include <vector>
 
 #include "ui/verdict/Ausnutzungsbalken.h"
 #include "ui/verdict/Sofortrechnung.h"
 
-class QLabel;
 class QStackedLayout;
 
 namespace rippenscheibe {
@@ -14,7 +14,7 @@ namespace rippenscheibe {
 class Kurzzeile;
 
 // The verdict as a slim line, for the foot of a dialog. What does not fit stands in its tool tip.
-class Urteilszeile : public QWidget {
+class Urteilszeile : public QLabel {
     Q_OBJECT
 
   public:
