@@ -48,8 +48,8 @@ QColor lesbar(const QColor& farbe, const QPalette& palette) {
     const QColor feld = palette.color(QPalette::Base);
     const QColor schrift = palette.color(QPalette::WindowText);
     QColor neue = farbe;
-    for (double anteil = 0; anteil < 1; anteil += 0.02) {
-        neue = gemischt(farbe, schrift, anteil);
+    for (int prozent = 0; prozent <= 100; prozent += 2) {
+        neue = gemischt(farbe, schrift, prozent / 100.0);
         if (kontrast(neue, fenster) >= genug && kontrast(neue, feld) >= genug) break;
     }
     return neue;

@@ -9,8 +9,8 @@
 #include "basis/Utf8.h"
 #include "files/Pfad.h"
 #include "run/FrischerLauf.h"
-#include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Farben.h"
+#include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Klartext.h"
 
 // Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.

@@ -212,8 +212,9 @@ void Ausnutzungsbalken::paintEvent(QPaintEvent*) {
     painter.drawText(QRect(innen.left(), innen.top(), namen, innen.height()),
                      Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(wert_.name, Qt::ElideRight, namen));
-    const QRectF balken(innen.left() + namen + abstand, innen.top() + (innen.height() - balkenhoehe) / 2,
-                        innen.width() - namen - werte - 2 * abstand, balkenhoehe);
+    const int oben = innen.top() + (innen.height() - balkenhoehe) / 2;
+    const QRectF balken(innen.left() + namen + abstand, oben, innen.width() - namen - werte - 2 * abstand,
+                        balkenhoehe);
     maleBalken(painter, balken, wert_.eta, wert_.urteil, palette());
     if (wert_.urteil != Balkenurteil::erfuellt || inWorten_)
         painter.setPen(urteilsfarbe(palette(), wert_.urteil));
