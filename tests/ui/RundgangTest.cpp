@@ -74,7 +74,8 @@ void pruefeFenster(QWidget& fenster) {
 enum class Wirkung { gedrueckt, weiter, keine };
 
 Wirkung erwartet(const QWidget& feld) {
-    if (feld.objectName().startsWith(QStringLiteral("ComErg"))) return Wirkung::weiter;
+    for (const char* start : {"ComErg", "SofortBalken"})  // no key starts a run
+        if (feld.objectName().startsWith(QLatin1String(start))) return Wirkung::weiter;
     const auto* knopf = qobject_cast<const QAbstractButton*>(&feld);
     const bool wahl = knopf != nullptr && (qobject_cast<const QCheckBox*>(knopf) != nullptr ||
                                            qobject_cast<const QRadioButton*>(knopf) != nullptr);
