@@ -18,7 +18,6 @@
 #include "ui/input/Form16_VMKatalog.h"
 #include "ui/input/Form5_Verbindungsmittel.h"
 #include "ui/input/Form7_Verankerung.h"
-#include "ui/main/Dateiablauf.h"
 #include "ui/main/Fensterfabrik.h"
 #include "ui/main/Form0_Startbild.h"
 #include "ui/output/Form8_Seitenkopf.h"
@@ -26,6 +25,7 @@
 #include "ui/project/Form222_Bemerkungen.h"
 #include "ui/project/Form800_Textvorlagen.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
+#include "ui/session/Dateiablauf.h"
 
 namespace rippenscheibe {
 namespace {

@@ -27,7 +27,7 @@
 #include "ui/main/Eingabezeile.h"
 #include "ui/main/Fensterfabrik.h"
 #include "ui/main/Hinweisliste.h"
-#include "ui/main/ZuletztMenue.h"
+#include "ui/session/ZuletztMenue.h"
 #include "ui/verdict/Urteilsanzeige.h"
 
 namespace rippenscheibe {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "ui/basics/Fensteroeffner.h"
-#include "ui/main/Dateiablauf.h"
 #include "ui/main/Menuetabelle.h"
-#include "ui/main/Sicherungskopie.h"
+#include "ui/session/Dateiablauf.h"
+#include "ui/session/Sicherungskopie.h"
 
 class QGroupBox;
 class QPushButton;

@@ -6,7 +6,7 @@
 #include "ui/help/Handbuch.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/main/Menuetabelle.h"
-#include "ui/main/ZuletztMenue.h"
+#include "ui/session/ZuletztMenue.h"
 
 // The menus and the tool bar of the main window.
 

@@ -11,7 +11,7 @@
 #include "support/GeskripteteMeldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/main/Fensterfabrik.h"
-#include "ui/main/Sicherungskopie.h"
+#include "ui/session/Sicherungskopie.h"
 
 namespace rippenscheibe {
 

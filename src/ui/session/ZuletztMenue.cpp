@@ -1,4 +1,4 @@
-#include "ui/main/ZuletztMenue.h"
+#include "ui/session/ZuletztMenue.h"
 
 #include <QDir>
 #include <QFileInfo>

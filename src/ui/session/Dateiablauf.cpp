@@ -1,4 +1,4 @@
-#include "ui/main/Dateiablauf.h"
+#include "ui/session/Dateiablauf.h"
 
 #include <QFileInfo>
 #include <functional>

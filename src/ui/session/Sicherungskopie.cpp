@@ -1,4 +1,4 @@
-#include "ui/main/Sicherungskopie.h"
+#include "ui/session/Sicherungskopie.h"
 
 #include <QFileInfo>
 #include <QLocale>

@@ -1,5 +1,5 @@
 #include "support/Gerechnet.h"
-#include "ui/main/Dateiablauf.h"
+#include "ui/session/Dateiablauf.h"
 
 namespace rippenscheibe {
 namespace {
