@@ -17,6 +17,7 @@ enum class Fensterart {
     bemessung,            // Form12
     projektdaten,         // Form15
     bemerkungen,          // Form222
+    varianten,            // Variantenvergleich
     eigeneMaterialien,    // Form99
     randbedingungen,      // Form10
     ueberstaende,         // Form11

@@ -117,6 +117,11 @@ void Programm::wiederhole() {
     if (schritte_.wiederhole(stand)) setze(stand);
 }
 
+void Programm::uebernimm(const Eingabestand& stand, const QString& name) {
+    const Schritt schritt(*this, name);
+    setze(stand);
+}
+
 void Programm::leereSchritte() {
     schritte_.leere(eingabestand());
     Q_EMIT schritteGeaendert();

@@ -24,6 +24,12 @@ class Fensteroeffner;
 // The file action that waits for the answer to "Soll die geöffnete Datei gesichert werden ?".
 enum class Dateiaktion { keine, neu, oeffnen, sichern, beenden, sichernUnter };
 
+// Inputs that were kept under a name, to compare them and to take them over.
+struct Variante {
+    QString name;
+    Eingabestand stand;
+};
+
 // What the windows of one running program share: the position, the three fields of the main window and
 // the state of its file. Made once in `main` and handed on by reference.
 class Programm : public QObject {
@@ -52,6 +58,7 @@ class Programm : public QObject {
     std::optional<int> Ergebnisziel;          // the section 5.x at which the result view opens
     std::string Feldziel;                     // the input at which its dialog opens, "" for the first
     QString DialogOrdner;                     // its initial folder
+    std::vector<Variante> varianten;          // kept until the program ends
     std::unique_ptr<Fensteroeffner> fenster;  // makes the windows that others ask for; set by the main window
 
     // Reads settings and project list from the program's folder; what is missing keeps its default. The
@@ -84,6 +91,8 @@ class Programm : public QObject {
     void beendeSchritt();
     void rueckgaengig();
     void wiederhole();
+    // Other inputs take the place of these, as a step with this name.
+    void uebernimm(const Eingabestand& stand, const QString& name);
     // Another position was opened or begun: its inputs are the first ones.
     void leereSchritte();
     const Schrittfolge& schritte() const { return schritte_; }

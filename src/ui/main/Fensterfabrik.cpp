@@ -13,6 +13,7 @@
 #include "ui/input/Form5_Verbindungsmittel.h"
 #include "ui/input/Form7_Verankerung.h"
 #include "ui/input/Form9_Belastung.h"
+#include "ui/main/Variantenvergleich.h"
 #include "ui/output/Form23_Ergebnisse.h"
 #include "ui/output/Form6_Druck.h"
 #include "ui/output/Form8_Seitenkopf.h"
@@ -51,6 +52,7 @@ constexpr Eintrag eintraege[] = {
     {Fensterart::bemessung, zeige<Form12>, "Bemessungsoptionen"},
     {Fensterart::projektdaten, zeige<Form15>, "Projektdaten"},
     {Fensterart::bemerkungen, zeige<Form222>, "Bemerkungen"},
+    {Fensterart::varianten, zeige<Variantenvergleich>, "Varianten"},
     {Fensterart::eigeneMaterialien, zeige<Form99>, "Eigene Materialien"},
     {Fensterart::rechner, zeige<Form3>, "Taschenrechner"},
     {Fensterart::kalender, zeige<Form60>, "Kalender"},

@@ -79,6 +79,10 @@ Menue Form1::bearbeitenmenue() {
     for (const Eingabeeintrag& eintrag : eingabeeintraege())
         menue.punkte.push_back({eintrag.menuename, eintrag.menuetext,
                                 [this, art = eintrag.art] { oeffneFenster(art); }, eintrag.taste});
+    menue.punkte.push_back(trenner);
+    menue.punkte.push_back({qtext("mnuVarianten"), qtext("Variante merken und ver&gleichen ..."),
+                            [this] { oeffneFenster(Fensterart::varianten); },
+                            QKeySequence(Qt::CTRL | Qt::Key_M)});
     return menue;
 }
 

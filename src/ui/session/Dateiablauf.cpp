@@ -14,9 +14,6 @@ namespace rippenscheibe {
 
 namespace {
 
-const QString dateifilter = QStringLiteral("Datei Rippenscheibe 2.0 (*.rsw);;alle Dateien (*.*)");
-const QString dateiendung = QStringLiteral("rsw");
-
 QString abfragetitel(Dateiaktion aktion) {
     switch (aktion) {
         case Dateiaktion::neu:
@@ -137,8 +134,8 @@ void Dateiablauf::naechsterSchritt() {
 void Dateiablauf::oeffnenDialog() {
     std::optional<QString> datei = wunsch_;
     if (!datei)
-        datei = meldungen_.oeffnen(fenster_, {QStringLiteral("Datei öffnen"), dialogordner(programm_),
-                                              QString(), dateifilter, dateiendung});
+        datei = meldungen_.oeffnen(
+            fenster_, positionswahl(QStringLiteral("Datei öffnen"), dialogordner(programm_), QString()));
     if (!datei) return;
     programm_.DialogDateiname = *datei;
     lade(*datei);
@@ -147,30 +144,16 @@ void Dateiablauf::oeffnenDialog() {
 Dateiablauf::Ausgang Dateiablauf::dialogUndSichern() {
     const QString vorschlag = programm_.Dateiname.empty() ? dateivorschlag(programm_)
                                                           : QFileInfo(qtext(programm_.Dateiname)).fileName();
-    std::optional<QString> datei;
-    do {
-        datei = waehleZiel(meldungen_, fenster_,
-                           {QStringLiteral("Datei speichern unter"), dialogordner(programm_), vorschlag,
-                            dateifilter, dateiendung});
-        if (!datei) return Ausgang::abgebrochen;
-    } while (!darfUeberschreiben(*datei));
+    const std::optional<QString> datei = waehlePositionsziel(
+        meldungen_, fenster_,
+        positionswahl(QStringLiteral("Datei speichern unter"), dialogordner(programm_), vorschlag));
+    if (!datei) return Ausgang::abgebrochen;
     const QString dialognameVorher = std::exchange(programm_.DialogDateiname, *datei);
     const std::string nameVorher = std::exchange(programm_.Dateiname, utf8(*datei));
     if (saveFile()) return Ausgang::weiter;
     programm_.DialogDateiname = dialognameVorher;
     programm_.Dateiname = nameVorher;
     return Ausgang::fehlgeschlagen;
-}
-
-// The file dialog asks about the name as it was chosen, and it appends the ending only to a name without a
-// point: "1.2" is written to "1.2.rsw", which it has not asked about.
-bool Dateiablauf::darfUeberschreiben(const QString& gewaehlt) {
-    const QString ziel = qtext(mitEndung(utf8(gewaehlt)));
-    if (ziel == gewaehlt || !QFileInfo::exists(ziel)) return true;
-    const QString frage =
-        QStringLiteral("Die Datei\n%1\nist bereits vorhanden. Soll sie überschrieben werden?");
-    return meldungen_.zeige(fenster_, {Symbol::frage, QStringLiteral("Datei speichern"), frage.arg(ziel),
-                                       Knoepfe::jaNein}) == Antwort::ja;
 }
 
 bool Dateiablauf::saveFile() {

@@ -47,7 +47,6 @@ class Dateiablauf {
     Ausgang sichernTrotzFremdem();
     bool fremdGeaendert() const;
     void merkeDateistand();
-    bool darfUeberschreiben(const QString& gewaehlt);
     void naechsterSchritt();
     void oeffnenDialog();
     bool saveFile();

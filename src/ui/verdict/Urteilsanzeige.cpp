@@ -19,12 +19,6 @@ namespace {
 
 constexpr int spaltenzahl = 2;
 
-Balkenurteil gesamturteil(const Sofortergebnis& ergebnis) {
-    if (!ergebnis.urteil.maxEta) return Balkenurteil::ohneNachweis;
-    if (!ergebnis.urteil.erfuellt()) return Balkenurteil::ueberschritten;
-    return ergebnis.luecken.isEmpty() ? Balkenurteil::erfuellt : Balkenurteil::ohneNachweis;
-}
-
 // "0,00" is proved, a dash has no demand, a sign stands for a demand without a proof.
 Balkenwert balkenwert(const Abschnittsurteil& abschnitt) {
     const QString name = qtext(abschnitt.name);
@@ -116,6 +110,12 @@ class Hinweisknopf : public QAbstractButton {
 };
 
 }  // namespace
+
+Balkenurteil gesamturteil(const Sofortergebnis& ergebnis) {
+    if (!ergebnis.urteil.maxEta) return Balkenurteil::ohneNachweis;
+    if (!ergebnis.urteil.erfuellt()) return Balkenurteil::ueberschritten;
+    return ergebnis.luecken.isEmpty() ? Balkenurteil::erfuellt : Balkenurteil::ohneNachweis;
+}
 
 // ---- The slim line ----
 

@@ -13,6 +13,9 @@ namespace rippenscheibe {
 
 class Kurzzeile;
 
+// The look of the whole verdict: met only without open demands.
+Balkenurteil gesamturteil(const Sofortergebnis& ergebnis);
+
 // The verdict as a slim line, for the foot of a dialog. What does not fit stands in its tool tip.
 class Urteilszeile : public QLabel {
     Q_OBJECT
