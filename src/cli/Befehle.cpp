@@ -221,7 +221,20 @@ class Arbeit {
         melde(datei, oeffnung.vorbehalte);
         eingaben_ = w;
         zuweisen(w, oeffnung.felder);
+        if (auftrag_.befehl != Befehl::uebertrage) meldeFehlendesMaterial(datei, w);
         return oeffnung.felder;
+    }
+
+    // Without its row an own material has no strengths.
+    void meldeFehlendesMaterial(const fs::path& datei, const Wand& w) const {
+        for (const Seite n : beideSeiten) {
+            const bool beplankt = n == Seite::eins || !w.Einseitig;
+            if (!beplankt || !istEigenesMaterial(plattenmaterial(w, n))) continue;
+            if (w.eigeneMaterialien.name(w.EigenesMaterial[n]) != nullptr) continue;
+            melde(datei, "Beplankung " + std::to_string(nummer(n)) + ": Das eigene Material " +
+                             std::to_string(w.EigenesMaterial[n].value()) +
+                             " steht nicht in der Tabelle der eigenen Materialien.");
+        }
     }
 
     void gibErgebnisAus(const fs::path& datei, const Wand& w, bool gerechnet, const Lastfallzeile* fall) {

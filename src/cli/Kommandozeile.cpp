@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <memory>
 #include <numeric>
 #include <sstream>
 #include <string_view>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "basis/Version.h"
+#include "cli/Hilfeform.h"
 #include "files/Pfad.h"
 
 namespace rippenscheibe {
@@ -221,21 +223,14 @@ void Befehlszeile::richteEin() {
     app_.set_help_flag("-h,--help", "diese Hilfe");
     app_.set_version_flag("--version", "rippenscheibe-cli " + std::string(programmversion()), "Version");
     app_.footer("Hilfe zu einem Befehl: rippenscheibe-cli BEFEHL --help\n\n" + std::string(rueckgabewerte));
-    app_.get_formatter()->label("Usage", "Aufruf");
-    app_.get_formatter()->label("OPTIONS", "Optionen");
-    app_.get_formatter()->label("SUBCOMMAND", "BEFEHL");
-    app_.get_formatter()->label("Positionals", "Angaben");
-    app_.option_defaults()->group("Optionen");
-    app_.get_help_ptr()->group("Optionen");
-    app_.get_version_ptr()->group("Optionen");
-    app_.allow_windows_style_options(false);  // a path may begin with a slash there too
+    app_.formatter(std::make_shared<Hilfeform>());  // of the commands too
+    app_.allow_windows_style_options(false);        // a path may begin with a slash there too
     app_.require_subcommand(1);
 }
 
 CLI::App& Befehlszeile::befehl(const std::string& name, const std::string& erklaerung, Befehl welcher) {
-    CLI::App* const verb = app_.add_subcommand(name, erklaerung)->group("Befehle");
+    CLI::App* const verb = app_.add_subcommand(name, erklaerung);
     verb->footer("");
-    verb->get_help_ptr()->group("Optionen");
     verb->callback([this, welcher] { auftrag_.befehl = welcher; });
     return *verb;
 }
