@@ -7,7 +7,9 @@
 
 #include <array>
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <new>
 #include <optional>
@@ -153,6 +155,29 @@ TEST_F(Dateischreiber, WhoMayReadTheFileStaysTheSame) {
     ASSERT_EQ(::stat(datei.c_str(), &jetzt), 0);
     EXPECT_EQ(jetzt.st_gid, jemand);
     EXPECT_EQ(jetzt.st_mode & 0777U, 0604U);
+}
+
+TEST_F(Dateischreiber, AnAccessListGoesAlong) {
+    // Version 2, then tag, rights and number of: owner rw, user 12345 r, group r, mask r, others none.
+    constexpr std::uint32_t niemand = 0xFFFFFFFF;
+    struct Eintrag {
+        std::uint16_t art, rechte;
+        std::uint32_t nummer;
+    };
+    const struct {
+        std::uint32_t version = 2;
+        Eintrag eintraege[5] = {
+            {1, 6, niemand}, {2, 4, 12345}, {4, 4, niemand}, {16, 4, niemand}, {32, 0, niemand}};
+    } liste;
+    constexpr const char* name = "system.posix_acl_access";
+    schreibe("wand.rsw", "alt");
+    if (::setxattr(datei.c_str(), name, &liste, sizeof liste, 0) != 0)
+        GTEST_SKIP() << "the file system knows no access lists";
+    ASSERT_FALSE(schreibeDauerhaft(datei, "neu"));
+    std::string wert(sizeof liste + 1, ' ');
+    ASSERT_EQ(::getxattr(datei.c_str(), name, wert.data(), wert.size()), ssize_t{sizeof liste});
+    EXPECT_EQ(std::memcmp(wert.data(), &liste, sizeof liste), 0);
+    EXPECT_EQ(liesDatei(datei).bytes, "neu");
 }
 
 TEST_F(Dateischreiber, TemporaryFilesOfAKilledSaveGoAfterADay) {
