@@ -144,44 +144,19 @@ void Ausnutzungsbalken::setze(const Balkenwert& wert) {
     update();
 }
 
-void Ausnutzungsbalken::setzeNamensbreite(int pixel) {
-    namensbreite_ = pixel;
-    updateGeometry();
-    update();
-}
-
-int Ausnutzungsbalken::namensbreite() const {
-    return namensbreite_ > 0 ? namensbreite_ : fontMetrics().horizontalAdvance(wert_.name) + 2;
-}
-
-void Ausnutzungsbalken::setzeUrteilInWorten(bool inWorten) {
-    inWorten_ = inWorten;
-    updateGeometry();
-    update();
-}
+int Ausnutzungsbalken::namensbreite() const { return fontMetrics().horizontalAdvance(wert_.name) + 2; }
 
 // What holds needs no sign; everything else says what it is without its colour.
 QString Ausnutzungsbalken::werttext() const {
     const QString zeichen = urteilszeichen(wert_.urteil);
-    const QString text = wert_.wert.isEmpty() ? zeichen
-                         : wert_.urteil == Balkenurteil::erfuellt && !inWorten_
-                             ? wert_.wert
-                             : zeichen + QLatin1Char(' ') + wert_.wert;
-    return inWorten_ ? text + QLatin1Char(' ') + urteilswort(wert_.urteil) : text;
+    if (wert_.wert.isEmpty()) return zeichen;
+    return wert_.urteil == Balkenurteil::erfuellt ? wert_.wert : zeichen + QLatin1Char(' ') + wert_.wert;
 }
 
 // As wide as any verdict, so that the marks of bars below each other are in line.
 int Ausnutzungsbalken::wertbreite() const {
-    int breite = std::max(fontMetrics().horizontalAdvance(QStringLiteral("✗ 88,88")),
-                          fontMetrics().horizontalAdvance(werttext()));
-    if (!inWorten_) return breite;
-    using enum Balkenurteil;
-    for (const Balkenurteil urteil : {ueberschritten, ohneBedarf, ohneNachweis}) {
-        const QString zahl = urteil == ueberschritten ? QStringLiteral("88,88 ") : QString();
-        const QString text = urteilszeichen(urteil) + QLatin1Char(' ') + zahl + urteilswort(urteil);
-        breite = std::max(breite, fontMetrics().horizontalAdvance(text));
-    }
-    return breite;
+    return std::max(fontMetrics().horizontalAdvance(QStringLiteral("✗ 88,88")),
+                    fontMetrics().horizontalAdvance(werttext()));
 }
 
 QSize Ausnutzungsbalken::sizeHint() const {
@@ -216,8 +191,7 @@ void Ausnutzungsbalken::paintEvent(QPaintEvent*) {
     const QRectF balken(innen.left() + namen + abstand, oben, innen.width() - namen - werte - 2 * abstand,
                         balkenhoehe);
     maleBalken(painter, balken, wert_.eta, wert_.urteil, palette());
-    if (wert_.urteil != Balkenurteil::erfuellt || inWorten_)
-        painter.setPen(urteilsfarbe(palette(), wert_.urteil));
+    if (wert_.urteil != Balkenurteil::erfuellt) painter.setPen(urteilsfarbe(palette(), wert_.urteil));
     painter.drawText(QRect(innen.right() - werte + 1, innen.top(), werte, innen.height()),
                      Qt::AlignRight | Qt::AlignVCenter, werttext());
     if (!hasFocus()) return;

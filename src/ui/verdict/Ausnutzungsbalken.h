@@ -55,12 +55,6 @@ class Ausnutzungsbalken : public QAbstractButton {
     void setze(const Balkenwert& wert);
     const Balkenwert& wert() const { return wert_; }
 
-    // Bars below each other share the width of their names; 0: as wide as the name.
-    void setzeNamensbreite(int pixel);
-    int namensbreite() const;
-    // Writes the verdict in words behind the value.
-    void setzeUrteilInWorten(bool inWorten);
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -69,12 +63,11 @@ class Ausnutzungsbalken : public QAbstractButton {
     bool event(QEvent* event) override;
 
   private:
+    int namensbreite() const;
     QString werttext() const;
     int wertbreite() const;
 
     Balkenwert wert_;
-    int namensbreite_ = 0;
-    bool inWorten_ = false;
 };
 
 }  // namespace rippenscheibe
