@@ -24,10 +24,10 @@
 #include "ui/basics/Zieldatei.h"
 #include "ui/derivation/Herleitungsansicht.h"
 #include "ui/drawings/Ausgabe.h"
-#include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Form23_Text.h"
-#include "ui/output/Urteilsstreifen.h"
 #include "ui/paper/PdfAusgabe.h"
+#include "ui/verdict/Form23_Ausnutzungen.h"
+#include "ui/verdict/Urteilsstreifen.h"
 
 namespace rippenscheibe {
 

@@ -2,9 +2,9 @@
 #include "report/Rtfausgabe.h"
 #include "report/Textausgabe.h"
 #include "support/Gerechnet.h"
-#include "ui/output/Form23_Ausnutzungen.h"
 #include "ui/output/Form23_Ergebnisse.h"
 #include "ui/output/Form23_Text.h"
+#include "ui/verdict/Form23_Ausnutzungen.h"
 
 namespace rippenscheibe {
 namespace {

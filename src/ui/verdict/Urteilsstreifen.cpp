@@ -1,4 +1,4 @@
-#include "ui/output/Urteilsstreifen.h"
+#include "ui/verdict/Urteilsstreifen.h"
 
 #include <QComboBox>
 #include <QFont>
@@ -12,9 +12,9 @@
 #include "run/Urteil.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
-#include "ui/output/Form23_Ausnutzungen.h"
-#include "ui/output/Frischvergleich.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
+#include "ui/verdict/Form23_Ausnutzungen.h"
+#include "ui/verdict/Frischvergleich.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/output/Frischvergleich.h"
+#include "ui/verdict/Frischvergleich.h"
 
 #include <algorithm>
 #include <string>
@@ -7,7 +7,7 @@
 #include "report/Textausgabe.h"
 #include "run/FrischerLauf.h"
 #include "ui/basics/Programm.h"
-#include "ui/output/Form23_Ausnutzungen.h"
+#include "ui/verdict/Form23_Ausnutzungen.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/output/Form23_Ausnutzungen.h"
+#include "ui/verdict/Form23_Ausnutzungen.h"
 
 #include <QPainter>
 #include <QStyledItemDelegate>
