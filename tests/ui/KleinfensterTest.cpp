@@ -282,7 +282,31 @@ TEST_F(Kleinfenster, DoubleQuotesBecomeSingleOnesWithOneNoteAndNothingIsLost) {
         EXPECT_EQ(programm->einstellungen.Kopfzeile1, "Büro 'Nord'");
         EXPECT_EQ(meldungen.gezeigt.size(), 5U);
     }
+    {
+        Textvorlagenfenster fenster(*programm, meldungen, nullptr, Vorlagenart::vorbemerkungen);
+        klick(fenster, "Command2");
+        setze(fenster, "Text2", "\"Kurz\"");
+        feld<QPlainTextEdit>(fenster, "Text1")->setPlainText(QStringLiteral("nach \"Plan\""));
+        klick(fenster, "Command3");
+        EXPECT_EQ(meldungen.gezeigt.size(), 6U);
+        const Textvorlagen vorlagen = liesTextvorlagen(programm->datei(vorlagenVorbemerkungen)).wert;
+        ASSERT_EQ(vorlagen.size(), 1U);
+        EXPECT_EQ(vorlagen[0].name, "'Kurz'");
+        EXPECT_EQ(vorlagen[0].text, "nach 'Plan'");
+    }
+    {
+        Form99 fenster(*programm, meldungen);
+        klick(fenster, "Command2(0)");
+        setze(fenster, "Textbox1", "Platte \"S\"");
+        tippe(fenster, "TextBox2(1)", "3,5");
+        klick(fenster, "Option1(1)");
+        klick(fenster, "Command3");
+        klick(fenster, "Command1");
+        EXPECT_EQ(meldungen.gezeigt.size(), 7U);
+    }
     neuStart();
+    ASSERT_EQ(programm->w.eigeneMaterialien.zeilen.size(), 1U);
+    EXPECT_EQ(*programm->w.eigeneMaterialien.name(1), "Platte 'S'");
     ASSERT_EQ(programm->projekte.eintraege.size(), 5U);
     EXPECT_EQ(programm->projekte.eintraege[3].name, "C");
     EXPECT_EQ(programm->projekte.eintraege[4].name, "Haus 'Süd', 2");
@@ -300,6 +324,26 @@ TEST_F(Kleinfenster, PathChooserEndsTheFolderWithASeparatorOnlyWhenItIsTakenOver
     Pfadwahl standard(*programm, meldungen, nullptr, Pfadwahl::Zweck::standardpfad);
     klick(standard, "Command1(1)");
     EXPECT_EQ(programm->einstellungen.StandardPfad, utf8(QDir::rootPath()));
+}
+
+// Many folders above it are read after the window shows: its own stays in sight.
+TEST_F(Kleinfenster, ThePathChooserKeepsItsStartInSightWhileFoldersAreRead) {
+    QDir hier(ordner.path());
+    for (int i = 0; i < 150; ++i)
+        ASSERT_TRUE(hier.mkdir(QStringLiteral("a%1").arg(i, 3, 10, QLatin1Char('0'))));
+    ASSERT_TRUE(hier.mkpath(QStringLiteral("z/tief")));
+    programm->Positionspfad = utf8(ordner.filePath(QStringLiteral("z/tief")));
+    Pfadwahl wahl(*programm, meldungen, nullptr, Pfadwahl::Zweck::positionspfad);
+    const auto* baum = feld<QTreeView>(wahl, "Dir1");
+    QSignalSpy gelesen(baum->model(), SIGNAL(directoryLoaded(QString)));
+    wahl.show();
+    const auto sichtbar = [&] {
+        const QRect ort = baum->visualRect(baum->currentIndex());
+        return ort.isValid() && baum->viewport()->rect().contains(ort.center());
+    };
+    const QPersistentModelIndex drueber = baum->currentIndex().parent().parent();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return baum->model()->rowCount(drueber) > 150 && sichtbar(); }));
+    EXPECT_FALSE(gelesen.isEmpty());
 }
 
 // ---- Remarks and templates ----

@@ -1,5 +1,6 @@
 #include "support/Gerechnet.h"
 #include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Kuerzel.h"
 #include "ui/controls/Symbol.h"
 #include "ui/main/Form1_Hauptfenster.h"
 
@@ -122,6 +123,12 @@ void pruefeEnter(QWidget& fenster) {
         EXPECT_EQ(gedrueckt, wirkung == Wirkung::gedrueckt && !istGleich ? 1 : 0);
         EXPECT_EQ(feld->hasFocus(), wirkung == Wirkung::gedrueckt || rechner);
         EXPECT_EQ(horcher.gehoert, 0);
+        if (feld->objectName().startsWith(QStringLiteral("SofortBalken")) ||
+            feld->objectName().startsWith(QStringLiteral("ComErg"))) {
+            feld->setFocus();
+            QTest::keyClick(feld, Qt::Key_Space);
+            EXPECT_EQ(gedrueckt, 0);
+        }
         EXPECT_TRUE(fenster.isVisible());
         if (auto* knopf = qobject_cast<QAbstractButton*>(feld))
             QObject::disconnect(knopf, &QAbstractButton::clicked, nullptr, nullptr);
@@ -230,6 +237,19 @@ void pruefeVorlesen(QWidget& fenster) {
 
 TEST_F(Rundgang, AScreenReaderGetsRoleNameAndRangeOfEveryControl) { jedesFenster(pruefeVorlesen); }
 
+TEST_F(Rundgang, LettersGoRoundAsLongAsThereAreEnough) {
+    QWidget fenster;
+    QStringList texte{QStringLiteral("ab"), QStringLiteral("a"), QStringLiteral("ac"), QStringLiteral("c")};
+    for (const QString& text : texte) (new QPushButton(text, &fenster))->setObjectName(text);
+    vergibKuerzel(fenster);
+    QStringList marken;
+    for (const QString& text : texte)
+        marken << QKeySequence::mnemonic(finde<QPushButton>(fenster, qPrintable(text)).text()).toString();
+    // "ab" gives way to "a"; for "ac" and "c" only one letter is left.
+    EXPECT_EQ(marken.mid(0, 2), (QStringList{QStringLiteral("Alt+B"), QStringLiteral("Alt+A")}));
+    EXPECT_TRUE(marken[2] == QStringLiteral("Alt+C") || marken[3] == QStringLiteral("Alt+C"));
+}
+
 TEST_F(Rundgang, EveryWindowFitsASmallScreenAndShowsItsButtonsThere) {
     jedesFenster([](QWidget& fenster) {
         SCOPED_TRACE(fenster.objectName().toStdString());
@@ -249,14 +269,37 @@ TEST_F(Rundgang, EveryWindowFitsASmallScreenAndShowsItsButtonsThere) {
     });
 }
 
-TEST_F(Rundgang, AWindowComesBackInTheSizeThatTheUserGaveIt) {
-    QSize gezeigt;
+TEST_F(Rundgang, AWindowComesBackInThePlaceAndSizeThatTheUserGaveIt) {
+    QRect gezeigt;
     const auto oeffneBelastung = [&](const std::function<void(QWidget&)>& bedienen) {
         mitFenster([&] { oeffne(Fensterart::belastung, programm, meldungen, nullptr); }, bedienen);
     };
-    oeffneBelastung([](QWidget& fenster) { fenster.resize(601, 403); });
-    oeffneBelastung([&](QWidget& fenster) { gezeigt = fenster.size(); });
-    EXPECT_EQ(gezeigt, QSize(601, 403));
+    oeffneBelastung([](QWidget& fenster) { fenster.setGeometry(40, 30, 601, 403); });
+    oeffneBelastung([&](QWidget& fenster) { gezeigt = fenster.geometry(); });
+    EXPECT_EQ(gezeigt, QRect(40, 30, 601, 403));
+}
+
+TEST_F(Rundgang, SplittersComeBackAsTheyWereLeft) {
+    programm.w.Fvk = 5;
+    programm.zuweisen();
+    ASSERT_EQ(starte(programm.w), Laufergebnis::gerechnet);
+    const auto stellung = [&](const std::function<void(QSplitter&)>& bedienen) {
+        QList<int> breiten;
+        mitFenster([&] { oeffne(Fensterart::ergebnisse, programm, meldungen, nullptr); },
+                   [&](QWidget& fenster) {
+                       auto* teiler = fenster.findChild<QSplitter*>();
+                       bedienen(*teiler);
+                       breiten = teiler->sizes();
+                   });
+        return breiten;
+    };
+    const QList<int> vorher = stellung([](QSplitter&) {});
+    const QList<int> gezogen = stellung([&](QSplitter& teiler) {
+        teiler.setSizes({vorher[0] - 40, vorher[1] + 40});
+        QCoreApplication::processEvents();
+    });
+    EXPECT_LT(gezogen[0], vorher[0] - 20);
+    EXPECT_NEAR(stellung([](QSplitter&) {})[0], gezogen[0], 2);
 }
 
 TEST_F(Rundgang, DialogsBeginInTheirFirstFieldAndEndWithTheirButtons) {

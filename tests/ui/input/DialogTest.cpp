@@ -300,6 +300,68 @@ TEST_F(Dialog, FastenersAreRefusedWithTheFirstFindingOnly) {
     EXPECT_EQ(form.focusWidget(), &wert(form, "Textbox1(9)"));
 }
 
+TEST_F(Dialog, ARefusalOfTheSheathingLeadsToTheFieldItNames) {
+    struct Fall {
+        int Material1, Material2, NKL;
+        double t1;
+        const char* feld;
+    };
+    const Fall faelle[] = {{3, 1, 2, 12.5, "MaterialBox"},
+                           {1, 3, 2, 15, "Materialbox2"},
+                           {2, 7, 1, 11.9, "Textbox1(0)"},
+                           {6, 7, 1, 15, "Materialbox2"}};
+    for (const Fall& fall : faelle) {
+        w.Einseitig = false;
+        w.Material[Seite::eins] = fall.Material1;
+        w.Material[Seite::zwei] = fall.Material2;
+        for (const Seite n : beideSeiten) w.NKLBeplankung[n] = fall.NKL;
+        w.Plattendicke1 = fall.t1;
+        Form4 form(programm, meldungen, nullptr);
+        form.show();
+        klicke(form, "ComEnde");
+        ASSERT_NE(form.focusWidget(), nullptr);
+        EXPECT_EQ(form.focusWidget()->objectName(), QLatin1String(fall.feld));
+    }
+}
+
+// All texts that can refuse the fasteners, each by a wall that breaks this rule alone.
+TEST_F(Dialog, ARefusalOfTheFastenersLeadsToTheFieldItNames) {
+    struct Fall {
+        int Material, VMArt;
+        double d, ln, dk, lg;
+        const char* worte;
+        const char* feld;
+    };
+    const Fall faelle[] = {
+        {1, 2, 4, 50, 8, 50, "Die Gewinde-/Rillenlänge lg", "Textbox1(3)"},
+        {1, 1, 4, 50, 4, 0, "Der Kopfdurchmesser dk", "Textbox1(2)"},
+        {1, 1, 4, 300, 8, 0, "Die Länge l des VM", "Textbox1(9)"},
+        {1, 6, 4, 50, 8, 0, "nicht zulässig", "Combo1"},
+        {3, 1, 4, 50, 8, 0, "nicht zulässig", "Combo1"},
+        {7, 4, 4, 50, 8, 30, "nicht zulässig", "Combo1"},
+        {3, 6, 3.5, 50, 8, 0, "Durchmesser der Schnellbauschrauben", "Textbox1(8)"},
+        {1, 5, 9, 50, 18, 30, "Durchmesser der Schrauben", "Textbox1(8)"},
+    };
+    w.Einseitig = true;
+    for (const Fall& fall : faelle) {
+        SCOPED_TRACE(fall.worte);
+        w.Material[Seite::eins] = fall.Material;
+        w.VMArt[Seite::eins] = fall.VMArt;
+        w.d[Seite::eins] = fall.d;
+        w.ln[Seite::eins] = fall.ln;
+        w.dk[Seite::eins] = fall.dk;
+        w.lg[Seite::eins] = fall.lg;
+        Form5 form(programm, meldungen, nullptr);
+        form.show();
+        meldungen.gezeigt.clear();
+        klicke(form, "ComEnde");
+        ASSERT_EQ(meldungen.gezeigt.size(), 1U);
+        EXPECT_TRUE(meldungen.gezeigt[0].text.contains(QString::fromUtf8(fall.worte)));
+        ASSERT_NE(form.focusWidget(), nullptr);
+        EXPECT_EQ(form.focusWidget()->objectName(), QLatin1String(fall.feld));
+    }
+}
+
 TEST_F(Dialog, TheAnchorLimitsItsNailsAndComputesItsResistance) {
     Form7 form(programm, meldungen, nullptr);
     form.show();

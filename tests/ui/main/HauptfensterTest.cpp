@@ -45,6 +45,22 @@ TEST_F(Hauptfenster, ResultsCanBeDiscarded) {
     EXPECT_EQ(name, QStringLiteral("Ueber"));
 }
 
+// The date that the project window fills in counts for nothing; a key does, as everywhere.
+TEST_F(Hauptfenster, ANewPositionIsUnchangedUntilAKeyIsTyped) {
+    const auto titel = [this] { return fenster.windowTitle(); };
+    const auto uebernimm = [](QWidget& form) { klicke(form, "ComEnde"); };
+    EXPECT_TRUE(mitFenster([this] { fenster.starte(); }, uebernimm));
+    EXPECT_FALSE(titel().startsWith(QLatin1Char('*'))) << titel().toStdString();
+    EXPECT_TRUE(mitFenster([this] { loese("mnuFNew"); }, uebernimm));
+    EXPECT_FALSE(programm.w.Datum.empty());
+    EXPECT_FALSE(titel().startsWith(QLatin1Char('*'))) << titel().toStdString();
+    EXPECT_TRUE(meldungen.gezeigt.empty());
+    auto& laenge = wert(fenster, "Textbox1(0)");
+    laenge.setFocus();
+    QTest::keyClick(&laenge, Qt::Key_5);
+    EXPECT_TRUE(titel().startsWith(QLatin1Char('*')));
+}
+
 TEST_F(Hauptfenster, UnsavedWorkIsOfferedAgainAfterAnEndThatDidNotAskForIt) {
     programm.felder.Wandlaenge = 8.5;
     programm.zuweisen();

@@ -255,6 +255,13 @@ TEST_F(Ergebnisansicht, SearchGoesRoundAndEscLeavesItFirst) {
     const QString vorBild = text->toPlainText();
     klicke(*fenster, "Command1");
     EXPECT_EQ(text->toPlainText().remove(QChar::ObjectReplacementCharacter), vorBild);
+    // On another screen it is drawn anew, with the dots of that one.
+    const QUrl bild(text->textCursor().charFormat().toImageFormat().name());
+    const auto gezeigt = [&] { return text->document()->resource(QTextDocument::ImageResource, bild); };
+    EXPECT_GT(gezeigt().value<QImage>().width(), 100);
+    text->document()->addResource(QTextDocument::ImageResource, bild, QImage(1, 1, QImage::Format_RGB32));
+    Q_EMIT fenster->windowHandle()->screenChanged(fenster->screen());
+    EXPECT_GT(gezeigt().value<QImage>().width(), 100);
     text->moveCursor(QTextCursor::Start);
     tippe(wort, QStringLiteral("beplankung 2"));
     klicke(*fenster, "Voriger");

@@ -15,9 +15,11 @@ void meldeWesentliches(QtMsgType art, const QMessageLogContext& ort, const QStri
 }  // namespace
 
 // All window tests share one application. Numbers are shown with a comma, whatever the machine's locale.
+// Under QT_QPA_PLATFORM=xcb they drive windows that one can look at, QT_QPA_PLATFORMTHEME chooses their
+// desktop.
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     qInstallMessageHandler(meldeWesentliches);
     QApplication application(argc, argv);
