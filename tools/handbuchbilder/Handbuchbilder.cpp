@@ -167,7 +167,7 @@ int main(int argc, char** argv) {
     Form1 hauptfenster(programm, meldungen);
     hauptfenster.show();
     hauptfenster.starte(QString::fromLocal8Bit(argv[2]));
-    programm.Positionspfad = "/home/planung/Neubau Wohnhaus Ahornweg/";
+    programm.Positionspfad = "/home/planung/Ahornweg/";
     warte(ruhe);
     sichere(hauptfenster);
     fotografiere(

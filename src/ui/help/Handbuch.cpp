@@ -53,7 +53,7 @@ const std::vector<Kapitel>& kapitelliste() {
 }
 
 // Window by object name and its chapter.
-constexpr std::array<std::pair<const char*, const char*>, 22> fensterkapitel{{
+constexpr std::array<std::pair<const char*, const char*>, 24> fensterkapitel{{
     {"form0", "installation"},
     {"Form1", "hauptfenster"},
     {"Form2", "rippen"},
@@ -76,6 +76,8 @@ constexpr std::array<std::pair<const char*, const char*>, 22> fensterkapitel{{
     {"Form801", "projekte-und-bemerkungen"},
     {"Form99", "eigene-materialien"},
     {"Form10", "hauptfenster"},
+    {"Auslegen", "viele-waende"},
+    {"Einfluss", "viele-waende"},
 }};
 
 QUrl ort(const QString& kapitel) { return QUrl(QStringLiteral("qrc:/handbuch/%1.md").arg(kapitel)); }
