@@ -17,19 +17,6 @@ Oeffnung abgelehnt(const std::filesystem::path& datei, std::string_view grund) {
     return {.fehler = pfadtext(datei) + ": " + std::string(grund)};
 }
 
-// A position holds only the row of an own material: without it the values of the one before would act.
-void nenneFehlendeMaterialien(const Wand& w, Texte& vorbehalte) {
-    if (w.eigeneMaterialien.zeilen.empty()) return;  // who only copies a position reads no list
-    for (const Seite n : beideSeiten) {
-        const bool benutzt = n == Seite::eins || !w.Einseitig;
-        if (!benutzt || plattenmaterial(w, n) != Platte::frei) continue;
-        if (w.eigeneMaterialien.name(w.EigenesMaterial[n]) != nullptr) continue;
-        vorbehalte.push_back("Beplankung " + std::to_string(nummer(n)) +
-                             ": Die Materialliste hat keine Zeile " +
-                             std::to_string(w.EigenesMaterial[n].value()) + " (eigenes Material).");
-    }
-}
-
 // What is said of a run.
 Positionslauf beurteile(const Wand& w, Laufergebnis ergebnis) {
     Positionslauf lauf;
@@ -63,7 +50,6 @@ Oeffnung oeffnePosition(const std::filesystem::path& datei, Wand& w, Einlass ein
     }
     for (const Uebersprungen& feld : liesPositionstext(text, w))
         oeffnung.vorbehalte.push_back(beschreibung(feld));
-    nenneFehlendeMaterialien(w, oeffnung.vorbehalte);
     oeffnung.felder = grundmasse(w);
     return oeffnung;
 }

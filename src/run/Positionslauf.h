@@ -21,9 +21,8 @@ enum class Einlass { nurPositionen, jedeDatei };
 struct Oeffnung {
     std::optional<std::string> fehler{};  // why not, with the name of the file: the record is as it was
     bool gelesen = false;                 // there is such a file, and it could be read
-    // Fields of the file that kept the value of the record, and own materials that the list lacks.
-    Texte vorbehalte{};
-    Grundmasse felder{};  // of the main window
+    Texte vorbehalte{};                   // fields of the file that kept the value of the record
+    Grundmasse felder{};                  // of the main window
 };
 // Zuweisen has to follow.
 Oeffnung oeffnePosition(const std::filesystem::path& datei, Wand& w, Einlass einlass);

@@ -109,17 +109,6 @@ TEST_F(Befehle, AnOwnMaterialWithoutARowIsTold) {
     }
 }
 
-TEST_F(Befehle, ARowThatTheMaterialListLacksIsTold) {
-    std::string position = inhalt(beispiel("eigenes_material"));
-    const std::size_t letzte = position.rfind(",1,1");  // EigenesMaterial1, EigenesMaterial2
-    const std::string fehlt = ": Beplankung 1: Die Materialliste hat keine Zeile 50 (eigenes Material).\n";
-    for (const std::string befehl : {"rechne", "pruefe"}) {
-        EXPECT_EQ(tool({befehl, schreibe("a.rsw", position)}).meldungen, "");
-        const std::string andere = position.substr(0, letzte) + ",50" + position.substr(letzte + 2);
-        EXPECT_EQ(tool({befehl, schreibe("b.rsw", andere)}).meldungen.find(datei("b.rsw") + fehlt), 0U);
-    }
-}
-
 TEST_F(Befehle, OneJsonLineAFileHoldsEveryFieldInFixedOrder) {
     const auto j = json({"rechne", "--ausgabe", "json", beispiel("zweiseitig")});
     std::vector<std::string> schluessel;
