@@ -53,7 +53,7 @@ const std::vector<Kapitel>& kapitelliste() {
 }
 
 // Window by object name and its chapter.
-constexpr std::array<std::pair<const char*, const char*>, 24> fensterkapitel{{
+constexpr std::array<std::pair<const char*, const char*>, 25> fensterkapitel{{
     {"form0", "installation"},
     {"Form1", "hauptfenster"},
     {"Form2", "rippen"},
@@ -78,6 +78,7 @@ constexpr std::array<std::pair<const char*, const char*>, 24> fensterkapitel{{
     {"Form10", "hauptfenster"},
     {"Auslegen", "viele-waende"},
     {"Einfluss", "viele-waende"},
+    {"Varianten", "urteil"},
 }};
 
 QUrl ort(const QString& kapitel) { return QUrl(QStringLiteral("qrc:/handbuch/%1.md").arg(kapitel)); }
