@@ -55,10 +55,8 @@ class Formelsetzer {
         const bool nurWert = ausdruck == keiner;
         const bool rechnet = !nurWert && !istBlatt(d_.knoten(ausdruck).op) &&
                              d_.symbolisch(ausdruck) != d_.eingesetzt(ausdruck);
-        const std::vector<Index> zeichen =
-            nurWert ? std::vector<Index>() : glieder(ausdruck, Formelstil::zeichen);
-        const std::vector<Index> zahlen =
-            rechnet ? glieder(ausdruck, Formelstil::zahlen) : std::vector<Index>();
+        std::vector<Index> zeichen = nurWert ? std::vector<Index>() : glieder(ausdruck, Formelstil::zeichen);
+        std::vector<Index> zahlen = rechnet ? glieder(ausdruck, Formelstil::zahlen) : std::vector<Index>();
         const std::vector<Index> ergebnis{gleich, wort(wert, false, true)};
         std::vector<Index> alles{links};
         for (const std::vector<Index>* stueck : {&zeichen, &zahlen}) {
@@ -70,9 +68,11 @@ class Formelsetzer {
         if (nurWert || (mass_.einzeilig && breite(alles) <= mass_.breite)) return zeile(alles);
 
         const double einzug = k(links).breite;
-        umbrich({links, gleich}, zeichen, 0, einzug + k(gleich).breite);
-        if (!zahlen.empty()) umbrich({gleich}, zahlen, einzug, einzug + k(gleich).breite);
-        zeile(ergebnis, einzug);
+        const double hinterGleich = einzug + k(gleich).breite;
+        if (mass_.einzeilig) (zahlen.empty() ? zeichen : zahlen).push_back(nebeneinander(ergebnis));
+        umbrich({links, gleich}, zeichen, 0, hinterGleich);
+        if (!zahlen.empty()) umbrich({gleich}, zahlen, einzug, hinterGleich);
+        if (!mass_.einzeilig) zeile(ergebnis, einzug);
         const double b = bild_.groesse().width();
         if (mass_.einzeilig && b > mass_.breite) bild_.massstab_ = mass_.breite / b;
     }
@@ -315,6 +315,7 @@ class Formelsetzer {
         double y = 0;
         bool gefunden = false;
         for (const Ort ort : argumente) {
+            if (y > 0) y += 0.2 * groesse_;
             const bool entscheidet = !gefunden && d_.knoten(ort).wert == x.wert;
             gefunden = gefunden || entscheidet;
             Index zeile = setze(ort, stil);
