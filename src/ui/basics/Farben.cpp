@@ -39,8 +39,9 @@ void staerkeZweitfarbe() {
 }  // namespace
 
 double kontrast(const QColor& a, const QColor& b) {
-    const auto [dunkler, heller] = std::minmax(leuchtdichte(a), leuchtdichte(b));
-    return (heller + 0.05) / (dunkler + 0.05);
+    const double eine = leuchtdichte(a);
+    const double andere = leuchtdichte(b);
+    return (std::max(eine, andere) + 0.05) / (std::min(eine, andere) + 0.05);
 }
 
 QColor lesbar(const QColor& farbe, const QPalette& palette) {

@@ -4,10 +4,23 @@
 #include <QTest>
 #include <limits>
 
+#include "ui/basics/Farben.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
 
 namespace rippenscheibe {
 namespace {
+
+// Black on white is 21 to 1. A colour changes only where it cannot be read, and no more than it must.
+TEST(Farben, AColourIsStrengthenedUntilItCanBeRead) {
+    EXPECT_NEAR(kontrast(Qt::black, Qt::white), 21.0, 1e-9);
+    EXPECT_NEAR(kontrast(QColor(0x2E7D32), QColor(0xEFEFEF)), 4.459, 1e-3);
+    QPalette hell(Qt::black, QColor(0xEFEFEF), Qt::white, Qt::black, Qt::gray, Qt::black, Qt::white,
+                  Qt::white, QColor(0xEFEFEF));
+    EXPECT_EQ(lesbar(QColor(0xB3261E), hell), QColor(0xB3261E));
+    const QColor gruen = lesbar(QColor(0x2E7D32), hell);
+    EXPECT_GT(kontrast(gruen, QColor(0xEFEFEF)), 4.5);
+    EXPECT_GT(gruen.green(), 2 * gruen.red());
+}
 
 TEST(Ausnutzungsbalken, SaysInWordsWhatItsColourSays) {
     const double inf = std::numeric_limits<double>::infinity();
