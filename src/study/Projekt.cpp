@@ -10,9 +10,7 @@
 #include "basis/Zahlenformat.h"
 #include "files/Dateischreiber.h"
 #include "files/Pfad.h"
-#include "files/Positionsdatei.h"
-#include "files/Zeichensatz.h"
-#include "run/Zuweisen.h"
+#include "run/Positionslauf.h"
 #include "study/Felder.h"
 #include "study/Lastfaelle.h"
 
@@ -67,12 +65,10 @@ bool hatPositionsendung(const fs::path& datei) {
     return endung == ".rsw";
 }
 
-Dateistand dateistand(const fs::path& datei) {
-    std::error_code fehler;
-    Dateistand stand{datei, fs::last_write_time(datei, fehler), 0};
-    if (fehler) return {datei, {}, 0};
-    stand.groesse = fs::file_size(datei, fehler);
-    return stand;
+// A reason without the name of its file, which stands beside it.
+std::string ohneNamen(std::string grund, const fs::path& datei) {
+    const std::string name = pfadtext(datei) + ": ";
+    return grund.starts_with(name) ? grund.substr(name.size()) : std::move(grund);
 }
 
 std::string plattenangabe(const Wand& w, Seite n) {
@@ -166,6 +162,14 @@ std::string massgebendText(const Fallurteil& fall) {
     return fall.name + (fall.name.empty() || nachweis.empty() ? "" : ": ") + nachweis;
 }
 
+Dateistand dateistand(const fs::path& datei) {
+    std::error_code fehler;
+    Dateistand stand{datei, fs::last_write_time(datei, fehler), 0};
+    if (fehler) return {datei, {}, 0};
+    stand.groesse = fs::file_size(datei, fehler);
+    return stand;
+}
+
 fs::path lastfalldatei(const fs::path& position) {
     fs::path datei = position;
     return datei.replace_extension("lastfaelle.csv");
@@ -198,6 +202,12 @@ std::variant<std::vector<Projektdatei>, std::string> projektdateien(const fs::pa
     return dateien;
 }
 
+std::string ordnername(const fs::path& ordner) {
+    std::error_code fehler;
+    const fs::path ganz = fs::weakly_canonical(ordner, fehler);
+    return pfadtext(ganz.has_filename() ? ganz.filename() : ganz.parent_path().filename());
+}
+
 Projekturteil Projektposition::stand() const {
     if (!fehler.empty()) return Projekturteil::unlesbar;
     if (!urteil.maxEta) return Projekturteil::hinweise;
@@ -207,21 +217,15 @@ Projekturteil Projektposition::stand() const {
 Projektposition liesProjektposition(const Projektdatei& datei, const EigeneMaterialien& materialien) {
     Projektposition p;
     p.datei = datei;
-    const auto scheitere = [&](std::string grund) {
-        p.fehler = std::move(grund);
-        return p;
-    };
-    if (const auto grund = einwand(datei.position.datei)) return scheitere(*grund);
-    const Dateiinhalt inhalt = liesDatei(datei.position.datei);
-    if (inhalt.fehler) return scheitere(inhalt.fehler->text);
-    const std::string text = dekodiert(inhalt.bytes);
-    if (positionsbefund(text).ganzeAnweisungen == 0) return scheitere(std::string(keinePosition));
-
     Wand w;
     w.eigeneMaterialien = materialien;
     zuweisen(w, grundmasse(w));
-    for (const Uebersprungen& feld : liesPositionstext(text, w))
-        p.uebersprungen.push_back(beschreibung(feld));
+    Oeffnung oeffnung = oeffnePosition(datei.position.datei, w, Einlass::nurPositionen);
+    if (oeffnung.fehler) {
+        p.fehler = ohneNamen(*oeffnung.fehler, datei.position.datei);
+        return p;
+    }
+    p.uebersprungen = std::move(oeffnung.vorbehalte);
     p.eingaben = w;
     beschreibe(p, w);
     p.mengen = mengen(w);

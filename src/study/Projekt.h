@@ -50,6 +50,9 @@ struct Dateistand {
     bool operator==(const Dateistand&) const = default;
 };
 
+// Without a time where there is no such file.
+Dateistand dateistand(const std::filesystem::path& datei);
+
 struct Projektdatei {
     Dateistand position;
     Dateistand lastfaelle;  // without a time when there are none
@@ -60,6 +63,9 @@ struct Projektdatei {
 // "RSW" are among them, so that somebody says why they do not open. A sentence when the folder cannot be
 // read.
 std::variant<std::vector<Projektdatei>, std::string> projektdateien(const std::filesystem::path& ordner);
+
+// What a folder is called, "." and a slash at the end included.
+std::string ordnername(const std::filesystem::path& ordner);
 
 enum class Projekturteil { erfuellt, nichtErfuellt, hinweise, unlesbar };
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "files/EigeneMaterialienDatei.h"
@@ -16,6 +17,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/derivation/Rechenwegdruck.h"
 #include "ui/paper/PdfAusgabe.h"
+#include "ui/paper/Sammelpdf.h"
 
 namespace rippenscheibe {
 
@@ -98,6 +100,46 @@ class Pdflauf {
     Grundmasse felder_{};
 };
 
+// All positions of a folder in one PDF.
+class Ordnerlauf {
+  public:
+    Ordnerlauf(const Pdfauftrag& auftrag, const std::filesystem::path& ordner, const Pdfausgaben& ausgaben)
+        : auftrag_(auftrag), ordner_(ordner), ausgaben_(ausgaben) {}
+
+    Rueckgabe laufe() {
+        Sammelauftrag sammlung;
+        const auto dateien = projektdateien(auftrag_.position);
+        if (const auto* fehler = std::get_if<std::string>(&dateien)) return scheitere(*fehler);
+        sammlung.dateien = std::get<0>(dateien);
+        const auto materialien = ladeEigeneMaterialien(ordner_);
+        if (const auto stoerung = materialien.stoerung()) return scheitere(stoerung->text);
+        const auto gelesen = liesEinstellungen(ordner_ / einstellungsdatei, sammlung.einstellungen);
+        if (const auto stoerung = gelesen.stoerung()) return scheitere(stoerung->text);
+        sammlung.materialien = materialien.wert;
+        sammlung.logo = liesLogo(ordner_);
+        sammlung.form = auftrag_.form == formen[1] ? Form::kurz : Form::lang;
+        sammlung.titel = ordnername(auftrag_.position);
+        const Sammelpdf pdf = sammelpdf(sammlung, {});
+        for (const std::string& meldung : pdf.meldungen) ausgaben_.meldungen(meldung + "\n");
+        if (pdf.gedruckt == 0)
+            return scheitere("Im Ordner \"" + pfadtext(auftrag_.position) +
+                             "\" liegt keine Position, die gedruckt werden kann.");
+        if (const auto fehler = schreibeDauerhaft(auftrag_.ziel, pdf.bytes.toStdString()))
+            return scheitere(fehler->text);
+        return pdf.rueckgabe;
+    }
+
+  private:
+    Rueckgabe scheitere(const std::string& satz) const {
+        ausgaben_.meldungen(satz + "\n");
+        return Rueckgabe::dateifehler;
+    }
+
+    const Pdfauftrag& auftrag_;
+    const std::filesystem::path& ordner_;
+    const Pdfausgaben& ausgaben_;
+};
+
 // Qt names the program by the path it was called with.
 QString aufrufhilfe(const QCommandLineParser& befehlszeile) {
     const QString aufgerufen = QCoreApplication::arguments().value(0);
@@ -124,12 +166,14 @@ void beschreibeAufruf(QCommandLineParser& befehlszeile) {
     befehlszeile.addHelpOption();
     befehlszeile.addVersionOption();
     befehlszeile.addOption({optionPdf,
-                            QStringLiteral("Schreibt den Ausdruck der Position als PDF, ohne Fenster."),
+                            QStringLiteral("Schreibt den Ausdruck der Position, oder aller Positionen eines "
+                                           "Ordners, als PDF, ohne Fenster."),
                             QStringLiteral("AUS.pdf")});
     befehlszeile.addOption({optionForm,
                             QStringLiteral("Form des PDF: lang, kurz oder rechenweg (sonst lang)."),
                             formen.join(QLatin1Char('|')), QStringLiteral("lang")});
-    befehlszeile.addPositionalArgument(QStringLiteral("DATEI"), QStringLiteral("Positionsdatei (*.rsw)"),
+    befehlszeile.addPositionalArgument(QStringLiteral("DATEI"),
+                                       QStringLiteral("Positionsdatei (*.rsw), mit --pdf auch ein Ordner"),
                                        QStringLiteral("[DATEI]"));
 }
 
@@ -174,12 +218,17 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
     if (befehlszeile.value(optionPdf).isEmpty())
         return falscherAufruf(QStringLiteral("Nach --pdf fehlt der Name der Datei."));
     if (befehlszeile.positionalArguments().size() != 1)
-        return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei erwartet."));
+        return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei oder ein Ordner erwartet."));
     const Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
                              pfad(befehlszeile.positionalArguments().constFirst()), form};
     if (sindDieselbeDatei(auftrag.ziel, auftrag.position))
         return falscherAufruf(QStringLiteral("--pdf: \"%1\" ist die Positionsdatei selbst.")
                                   .arg(befehlszeile.value(optionPdf)));
+    std::error_code fehler;
+    const bool ordner = std::filesystem::is_directory(auftrag.position, fehler);
+    if (ordner && form == formen[2])
+        return falscherAufruf(QStringLiteral("--form rechenweg geht nur mit einer Positionsdatei."));
+    if (ordner) return Ordnerlauf(auftrag, programmordner, ausgaben).laufe();
     return Pdflauf(auftrag, programmordner, ausgaben).laufe();
 }
 

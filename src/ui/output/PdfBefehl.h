@@ -13,7 +13,8 @@ class QCommandLineParser;
 namespace rippenscheibe {
 
 // `rippenscheibe --pdf AUS.pdf [--form lang|kurz] DATEI`: the printed report of a position as a PDF,
-// without a window and without a display.
+// without a window and without a display. A folder in its place: all its positions, each from a fresh run,
+// with running page numbers; the exit code is that of the worst.
 
 // Where the texts for the user go, UTF-8.
 struct Pdfausgaben {

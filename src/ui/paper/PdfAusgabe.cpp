@@ -1,10 +1,7 @@
 #include "ui/paper/PdfAusgabe.h"
 
-#include <QBuffer>
 #include <QFileInfo>
 #include <QPagedPaintDevice>
-#include <QPainter>
-#include <QPdfWriter>
 #include <QUuid>
 
 #include "basis/Laengenmass.h"
@@ -13,7 +10,6 @@
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
 #include "ui/paper/Druckpuffer.h"
-#include "ui/paper/PdfLesezeichen.h"
 #include "ui/paper/Seitenmaler.h"
 
 namespace rippenscheibe {
@@ -73,29 +69,61 @@ QString abgeschnittenText(const QString& zeile) {
         .arg(zeile.trimmed());
 }
 
-Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
-    Pdf datei;
-    QBuffer puffer(&datei.bytes);
-    puffer.open(QIODevice::WriteOnly);
-    QPdfWriter schreiber(&puffer);
-    schreiber.setPageSize(QPageSize(QPageSize::A4));
-    schreiber.setPageMargins(QMarginsF());
-    schreiber.setResolution(aufloesung);
-    schreiber.setTitle(dokumenttitel(w));
-    schreiber.setCreator(QStringLiteral("Rippenscheibe"));
+Pdfdokument::Pdfdokument(const QString& titel, const std::string& kennung) {
+    puffer_.open(QIODevice::WriteOnly);
+    schreiber_.setPageSize(QPageSize(QPageSize::A4));
+    schreiber_.setPageMargins(QMarginsF());
+    schreiber_.setResolution(aufloesung);
+    schreiber_.setTitle(titel);
+    schreiber_.setCreator(QStringLiteral("Rippenscheibe"));
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     // Newer Qt gives each document a random number; the same position gives the same file.
-    schreiber.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(positionstext(w))));
+    schreiber_.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(kennung)));
+#else
+    Q_UNUSED(kennung)
 #endif
+}
+
+Druckergebnis Pdfdokument::haengeAn(const Wand& w, const Ausdruck& ausdruck, const std::string& name) {
     Druckpuffer seiten;
-    datei.ergebnis = setze(seiten, w, ausdruck);
-    datei.abgeschnitten =
-        aufGeraet(schreiber, w, ausdruck, [&](Zeichenflaeche& f) { seiten.spiele(f); }).value_or(QString());
-    puffer.close();
+    const Druckergebnis ergebnis = setze(seiten, w, ausdruck);
+    if (painter_.isActive()) {
+        schreiber_.newPage();
+    } else {
+        painter_.begin(&schreiber_);
+    }
+    Seitenmaler maler(painter_, schreiber_.logicalDpiY() / mmJeZoll,
+                      {w, ausdruck.logo, ausdruck.optionen.dezimalzeichen,
+                       ausdruck.dokument != nullptr ? ausdruck.dokument->male : nullptr},
+                      [this] { schreiber_.newPage(); });
+    seiten.spiele(maler);
+    if (datei_.abgeschnitten.isEmpty()) datei_.abgeschnitten = maler.abgeschnitten();
+
     Lesezeichensammler sammler;
     seiten.spiele(sammler);
-    datei.bytes = mitLesezeichen(datei.bytes, sammler.gefundene);
-    return datei;
+    const int tiefer = name.empty() ? 0 : 1;
+    if (!name.empty()) lesezeichen_.push_back({1, seiten_, 0.0, name});
+    for (Lesezeichen zeichen : sammler.gefundene) {
+        zeichen.rang += tiefer;
+        zeichen.seite += seiten_;
+        lesezeichen_.push_back(zeichen);
+    }
+    seiten_ += ergebnis.seiten;
+    datei_.ergebnis = {seiten_, ergebnis.LetzteSeite};
+    return ergebnis;
+}
+
+Pdf Pdfdokument::schliesse() {
+    if (painter_.isActive()) painter_.end();
+    puffer_.close();
+    datei_.bytes = mitLesezeichen(datei_.bytes, lesezeichen_);
+    return datei_;
+}
+
+Pdf pdf(const Wand& w, const Ausdruck& ausdruck) {
+    Pdfdokument dokument(dokumenttitel(w), positionstext(w));
+    dokument.haengeAn(w, ausdruck);
+    return dokument.schliesse();
 }
 
 std::optional<Druckergebnis> speicherePdf(Programm& programm, Meldungen& meldungen, QWidget* fenster,

@@ -1,16 +1,22 @@
 #pragma once
 
+#include <QBuffer>
 #include <QByteArray>
 #include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
 #include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "files/Dateischreiber.h"
 #include "report/Bericht.h"
 #include "report/Seiten.h"
 #include "ui/paper/Dokument.h"
+#include "ui/paper/PdfLesezeichen.h"
 
 class QPagedPaintDevice;
 class QWidget;
@@ -57,6 +63,27 @@ struct Pdf {
     QString abgeschnitten;  // the first line that the paper cuts off, empty when none is
 };
 Pdf pdf(const Wand& w, const Ausdruck& ausdruck);
+
+// A PDF of several printouts, one behind the other, built in any thread.
+class Pdfdokument {
+  public:
+    // `kennung`: what makes the file the same the next time.
+    Pdfdokument(const QString& titel, const std::string& kennung);
+
+    // The printout begins on a page of its own. A name stands in the outline, and its headings below it.
+    Druckergebnis haengeAn(const Wand& w, const Ausdruck& ausdruck, const std::string& name = {});
+    int seiten() const { return seiten_; }
+    // The file; the result counts all pages.
+    Pdf schliesse();
+
+  private:
+    Pdf datei_;
+    QBuffer puffer_{&datei_.bytes};
+    QPdfWriter schreiber_{&puffer_};
+    QPainter painter_;
+    std::vector<Lesezeichen> lesezeichen_;
+    int seiten_ = 0;
+};
 
 // Asks for a file and writes the PDF of the open position there; nothing when the user cancels or the file
 // cannot be written, which is reported.

@@ -8,6 +8,7 @@
 #include "ui/output/PdfBefehl.h"
 #include "ui/paper/Druckpuffer.h"
 #include "ui/paper/PdfAusgabe.h"
+#include "ui/paper/Sammelpdf.h"
 #include "ui/paper/Seitenmaler.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
 
@@ -172,7 +173,12 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
         {"missing file", {option, ziel, datei("fehlt.rsw")}, Rueckgabe::dateifehler, "fehlt.rsw"},
         {"other kind", {option, ziel, datei("bild.jpg")}, Rueckgabe::dateifehler, "Datei passt nicht"},
         {"no place", {option, datei("nirgends/a.pdf"), rsw("windsog")}, Rueckgabe::dateifehler, "a.pdf"},
-        {"no file", {option, ziel}, Rueckgabe::aufruf, "genau eine Positionsdatei"},
+        {"a folder",
+         {option, ziel, QString::fromStdString(beispiel("haus").replace_extension().string())},
+         Rueckgabe::nichtErfuellt,
+         "EG-04.rsw: Es werden nicht alle"},
+        {"an empty folder", {option, ziel, ordner.path()}, Rueckgabe::dateifehler, "liegt keine Position"},
+        {"no file", {option, ziel}, Rueckgabe::aufruf, "genau eine Positionsdatei oder ein Ordner"},
         {"two files", {option, ziel, rsw("windsog"), rsw("zuganker")}, Rueckgabe::aufruf, "genau eine"},
         {"other form",
          {option, ziel, QStringLiteral("--form"), QStringLiteral("ansicht"), rsw("windsog")},
@@ -195,6 +201,40 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
         EXPECT_EQ(inhalt(ziel).startsWith("%PDF"), geschrieben);
     }
     EXPECT_FALSE(istPdfBefehl({QStringLiteral("--pdfx"), QStringLiteral("a.rsw")}));
+}
+
+// As many pages as the single prints have, numbered without a gap, and a heading above those of each
+// position.
+TEST_F(Pdfausgabe, OnePdfHoldsThePagesOfAllPositions) {
+    QDir(ordner.path()).mkdir(QStringLiteral("projekt"));
+    const auto projekt = pfad(datei("projekt"));
+    for (const char* name : {"windsog", "nicht_erfuellt", "hinweise"})
+        std::filesystem::copy(beispiel(name), projekt / (std::string(name) + ".rsw"));
+    EXPECT_FALSE(schreibeDauerhaft(projekt / "wirr.rsw", "wirr"));
+    Sammelauftrag auftrag;
+    const auto dateien = projektdateien(projekt);
+    auftrag.dateien = std::get<0>(dateien);
+    auftrag.einstellungen.SeitenzahlStandard = true;
+    int blaetter = 0;
+    qsizetype ueberschriften = 2;
+    for (const char* name : {"nicht_erfuellt", "windsog"}) {
+        programm.w = Wand();
+        rechne(name);
+        const Pdf einzeln = pdf(programm.w, ausdruck());
+        blaetter += einzeln.ergebnis.seiten;
+        ueberschriften += einzeln.bytes.count("/Title <FEFF");
+    }
+    const Sammelpdf alle = sammelpdf(auftrag, {});
+    EXPECT_EQ(alle.gedruckt, 2);
+    EXPECT_EQ(alle.seiten, blaetter);
+    EXPECT_EQ(alle.letzteSeite, blaetter);
+    EXPECT_EQ(seiten(alle.bytes), blaetter);
+    EXPECT_EQ(alle.bytes.count("/Title <FEFF"), ueberschriften);
+    EXPECT_EQ(alle.rueckgabe, Rueckgabe::dateifehler);
+
+    std::stop_source halt;
+    halt.request_stop();
+    EXPECT_TRUE(sammelpdf(auftrag, {.halt = halt.get_token()}).bytes.isEmpty());
 }
 
 TEST_F(Pdfausgabe, TheCommandTakesTheMaterialsTheWindowTakesAndWritesNone) {
