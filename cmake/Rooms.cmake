@@ -20,3 +20,20 @@ function(rippenscheibe_room name)
         target_link_libraries(${target} PUBLIC rs_${other})
     endforeach()
 endfunction()
+
+# Builds a file into a room, byte for byte: `function` of `header` returns it as a text.
+function(rippenscheibe_built_in room file header function)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
+    file(READ "${file}" bytes HEX)
+    string(REGEX REPLACE "(..)" "\\\\x\\1" bytes "${bytes}")
+    set(source "${CMAKE_CURRENT_BINARY_DIR}/${function}.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"@header@\"
+
+namespace rippenscheibe {
+
+std::string_view @function@() { return \"@bytes@\"; }
+
+}  // namespace rippenscheibe
+" @ONLY)
+    target_sources(rs_${room} PRIVATE "${source}")
+endfunction()

@@ -424,10 +424,10 @@ class Studie {
     }
 
     Preise preise() const {
-        const std::filesystem::path datei = auftrag_.preise.value_or(u_.programmordner / preisdatei);
-        auto gelesen = Preise::aus(lies(datei), auftrag_.csv);
+        auto gelesen = auftrag_.preise ? Preise::ausDatei(*auftrag_.preise, auftrag_.csv)
+                                       : Preise::lade(u_.programmordner, auftrag_.csv);
         if (const auto* fehler = std::get_if<std::string>(&gelesen))
-            throw Abbruch{pfadtext(datei) + ": " + *fehler, Rueckgabe::dateifehler};
+            throw Abbruch{*fehler, Rueckgabe::dateifehler};
         return std::get<0>(std::move(gelesen));
     }
 

@@ -175,7 +175,8 @@ void fuegeRasterverbenHinzu(const Studienverben& verben, Studienauftrag& auftrag
     fuegeZahlHinzu<double>(
         legeAus, "--hoechstens", 0.01, "eine Zahl bis 1",
         [&](double zahl) { auftrag.hoechstens = std::min(zahl, 1.0); }, "größte Ausnutzung (sonst 1)");
-    fuegeDateiHinzu(legeAus, "--preise", auftrag.preise, "Preise (sonst Preise.csv im Ordner des Programms)");
+    fuegeDateiHinzu(legeAus, "--preise", auftrag.preise,
+                    "Preise (sonst Preise.csv im Ordner des Programms, ohne sie die mitgelieferten)");
     legeAus.add_flag("--eigengewicht", auftrag.eigengewicht, "das Eigengewicht gkWand folgt der Wand");
     fuegeZwischenrippenHinzu(legeAus, auftrag);
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "files/Dateischreiber.h"
+#include "files/Pfad.h"
 #include "model/Kataloge.h"
 #include "study/Felder.h"
 
@@ -69,6 +71,24 @@ std::variant<Preise, std::string> Preise::aus(std::string_view text, const Csvfo
             return ort + "\"" + art + "\" ist keine Art (Platte, Holz, Verbindungsmittel, Anker)";
         }
     }
+    return preise;
+}
+
+std::variant<Preise, std::string> Preise::ausDatei(const std::filesystem::path& datei, const Csvform& form) {
+    const Dateiinhalt inhalt = liesDatei(datei);
+    if (inhalt.fehler) return inhalt.fehler->text;
+    auto preise = aus(inhalt.bytes, form);
+    if (auto* fehler = std::get_if<std::string>(&preise)) return pfadtext(datei) + ": " + *fehler;
+    return preise;
+}
+
+std::variant<Preise, std::string> Preise::lade(const std::filesystem::path& programmordner,
+                                               const Csvform& form) {
+    const std::filesystem::path datei = programmordner / preisdatei;
+    if (liesDatei(datei).lage != Dateilage::fehlt) return ausDatei(datei, form);
+    auto preise = aus(geliefertePreise());
+    if (auto* geliefert = std::get_if<Preise>(&preise))
+        geliefert->herkunft_ = "Preise: mitgelieferte Beispielpreise, ohne Gewähr";
     return preise;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,8 +25,17 @@ class Preise {
     std::optional<double> kosten(const Wand& w, const Reihenregel& regel = {}) const;
     std::string fehlenderPreis(const Wand& w) const;
 
-    // The first remark of the table: where it comes from.
+    // Where the prices come from, for whoever reads a cost: the first remark of the table, or that they are
+    // the delivered ones.
     const std::string& herkunft() const { return herkunft_; }
+
+    // The prices of whoever runs the program: the table of the program's folder or, where there is none, the
+    // delivered one. A sentence when there is one that cannot be read.
+    static std::variant<Preise, std::string> lade(const std::filesystem::path& programmordner,
+                                                  const Csvform& form = {});
+    // A table that has to be there.
+    static std::variant<Preise, std::string> ausDatei(const std::filesystem::path& datei,
+                                                      const Csvform& form = {});
 
   private:
     struct Plattenpreis {
@@ -49,5 +59,7 @@ class Preise {
 
 // The name under which a price table keeps its file in the program's folder.
 inline constexpr std::string_view preisdatei = "Preise.csv";
+// The table that the program is delivered with.
+std::string_view geliefertePreise();
 
 }  // namespace rippenscheibe

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <tuple>
 
 #include "run/Zuweisen.h"
@@ -55,10 +53,7 @@ Einzelurteil einzeln(Wand w, const Bewertungsregel& regel) {
     return urteilAlle;
 }
 
-Preise beispielpreise() {
-    std::ifstream datei(RIPPENSCHEIBE_BEISPIELE "/Preise.csv");
-    return std::get<Preise>(Preise::aus(std::string{std::istreambuf_iterator<char>(datei), {}}));
-}
+Preise beispielpreise() { return std::get<Preise>(Preise::aus(geliefertePreise())); }
 
 Auslegungsauftrag auftrag() {
     Auslegungsauftrag a{};
@@ -136,6 +131,27 @@ TEST(Auslegung, NothingPassesNamesTheNearestAndAMissingPriceIsAnError) {
     a.raster = Raster({achse("Plattendicke1=15,14.5")});
     EXPECT_EQ(std::get<std::string>(legeAus(a, {})), "kein Preis für Platte \"OSB/3\" mit 14.5 mm");
     EXPECT_EQ(festesFeld(Raster({achse("av1=50"), achse("KLED=1,2")})), "KLED");
+}
+
+TEST(Preise, TheDeliveredTableHasAPriceForEveryRowOfEveryCatalogue) {
+    const Preise preise = beispielpreise();
+    const auto pruefe = [&](std::string_view feld, int anzahl, auto aendere) {
+        for (int zeile = 1; zeile <= anzahl; ++zeile) {
+            Wand w = wand();
+            Feldzugriff(w).setze(eingabeindex(feld), static_cast<double>(zeile));
+            for (const std::string& dicke : aendere(zeile)) {
+                w.Plattendicke1 = zahlAus(dicke);
+                EXPECT_TRUE(preise.kosten(w)) << preise.fehlenderPreis(w);
+            }
+        }
+    };
+    const auto heutige = [](int) { return std::vector<std::string>{"15"}; };
+    pruefe("Holzart", 13, heutige);
+    pruefe("VMArt1", 8, heutige);
+    pruefe("Ankertyp", 12, heutige);
+    pruefe("Material1", 12, ueblicheDicken);
+    EXPECT_EQ(std::get<Preise>(Preise::lade("kein/ordner")).herkunft(),
+              "Preise: mitgelieferte Beispielpreise, ohne Gewähr");
 }
 
 TEST(Auslegung, StopsWhereItIsToldAndKeepsWhatIsProven) {
