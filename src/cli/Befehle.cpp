@@ -184,15 +184,9 @@ class Arbeit {
     // The load cases of the command; false when they cannot be read.
     bool ladeLastfaelle() {
         if (!auftrag_.studie.lastfaelle) return true;
-        const fs::path& datei = *auftrag_.studie.lastfaelle;
-        const Dateiinhalt inhalt = liesDatei(datei);
-        if (inhalt.fehler) {
-            ausgaben_.meldungen(inhalt.fehler->text + "\n");
-            return false;
-        }
-        auto gelesen = lastfaelleAus(inhalt.bytes, auftrag_.studie.csv);
+        auto gelesen = lastfaelleAusDatei(*auftrag_.studie.lastfaelle, auftrag_.studie.csv);
         if (const auto* fehler = std::get_if<std::string>(&gelesen)) {
-            melde(datei, *fehler);
+            ausgaben_.meldungen(*fehler + "\n");
             return false;
         }
         lastfaelle_ = std::get<0>(std::move(gelesen));

@@ -14,7 +14,7 @@
 #include "files/Pfad.h"
 #include "study/Lastfaelle.h"
 #include "study/Projekt.h"
-#include "study/Tafel.h"
+#include "study/Tafelblatt.h"
 #include "study/Variation.h"
 #include "study/WasHilft.h"
 
@@ -79,15 +79,25 @@ class Studie {
                     return lastfaelle();
             }
         } catch (const Abbruch& abbruch) {
-            u_.ausgaben.meldungen(abbruch.satz + "\n");
+            melde(abbruch.satz);
             return abbruch.rueckgabe;
         }
     }
 
   private:
+    // Rows and messages take the place of the line of progress.
+    void schreibe(std::string_view text) {
+        loescheFortschritt();
+        u_.gibAus(text);
+    }
+    void melde(const std::string& satz) {
+        loescheFortschritt();
+        u_.ausgaben.meldungen(satz + "\n");
+    }
+
     Rueckgabe stapel() {
         if (auftrag_.schema) {
-            u_.gibAus(stapelschema());
+            schreibe(stapelschema());
             return Rueckgabe::erfuellt;
         }
         pruefeFelder();
@@ -112,6 +122,7 @@ class Studie {
         pruefeFelder();
         Variationsauftrag v{eingaben(), u_.materialien, regel(), raster(auftrag_.achsen), auftrag_.felder};
         if (v.raster.achsen().empty()) throw Abbruch{"Es fehlt --feld FELD=WERTE."};
+        pruefeLastfaelle(v.raster, v.regel);
         pruefeLasten(v.raster);
         Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
         rippenscheibe::variiere(v, ausfuehrung(), [&](const Variationspunkt& punkt) {
@@ -126,10 +137,11 @@ class Studie {
             zeile.hinten.emplace_back("luecken", jsonListe(punkt.luecken));
             for (std::size_t i = 0; i < punkt.felder.size(); ++i)
                 zeile.hinten.emplace_back(auftrag_.felder[i], punkt.felder[i]);
-            u_.gibAus(ausgabe.zeile(zeile));
+            schreibe(ausgabe.zeile(zeile));
             return true;
         });
-        u_.gibAus(ausgabe.schluss());
+        schreibe(ausgabe.schluss());
+        pruefeAbbruch();
         return Rueckgabe::erfuellt;
     }
 
@@ -149,28 +161,25 @@ class Studie {
         auto ergebnis = rippenscheibe::legeAus(a, ausfuehrung());
         if (const auto* fehler = std::get_if<std::string>(&ergebnis))
             throw Abbruch{*fehler, Rueckgabe::dateifehler};
-        zeigeFortschritt({});
         return gibAus(a, std::get<0>(ergebnis));
     }
 
     Rueckgabe gibAus(const Auslegungsauftrag& a, const Auslegungsergebnis& ergebnis) {
         const bool gefunden = !ergebnis.entwuerfe.empty();
         const bool text = auftrag_.ausgabe == Studienausgabe::text;
-        const auto sage = [&](const std::string& satz) {
-            text ? u_.gibAus(satz + "\n") : u_.ausgaben.meldungen(satz + "\n");
-        };
+        const auto sage = [&](const std::string& satz) { text ? schreibe(satz + "\n") : melde(satz); };
         sage(auswertung(ergebnis));
         if (a.ziel == Auslegungsziel::kosten && !a.preise.herkunft().empty()) sage(a.preise.herkunft());
         if (!gefunden)
-            sage(ergebnis.knappVerfehlt.empty() ? "Keine Wand besteht."
-                                                : "Keine Wand besteht; am nächsten kommen:");
+            sage((ergebnis.vollstaendig ? "Keine Wand besteht" : "Bis dahin besteht keine Wand") +
+                 std::string(ergebnis.knappVerfehlt.empty() ? "." : "; am nächsten kommen:"));
         Pruefstand stand(a.vorlage, a.materialien, a.regel);
         Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
         int rang = 0;
         for (const Entwurf& entwurf : gefunden ? ergebnis.entwuerfe : ergebnis.knappVerfehlt)
-            u_.gibAus(ausgabe.zeile(entwurfszeile(a, entwurf, gefunden ? ++rang : 0, stand)));
-        u_.gibAus(ausgabe.schluss());
-        if (text) u_.gibAus("Fest: " + festeAngaben(stand) + "\n");
+            schreibe(ausgabe.zeile(entwurfszeile(a, entwurf, gefunden ? ++rang : 0, stand)));
+        schreibe(ausgabe.schluss());
+        if (text) schreibe("Fest: " + festeAngaben(stand) + "\n");
         return gefunden ? Rueckgabe::erfuellt : Rueckgabe::nichtErfuellt;
     }
 
@@ -242,52 +251,35 @@ class Studie {
                 zeile.gruppe = "felder";
                 anfuegeZuweisungen(zeile.innen, setzt);
             }
-            u_.gibAus(ausgabe.zeile(zeile));
+            schreibe(ausgabe.zeile(zeile));
         };
         gib("heute", hilfe.heute, {});
         for (const Hilfeschritt& schritt : hilfe.schritte)
             gib(schritt.text, schritt.bewertung, schritt.setzt);
-        u_.gibAus(ausgabe.schluss());
+        schreibe(ausgabe.schluss());
         return Rueckgabe::erfuellt;
     }
 
     Rueckgabe tafel() {
-        for (const auto& [option, text] : {std::pair("--groesste", auftrag_.groesste),
-                                           {"--zeilen", auftrag_.zeilen},
-                                           {"--spalten", auftrag_.spalten}})
-            if (text.empty()) throw Abbruch{std::string("Es fehlt ") + option + "."};
-        Tafelauftrag t{};
-        t.vorlage = eingaben();
-        t.materialien = u_.materialien;
-        t.regel = regel();
-        t.groesste = achse(auftrag_.groesste + "=" + auftrag_.von + ":" + ende() + ":" + auftrag_.stufe);
-        t.zeilen = achse(auftrag_.zeilen);
-        t.spalten = achse(auftrag_.spalten);
-        pruefeLasten(Raster({t.groesste, t.zeilen, t.spalten}));
+        Tafelwunsch wunsch = auftrag_.wunsch;
+        wunsch.grenzen = auftrag_.grenzen;
+        wunsch.trotzdem = auftrag_.trotzdem;
+        const auto gelesen = tafelauftrag(wunsch, {eingaben(), u_.materialien, regel(), {}, {}, {}});
+        if (const auto* fehler = std::get_if<std::string>(&gelesen)) throw Abbruch{*fehler};
+        const auto& t = std::get<Tafelauftrag>(gelesen);
         const Tafel ergebnis = bemessungstafel(t, ausfuehrung());
-        zeigeFortschritt({});
-        if (!ergebnis.vollstaendig) throw Abbruch{"abgebrochen", Rueckgabe::nichtErfuellt};
+        pruefeAbbruch();
         switch (auftrag_.ausgabe) {
             case Studienausgabe::json:
                 gibZellenAus(t, ergebnis);
                 break;
             case Studienausgabe::rtf:
-                u_.gibAus(tafelRtf(t, ergebnis, u_.vorlagen.front().eingaben));
+                schreibe(tafelRtf(tafelblatt(t, ergebnis)));
                 break;
             default:
                 gibTafelAus(t, ergebnis);
         }
         return Rueckgabe::erfuellt;
-    }
-
-    // Where the search ends: as told, else where the dialog ends.
-    std::string ende() const {
-        if (!auftrag_.bis.empty()) return auftrag_.bis;
-        const int feld = eingabeindex(auftrag_.groesste.substr(0, auftrag_.groesste.find(',')));
-        if (feld < 0) throw Abbruch{"unbekanntes Feld \"" + auftrag_.groesste + "\""};
-        const auto& bereich = eingabefelder()[static_cast<std::size_t>(feld)].bereich;
-        if (!bereich) throw Abbruch{"Es fehlt --bis."};
-        return zahltext(bereich->bis);
     }
 
     void gibZellenAus(const Tafelauftrag& t, const Tafel& tafel) {
@@ -319,7 +311,7 @@ class Studie {
                             (intervalle.size() > 1 ? ",[" : "[") + zahl(von) + "," + zahl(bis) + "]";
                     zeile.vorn.emplace_back("intervalle", intervalle + "]");
                 }
-                u_.gibAus(ausgabe.zeile(zeile));
+                schreibe(ausgabe.zeile(zeile));
             }
         }
     }
@@ -330,10 +322,10 @@ class Studie {
         std::vector<std::vector<std::string>> zeilen =
             tafelzeilen(t, tafel, csv ? auftrag_.csv.dezimal : ',');
         if (!csv) {
-            u_.gibAus(t.groesste.name + ", größter Wert\n" + alsTabelle(zeilen) + tafellegende(tafel));
+            schreibe(t.groesste.name + ", größter Wert\n" + alsTabelle(zeilen) + tafellegende(tafel));
             return;
         }
-        for (const auto& zeile : zeilen) u_.gibAus(csvZeile(zeile, auftrag_.csv));
+        for (const auto& zeile : zeilen) schreibe(csvZeile(zeile, auftrag_.csv));
     }
 
     Rueckgabe stueckliste() {
@@ -348,7 +340,7 @@ class Studie {
             gibMengenAus(ausgabe, vorlage.datei, m);
         }
         if (u_.vorlagen.size() > 1) gibMengenAus(ausgabe, "Summe", summe);
-        u_.gibAus(ausgabe.schluss());
+        schreibe(ausgabe.schluss());
         return Rueckgabe::erfuellt;
     }
 
@@ -356,7 +348,7 @@ class Studie {
         for (const Mengenzeile& posten : mengenzeilen(m)) {
             Studienzeile zeile{.vorn = mengenglieder(posten), .gruppe = {}, .innen = {}, .hinten = {}};
             zeile.vorn.insert(zeile.vorn.begin(), {"wand", jsonOderNull(wand)});
-            u_.gibAus(ausgabe.zeile(zeile));
+            schreibe(ausgabe.zeile(zeile));
         }
     }
 
@@ -374,7 +366,7 @@ class Studie {
             ausgabe.gib(position);
             return true;
         });
-        zeigeFortschritt({});
+        loescheFortschritt();
         ausgabe.schliesse();
         return static_cast<Rueckgabe>(hoechster);
     }
@@ -382,7 +374,7 @@ class Studie {
     Rueckgabe lastfaelle() {
         const auto faelle = vorgeschlageneLastfaelle(eingaben());
         if (faelle.empty()) throw Abbruch{"Die Wand hat keine Lasten.", Rueckgabe::nichtErfuellt};
-        u_.gibAus(lastfaelletext(faelle, auftrag_.csv));
+        schreibe(lastfaelletext(faelle, auftrag_.csv));
         return Rueckgabe::erfuellt;
     }
 
@@ -394,13 +386,20 @@ class Studie {
                     const auto jetzt = std::chrono::steady_clock::now();
                     if (jetzt - gezeigt_ < std::chrono::milliseconds(100)) return;
                     gezeigt_ = jetzt;
-                    zeigeFortschritt(std::to_string(f.geprueft) + " von " + std::to_string(f.gesamt) +
-                                     ", gefunden " + std::to_string(f.gefunden));
+                    if (!u_.ausgaben.fortschritt) return;
+                    u_.ausgaben.fortschritt(std::to_string(f.geprueft) + " von " + std::to_string(f.gesamt) +
+                                            ", gefunden " + std::to_string(f.gefunden));
+                    fortschrittSteht_ = true;
                 }};
     }
 
-    void zeigeFortschritt(std::string_view text) const {
-        if (u_.ausgaben.fortschritt) u_.ausgaben.fortschritt(text);
+    void loescheFortschritt() {
+        if (!std::exchange(fortschrittSteht_, false)) return;
+        u_.ausgaben.fortschritt("");
+    }
+
+    void pruefeAbbruch() const {
+        if (wache_.halt().stop_requested()) throw Abbruch{"abgebrochen", Rueckgabe::nichtErfuellt};
     }
 
     void pruefeFelder() const {
@@ -408,17 +407,20 @@ class Studie {
             throw Abbruch{"Unbekanntes Feld: " + fremd + "\nAlle Felder: rippenscheibe-cli felder"};
     }
 
+    static void pruefeLastfaelle(const Raster& r, const Bewertungsregel& regel) {
+        if (const auto satz = ueberschriebenesFeld(r, regel.lastfaelle)) throw Abbruch{*satz};
+    }
+
     void pruefeLasten(const Raster& r) const {
-        if (auftrag_.trotzdem) return;
-        if (const auto satz = geloeschteLast(r, eingaben())) throw Abbruch{*satz};
+        if (const auto satz = geloeschteLast(r, eingaben()); satz && !auftrag_.trotzdem) throw Abbruch{*satz};
     }
 
     Bewertungsregel regel() const {
         Bewertungsregel r{auftrag_.beideRichtungen, auftrag_.mitLuecken, auftrag_.hoechstens, {}};
         if (!auftrag_.lastfaelle) return r;
-        auto faelle = lastfaelleAus(lies(*auftrag_.lastfaelle), auftrag_.csv);
+        auto faelle = lastfaelleAusDatei(*auftrag_.lastfaelle, auftrag_.csv);
         if (const auto* fehler = std::get_if<std::string>(&faelle))
-            throw Abbruch{pfadtext(*auftrag_.lastfaelle) + ": " + *fehler, Rueckgabe::dateifehler};
+            throw Abbruch{*fehler, Rueckgabe::dateifehler};
         r.lastfaelle = std::get<0>(std::move(faelle));
         return r;
     }
@@ -429,12 +431,6 @@ class Studie {
         if (const auto* fehler = std::get_if<std::string>(&gelesen))
             throw Abbruch{*fehler, Rueckgabe::dateifehler};
         return std::get<0>(std::move(gelesen));
-    }
-
-    static std::string lies(const std::filesystem::path& datei) {
-        Dateiinhalt inhalt = liesDatei(datei);
-        if (inhalt.fehler) throw Abbruch{inhalt.fehler->text, Rueckgabe::dateifehler};
-        return std::move(inhalt.bytes);
     }
 
     Achse achse(const std::string& text) const {
@@ -475,6 +471,7 @@ class Studie {
     const Studienauftrag& auftrag_;
     Wache wache_;
     std::chrono::steady_clock::time_point gezeigt_{};
+    bool fortschrittSteht_ = false;
 };
 
 }  // namespace

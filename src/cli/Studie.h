@@ -11,6 +11,7 @@
 #include "cli/Studienausgabe.h"
 #include "study/Auslegung.h"
 #include "study/Stapel.h"
+#include "study/Tafel.h"
 
 namespace CLI {
 class App;
@@ -52,12 +53,7 @@ struct Studienauftrag {
     // projekt
     std::filesystem::path ordner;
     // tafel
-    std::string groesste;
-    std::string zeilen;
-    std::string spalten;
-    std::string von = "0";
-    std::string bis;
-    std::string stufe = "0.1";
+    Tafelwunsch wunsch;
 };
 
 // Adds the verbs to the command line. `befehl` makes a verb of a name and an explanation.

@@ -187,13 +187,16 @@ void fuegeRasterverbenHinzu(const Studienverben& verben, Studienauftrag& auftrag
         verben.befehl("tafel", "schreibt eine Bemessungstafel", static_cast<int>(Befehl::tafel));
     verben.dateien(tafel, false);
     verben.material(tafel);
-    fuegeTextHinzu(tafel, "--groesste", auftrag.groesste, "FELD",
+    fuegeTextHinzu(tafel, "--groesste", auftrag.wunsch.groesste, "FELD",
                    "die Größe, deren größter Wert gesucht ist");
-    fuegeTextHinzu(tafel, "--zeilen", auftrag.zeilen, "FELD=WERTE", "Zeilen, etwa Wandlaenge=0.625:10:0.625");
-    fuegeTextHinzu(tafel, "--spalten", auftrag.spalten, "FELD=WERTE", "Spalten, etwa av1,av2=50:150:25");
-    fuegeTextHinzu(tafel, "--von", auftrag.von, "WERT", "Anfang der Suche (sonst 0)");
-    fuegeTextHinzu(tafel, "--bis", auftrag.bis, "WERT", "Ende der Suche (sonst, was der Dialog erlaubt)");
-    fuegeTextHinzu(tafel, "--stufe", auftrag.stufe, "WERT", "Schritt der Suche (sonst 0.1)");
+    fuegeTextHinzu(tafel, "--zeilen", auftrag.wunsch.zeilen, "FELD=WERTE",
+                   "Zeilen, etwa Wandlaenge=0.625:10:0.625");
+    fuegeTextHinzu(tafel, "--spalten", auftrag.wunsch.spalten, "FELD=WERTE",
+                   "Spalten, etwa av1,av2=50:150:25");
+    fuegeTextHinzu(tafel, "--von", auftrag.wunsch.von, "WERT", "Anfang der Suche (sonst 0)");
+    fuegeTextHinzu(tafel, "--bis", auftrag.wunsch.bis, "WERT",
+                   "Ende der Suche (sonst, was der Dialog erlaubt)");
+    fuegeTextHinzu(tafel, "--stufe", auftrag.wunsch.stufe, "WERT", "Schritt der Suche (sonst 0.1)");
     tafel.add_flag("--trotzdem", auftrag.trotzdem, "auch Lasten, die bei diesem Lastfall nicht wirken");
     fuegeRegelnHinzu(tafel, auftrag);
     fuegeWahlHinzu(tafel, "--ausgabe", tafelausgaben, auftrag.ausgabe, "Art der Ausgabe (sonst text)");

@@ -1,3 +1,4 @@
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -17,7 +18,7 @@ namespace {
 
 using namespace rippenscheibe;
 
-bool niemandLiest = false;  // the reader of a pipe is gone: no fault of ours
+std::atomic<bool> niemandLiest = false;  // the reader of a pipe is gone: no fault of ours
 bool eingabeUnlesbar = false;
 
 // Hands on what was written so far; false when it did not arrive.
@@ -35,20 +36,35 @@ std::size_t liesEingabe(char* puffer, std::size_t groesse) {
     return gelesen.value_or(0);
 }
 
-// Writes through to whoever reads; false when nobody does any more.
-bool reicheWeiter(std::string_view text) {
+void gibAus(std::string_view text) {
     errno = 0;
     schreibe(stdout, text);
     niemandLiest = niemandLiest || errno == EPIPE;
+}
+
+// Writes through to whoever reads; false when nobody does any more.
+bool reicheWeiter(std::string_view text) {
+    gibAus(text);
     return raeume();
 }
 
-volatile std::sig_atomic_t unterbrochen = 0;
+// Whoever has left need not be told.
+void melde(std::string_view text) {
+    if (!niemandLiest) schreibe(stderr, text);
+}
 
-// Whether Ctrl+C was pressed since the first time somebody asked.
+std::atomic<bool> unterbrochen = false;
+
+// A second Ctrl+C ends the program at once.
+void unterbrich(int /*signal*/) {
+    unterbrochen = true;
+    std::signal(SIGINT, SIG_DFL);
+}
+
+// Whether Ctrl+C was pressed since the first time somebody asked, or nobody reads what would still come.
 bool istUnterbrochen() {
-    static const bool eingerichtet = std::signal(SIGINT, [](int) { unterbrochen = 1; }) != SIG_ERR;
-    return eingerichtet && unterbrochen != 0;
+    static const bool eingerichtet = std::signal(SIGINT, unterbrich) != SIG_ERR;
+    return (eingerichtet && unterbrochen) || niemandLiest;
 }
 
 // One line on a terminal that the next one overwrites.
@@ -63,12 +79,7 @@ Rueckgabe laufe(const std::vector<std::string>& angaben) {
         schreibe(auskunft->rueckgabe == Rueckgabe::erfuellt ? stdout : stderr, auskunft->text);
         return auskunft->rueckgabe;
     }
-    const Ausgaben ausgaben{[](std::string_view text) { schreibe(stdout, text); },
-                            [](std::string_view text) { schreibe(stderr, text); },
-                            liesEingabe,
-                            reicheWeiter,
-                            istUnterbrochen,
-                            zeigeFortschritt};
+    const Ausgaben ausgaben{gibAus, melde, liesEingabe, reicheWeiter, istUnterbrochen, zeigeFortschritt};
     return fuehreAus(std::get<Auftrag>(gelesen), programmordner(), ausgaben);
 }
 

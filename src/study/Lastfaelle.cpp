@@ -5,6 +5,9 @@
 #include <cmath>
 #include <utility>
 
+#include "files/Dateischreiber.h"
+#include "files/Pfad.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -93,6 +96,27 @@ std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_
     }
     if (faelle.empty()) return "kein Lastfall";
     return faelle;
+}
+
+std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAusDatei(const std::filesystem::path& datei,
+                                                                         const Csvform& form) {
+    const Dateiinhalt inhalt = liesDatei(datei);
+    if (inhalt.fehler) return inhalt.fehler->text;
+    auto faelle = lastfaelleAus(inhalt.bytes, form);
+    if (auto* fehler = std::get_if<std::string>(&faelle)) return pfadtext(datei) + ": " + *fehler;
+    return faelle;
+}
+
+std::optional<std::string> ueberschriebenesFeld(const Raster& raster,
+                                                const std::vector<Lastfallzeile>& faelle) {
+    for (const Achse& achse : raster.achsen())
+        for (const int feld : achse.felder)
+            for (const Lastfallzeile& fall : faelle)
+                for (const auto& [gesetzt, wert] : fall.werte)
+                    if (gesetzt == feld)
+                        return std::string(eingabefelder()[static_cast<std::size_t>(feld)].angabe.name) +
+                               " setzt auch der Lastfall \"" + fall.name + "\" und hebt es wieder auf";
+    return std::nullopt;
 }
 
 std::string lastfaelletext(const std::vector<Lastfallzeile>& faelle, const Csvform& form) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -7,6 +9,7 @@
 
 #include "study/Bewertung.h"
 #include "study/Csv.h"
+#include "study/Raster.h"
 
 // The load cases of a wall: a table beside the position, never in it. A run proves one load duration, so that
 // a wall needs a case for each. Columns: name, Lastfall, KLED, Fvk, gk, qk, wk, WindQuer, Fcgk, Fcqk.
@@ -17,6 +20,12 @@ namespace rippenscheibe {
 // their fields keep the value of the position; an empty cell does so too.
 std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_view text,
                                                                     const Csvform& form = {});
+// The same from a file; the sentence then begins with its name.
+std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAusDatei(const std::filesystem::path& datei,
+                                                                         const Csvform& form = {});
+// A field of the grid that the cases set too, and so would undo: a sentence. Nothing when there is none.
+std::optional<std::string> ueberschriebenesFeld(const Raster& raster,
+                                                const std::vector<Lastfallzeile>& faelle);
 std::string lastfaelletext(const std::vector<Lastfallzeile>& faelle, const Csvform& form = {});
 
 // Proposed cases of a wall: both directions of Fv with full and with the smallest vertical load, the vertical

@@ -255,6 +255,20 @@ struct Zeilenrechner::Innen {
         aus += csvZeile(zellen, auftrag.csv);
     }
 
+    void antworte(std::string& aus, const std::optional<std::string>& fehler, bool gerechnet) {
+        if (auftrag.ausgabe == Zeilenform::csv) {
+            antworteCsv(aus, fehler, gerechnet);
+        } else {
+            antworteJson(aus, fehler, gerechnet);
+        }
+    }
+
+    void verwirf(std::string_view grund, std::size_t nummer, std::string& aus, Stapelergebnis& zaehler) {
+        ++zaehler.zeilen;
+        ++zaehler.fehlerhaft;
+        antworte(aus, "Zeile " + std::to_string(nummer) + ": " + std::string(grund), false);
+    }
+
     std::string zelle(std::string_view json) const { return zelleAusJson(json, auftrag.csv); }
 
     static constexpr std::size_t spaltenVorFeldern = 8;
@@ -278,11 +292,10 @@ Zeilenrechner::Zeilenrechner(Zeilenrechner&&) noexcept = default;
 
 std::optional<std::string> Zeilenrechner::setzeKopf(std::string_view kopfzeile) {
     const auto zellen = zellenAus(kopfzeile, innen_->auftrag.csv);
-    if (!zellen) return "Zeile 1: Anführungszeichen nicht geschlossen";
+    if (!zellen) return "Anführungszeichen nicht geschlossen";
     for (const std::string& name : *zellen) {
-        if (name != kennung && eingabeindex(name) < 0) return "Zeile 1: unbekanntes Feld \"" + name + "\"";
-        if (std::count(zellen->begin(), zellen->end(), name) > 1)
-            return "Zeile 1: " + name + " steht zweimal";
+        if (name != kennung && eingabeindex(name) < 0) return "unbekanntes Feld \"" + name + "\"";
+        if (std::count(zellen->begin(), zellen->end(), name) > 1) return name + " steht zweimal";
     }
     innen_->spalten = *zellen;
     return std::nullopt;
@@ -293,23 +306,21 @@ void Zeilenrechner::rechne(std::string_view zeile, std::size_t nummer, std::stri
     Innen& in = *innen_;
     in.beginne(nummer);
     const bool csv = in.auftrag.eingabe == Zeilenform::csv;
-    std::optional<std::string> fehler = csv ? in.liesCsv(zeile) : in.liesJson(zeile);
-    bool gerechnet = false;
+    if (const auto fehler = csv ? in.liesCsv(zeile) : in.liesJson(zeile)) {
+        in.verwirf(*fehler, nummer, aus, zaehler);
+        return;
+    }
+    const bool gerechnet = rechneFrisch(in.w, in.auftrag.laeufe) == Laufergebnis::gerechnet;
     ++zaehler.zeilen;
-    if (fehler) {
-        fehler = "Zeile " + std::to_string(nummer) + ": " + *fehler;
-        ++zaehler.fehlerhaft;
-        in.w.Hinweise.clear();
-    } else {
-        gerechnet = rechneFrisch(in.w, in.auftrag.laeufe) == Laufergebnis::gerechnet;
-        if (!gerechnet) ++zaehler.mitHinweisen;
-        if (gerechnet && !in.w.AlleNachweiseErfuellt) ++zaehler.nichtErfuellt;
-    }
-    if (in.auftrag.ausgabe == Zeilenform::csv) {
-        in.antworteCsv(aus, fehler, gerechnet);
-    } else {
-        in.antworteJson(aus, fehler, gerechnet);
-    }
+    if (!gerechnet) ++zaehler.mitHinweisen;
+    if (gerechnet && !in.w.AlleNachweiseErfuellt) ++zaehler.nichtErfuellt;
+    in.antworte(aus, std::nullopt, gerechnet);
+}
+
+void Zeilenrechner::verwirf(std::string_view grund, std::size_t nummer, std::string& aus,
+                            Stapelergebnis& zaehler) {
+    innen_->beginne(nummer);
+    innen_->verwirf(grund, nummer, aus, zaehler);
 }
 
 std::string Zeilenrechner::kopf() const {
@@ -325,17 +336,16 @@ Stapelergebnis stapel(const Stapelauftrag& auftrag, const Strom& strom, const Au
     Stapelergebnis summe;
     std::string kopfzeile;
     Zeilenrechner erster(auftrag);
+    if (const std::string kopf = erster.kopf(); !kopf.empty() && !strom.schreibe(kopf)) return summe;
     if (auftrag.eingabe == Zeilenform::csv) {
         kopfzeile = leser.ersteZeile();
         if (const auto fehler = erster.setzeKopf(kopfzeile)) {
-            summe.zeilen = summe.fehlerhaft = 1;
-            std::string text = "{\"ok\":false,\"error\":";
-            anfuegeJsonText(text, *fehler);
-            strom.schreibe(text + "}\n");
+            std::string text;
+            erster.verwirf(*fehler, 1, text, summe);
+            strom.schreibe(text);
             return summe;
         }
     }
-    if (const std::string kopf = erster.kopf(); !kopf.empty() && !strom.schreibe(kopf)) return summe;
 
     const auto werkstatt = [&] {
         Zeilenrechner rechner(auftrag);
@@ -344,12 +354,8 @@ Stapelergebnis stapel(const Stapelauftrag& auftrag, const Strom& strom, const Au
     };
     const auto rechne = [](Zeilenrechner& rechner, const Block& block) {
         Antwort antwort;
-        if (block.zuLang) {
-            ++antwort.zaehler.zeilen;
-            ++antwort.zaehler.fehlerhaft;
-            antwort.text = "{\"ok\":false,\"error\":\"Zeile " + std::to_string(block.ersteZeile) +
-                           ": länger als 1 MiB\"}\n";
-        }
+        if (block.zuLang)
+            rechner.verwirf("länger als 1 MiB", block.ersteZeile, antwort.text, antwort.zaehler);
         std::string_view rest = std::string_view(block.text).substr(0, block.laenge);
         for (std::size_t nummer = block.ersteZeile; !rest.empty(); ++nummer) {
             const std::size_t ende = std::min(rest.find('\n'), rest.size());

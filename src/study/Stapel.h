@@ -63,6 +63,8 @@ class Zeilenrechner {
     std::optional<std::string> setzeKopf(std::string_view kopfzeile);
     // Appends the answer to the line with the number `nummer` (from 1) and counts it.
     void rechne(std::string_view zeile, std::size_t nummer, std::string& aus, Stapelergebnis& zaehler);
+    // Appends the answer to a line that cannot be read and counts it.
+    void verwirf(std::string_view grund, std::size_t nummer, std::string& aus, Stapelergebnis& zaehler);
     // The head line of the answers as CSV, empty for JSON.
     std::string kopf() const;
 

@@ -1,11 +1,9 @@
 #include "study/Tafel.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <sstream>
+#include <utility>
 
-#include "basis/Utf8.h"
+#include "study/Lastfaelle.h"
 
 namespace rippenscheibe {
 
@@ -17,73 +15,6 @@ std::string zeichenVon(std::ptrdiff_t stelle) {
     for (; stelle >= 0; stelle = stelle / 26 - 1)
         zeichen.insert(zeichen.begin(), static_cast<char>('a' + stelle % 26));
     return zeichen;
-}
-
-// A page of paragraphs and one table in rich text: A4, margins of 2 cm, pure ASCII.
-class Rtfseite {
-  public:
-    void absatz(const std::string& text, bool fett = false) {
-        rtf_ +=
-            std::string("\\pard ") + (fett ? "\\b " : "") + escaped(text) + (fett ? "\\b0" : "") + "\\par\n";
-    }
-    void tabelle(const std::vector<std::vector<std::string>>& zeilen) {
-        constexpr std::size_t breite = 9638;  // twips between the margins
-        for (const auto& zeile : zeilen) {
-            rtf_ += "\\trowd\\trgaph70";
-            for (std::size_t i = 1; i <= zeile.size(); ++i)
-                rtf_ += "\\clbrdrb\\brdrs\\brdrw10\\cellx" + std::to_string(breite * i / zeile.size());
-            rtf_ += '\n';
-            for (const std::string& zelle : zeile)
-                rtf_ += "\\pard\\intbl" + std::string(&zelle == zeile.data() ? "" : "\\qr") + " " +
-                        escaped(zelle) + "\\cell ";
-            rtf_ += "\\row\n";
-        }
-        rtf_ += "\\pard\\par\n";
-    }
-    std::string fertig() && { return rtf_ + "}\n"; }
-
-  private:
-    static std::string escaped(std::string_view text) {
-        std::string aus;
-        while (!text.empty()) {
-            const Zeichen c = erstesZeichen(text).value_or(Zeichen{U'?', 1});
-            text.remove_prefix(c.laenge);
-            if (c.zeichen == '{' || c.zeichen == '}' || c.zeichen == '\\') {
-                aus.append({'\\', static_cast<char>(c.zeichen)});
-            } else if (c.zeichen < 0x80) {
-                if (c.zeichen >= 0x20) aus += static_cast<char>(c.zeichen);
-            } else {
-                // German texts hold nothing beyond 16 bits.
-                aus += "\\u" + std::to_string(static_cast<std::int16_t>(c.zeichen & 0xFFFFU)) + "?";
-            }
-        }
-        return aus;
-    }
-
-    std::string rtf_ =
-        "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\\paperw11906\\paperh16838\\margl1134\\margr1134"
-        "\\margt1134\\margb1134\\f0\\fs20\n";
-};
-
-// All inputs of the calculation that no axis sets, by name and value.
-std::string festeEingaben(const Tafelauftrag& auftrag) {
-    Wand w;
-    static_cast<Eingaben&>(w) = auftrag.vorlage;
-    const Feldzugriff felder(w);
-    const auto gesetzt = [&](int feld) {
-        const std::array achsen{&auftrag.groesste, &auftrag.zeilen, &auftrag.spalten};
-        return std::any_of(achsen.begin(), achsen.end(), [&](const Achse* achse) {
-            return std::find(achse->felder.begin(), achse->felder.end(), feld) != achse->felder.end();
-        });
-    };
-    std::string text;
-    for (int feld = eingabeindex("Wandlaenge"); feld < static_cast<int>(eingabefelder().size()); ++feld) {
-        if (gesetzt(feld)) continue;
-        if (!text.empty()) text += ", ";
-        text.append(eingabefelder()[static_cast<std::size_t>(feld)].angabe.name).append(" = ");
-        felder.anfuegeEingabe(text, feld);
-    }
-    return text;
 }
 
 Tafelzelle zelle(const Tafelauftrag& auftrag, Pruefstand& stand, const Achsenwert& zeile,
@@ -112,6 +43,30 @@ Tafelzelle zelle(const Tafelauftrag& auftrag, Pruefstand& stand, const Achsenwer
 }
 
 }  // namespace
+
+std::variant<Tafelauftrag, std::string> tafelauftrag(const Tafelwunsch& wunsch, Tafelauftrag rahmen) {
+    for (const auto& [option, text] : {std::pair("--groesste", wunsch.groesste),
+                                       {"--zeilen", wunsch.zeilen},
+                                       {"--spalten", wunsch.spalten}})
+        if (text.empty()) return std::string("Es fehlt ") + option + ".";
+    const int feld = eingabeindex(wunsch.groesste.substr(0, wunsch.groesste.find(',')));
+    if (feld < 0) return "unbekanntes Feld \"" + wunsch.groesste + "\"";
+    const auto& bereich = eingabefelder()[static_cast<std::size_t>(feld)].bereich;
+    if (wunsch.bis.empty() && !bereich) return std::string("Es fehlt --bis.");
+    const std::string bis = wunsch.bis.empty() ? zahltext(bereich->bis) : wunsch.bis;
+    const std::string suche = wunsch.groesste + "=" + wunsch.von + ":" + bis + ":" + wunsch.stufe;
+    for (auto& [achse, text] : {std::pair(&rahmen.groesste, suche),
+                                {&rahmen.zeilen, wunsch.zeilen},
+                                {&rahmen.spalten, wunsch.spalten}}) {
+        auto gelesen = achseAus(text, wunsch.grenzen);
+        if (auto* fehler = std::get_if<std::string>(&gelesen)) return std::move(*fehler);
+        *achse = std::get<Achse>(std::move(gelesen));
+    }
+    const Raster raster({rahmen.groesste, rahmen.zeilen, rahmen.spalten});
+    if (auto satz = ueberschriebenesFeld(raster, rahmen.regel.lastfaelle)) return std::move(*satz);
+    if (auto satz = geloeschteLast(raster, rahmen.vorlage); satz && !wunsch.trotzdem) return std::move(*satz);
+    return rahmen;
+}
 
 Tafel bemessungstafel(const Tafelauftrag& auftrag, const Ausfuehrung& ausfuehrung) {
     const std::size_t breite = auftrag.spalten.werte.size();
@@ -178,32 +133,17 @@ std::string tafellegende(const Tafel& tafel) {
         text += zeichenVon(static_cast<std::ptrdiff_t>(i)) + "  " + zeichen[i] + "\n";
     bool loecher = false;
     bool striche = false;
+    bool offen = false;
     for (const auto& zeile : tafel.zellen)
         for (const Tafelzelle& z : zeile) {
             loecher = loecher || z.hatLoecher();
             striche = striche || !z.besteht();
+            offen = offen || z.massgebend.empty();
         }
     if (striche) text += "–  schon der Anfang besteht nicht\n";
+    if (offen) text += "Werte ohne Zeichen: die Wand besteht bis zum Ende der Suche\n";
     if (loecher) text += "*  ein größerer Wert besteht wieder\n";
     return text;
-}
-
-std::string tafelRtf(const Tafelauftrag& auftrag, const Tafel& tafel, const Eingaben& kopf) {
-    Rtfseite seite;
-    seite.absatz("Bemessungstafel nach DIN 1052 (2008)", true);
-    if (!kopf.Projekt.empty()) seite.absatz("Projekt: " + kopf.Projekt);
-    seite.absatz("Position: " + kopf.Position + " " + kopf.PositionsBemerkung);
-    if (!kopf.Datum.empty()) seite.absatz("Datum: " + kopf.Datum);
-    seite.absatz("Größter Wert von " + auftrag.groesste.name + ", Zeilen: " + auftrag.zeilen.name +
-                 ", Spalten: " + auftrag.spalten.name);
-    seite.tabelle(tafelzeilen(auftrag, tafel, ','));
-    std::istringstream legende(tafellegende(tafel));
-    for (std::string zeile; std::getline(legende, zeile);) seite.absatz(zeile);
-    seite.absatz("Feste Eingaben", true);
-    seite.absatz(festeEingaben(auftrag));
-    seite.absatz(
-        "Die ständigen Lasten sind feste Werte; kleinere können für die Verankerung ungünstiger sein.");
-    return std::move(seite).fertig();
 }
 
 }  // namespace rippenscheibe

@@ -25,6 +25,20 @@ struct Tafelauftrag {
     Achse spalten{};
 };
 
+// A table as words ask for it.
+struct Tafelwunsch {
+    std::string groesste{};     // "Fvk"
+    std::string zeilen{};       // "Wandlaenge=2.5:5:0.625"
+    std::string spalten{};      // "av1,av2=50:150:25"
+    std::string von = "0";      // where the search begins
+    std::string bis{};          // where it ends; empty: where the dialog does
+    std::string stufe = "0.1";  // its step
+    Grenzen grenzen = Grenzen::beachten;
+    bool trotzdem = false;  // loads too that do not act
+};
+// `rahmen` with the axes of the wish, or what is missing or wrong with it as a sentence.
+std::variant<Tafelauftrag, std::string> tafelauftrag(const Tafelwunsch& wunsch, Tafelauftrag rahmen);
+
 struct Tafelzelle {
     std::string groesste;    // as on the grid; empty: the start fails already
     std::string massgebend;  // what fails at the next step, or at the start; empty: nothing up to the end
@@ -48,9 +62,6 @@ std::vector<std::vector<std::string>> tafelzeilen(const Tafelauftrag& auftrag, c
                                                   char dezimal);
 // What the signs mean, a line each.
 std::string tafellegende(const Tafel& tafel);
-// The table as an A4 page in rich text: head, the fixed inputs, the table, the signs.
-std::string tafelRtf(const Tafelauftrag& auftrag, const Tafel& tafel, const Eingaben& kopf);
-
 // All that governs in some cell, in the order of the table.
 std::vector<std::string> massgebende(const Tafel& tafel);
 

@@ -312,6 +312,10 @@ TEST_F(Befehle, VerbsOverManyWallsAnswerWithCodeAndSentence) {
         {{"projekt", ordner.string()}, 3, "liegt keine Position."},
         {{"projekt", datei("fehlt")}, 3, "kann nicht gelesen werden."},
         {{"projekt"}, 64, "Es fehlt eine Angabe: ORDNER."},
+        {{"tafel", wand, "--groesste", "Fvk", "--zeilen", "Wandlaenge=5", "--spalten", "av1=60",
+          "--lastfaelle", schreibe("f.csv", "name;Fvk\nA;3\n")},
+         64,
+         "Fvk setzt auch der Lastfall \"A\" und hebt es wieder auf"},
         {{"rechne", wand, "--lastfaelle", schreibe("f.csv", "name;Fvk\nA;3\nB;7\n")}, 0, "maßgebend B: 5."},
     };
     for (const Fall& fall : faelle) {

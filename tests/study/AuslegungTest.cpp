@@ -7,7 +7,7 @@
 #include "run/Zuweisen.h"
 #include "study/Auslegung.h"
 #include "study/Lastfaelle.h"
-#include "study/Tafel.h"
+#include "study/Tafelblatt.h"
 #include "study/Variation.h"
 #include "study/WasHilft.h"
 #include "support/Walls.h"
@@ -224,7 +224,12 @@ TEST(Tafel, HoldsInEachCellTheLastValueOfAScanByHand) {
         }
     }
     EXPECT_GT(mitWert, 2U);
-    EXPECT_TRUE(tafelRtf(t, einer, t.vorlage).starts_with("{\\rtf1"));
+    const Tafelblatt blatt = tafelblatt(t, einer);
+    EXPECT_EQ(blatt.zellen.size(), 3U);
+    EXPECT_EQ(std::count(blatt.feste.begin(), blatt.feste.end(),
+                         std::pair<std::string, std::string>("gk", "4 kN/m")),
+              1);
+    EXPECT_TRUE(tafelRtf(blatt).starts_with("{\\rtf1"));
 }
 
 TEST(Variation, GivesEachPointOfTheGridInOrder) {

@@ -137,6 +137,16 @@ TEST(Stapel, ReadsAndWritesTablesWithToldMarks) {
     EXPECT_EQ(zeilen[3], ";false;Zeile 5: 2 Werte statt 4;;;;;;;;");
 }
 
+TEST(Stapel, AnswersInTheFormThatWasToldWhateverIsWrong) {
+    Stapelauftrag auftrag;
+    auftrag.eingabe = auftrag.ausgabe = Zeilenform::csv;
+    const std::string kopf = "id;ok;error;erfuellt;maxEta;massgebend;hinweise;luecken\n";
+    EXPECT_EQ(antworten(auftrag, "av3\n60\n"),
+              kopf + ";false;\"Zeile 1: unbekanntes Feld \"\"av3\"\"\";;;;;\n");
+    EXPECT_EQ(antworten(auftrag, "av1\n" + std::string(3U << 20U, ' ') + "\n"),
+              kopf + ";false;Zeile 2: länger als 1 MiB;;;;;\n");
+}
+
 TEST(Stapel, StopsWhenNobodyReads) {
     Textstrom strom(std::string(50000, '\n'));
     int geschrieben = 0;

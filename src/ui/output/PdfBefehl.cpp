@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,10 +15,13 @@
 #include "files/Pfad.h"
 #include "files/Positionsdatei.h"
 #include "run/Positionslauf.h"
+#include "study/Lastfaelle.h"
+#include "study/Tafelblatt.h"
 #include "ui/basics/Programm.h"
 #include "ui/derivation/Rechenwegdruck.h"
 #include "ui/paper/PdfAusgabe.h"
 #include "ui/paper/Sammelpdf.h"
+#include "ui/paper/Tafelseite.h"
 
 namespace rippenscheibe {
 
@@ -27,11 +31,49 @@ const QString optionPdf = QStringLiteral("pdf");
 const QString optionForm = QStringLiteral("form");
 constexpr const char* hilfeverweis = "\nHilfe: rippenscheibe --help\n";
 
+// The options of a design table: words of the tool's `tafel`.
+struct Tafeloption {
+    const char* name;
+    const char* wert;
+    const char* erklaerung;
+    std::string Tafelwunsch::*ziel;
+};
+constexpr std::array<Tafeloption, 6> tafeloptionen{{
+    {"groesste", "FELD",
+     "Statt des Ausdrucks eine Bemessungstafel: die Größe, deren größter Wert gesucht ist.",
+     &Tafelwunsch::groesste},
+    {"zeilen", "FELD=WERTE", "Zeilen der Tafel, etwa Wandlaenge=0.625:10:0.625.", &Tafelwunsch::zeilen},
+    {"spalten", "FELD=WERTE", "Spalten der Tafel, etwa av1,av2=50:150:25.", &Tafelwunsch::spalten},
+    {"von", "WERT", "Anfang der Suche (sonst 0).", &Tafelwunsch::von},
+    {"bis", "WERT", "Ende der Suche (sonst, was der Dialog erlaubt).", &Tafelwunsch::bis},
+    {"stufe", "WERT", "Schritt der Suche (sonst 0.1).", &Tafelwunsch::stufe},
+}};
+const QString optionLastfaelle = QStringLiteral("lastfaelle");
+const QString optionRichtung = QStringLiteral("richtung");
+const QString optionMitLuecken = QStringLiteral("mit-luecken");
+const QString optionTrotzdem = QStringLiteral("trotzdem");
+
 struct Pdfauftrag {
     std::filesystem::path ziel;
     std::filesystem::path position;
     QString form;
+    std::optional<Tafelwunsch> tafel{};  // a design table in place of the report
+    Bewertungsregel regel{};             // of the table
+    std::optional<std::filesystem::path> lastfaelle{};
 };
+
+std::optional<Tafelwunsch> tafelwunsch(const QCommandLineParser& befehlszeile) {
+    Tafelwunsch wunsch;
+    bool gewuenscht = false;
+    for (const Tafeloption& option : tafeloptionen) {
+        const QString name = QString::fromLatin1(option.name);
+        if (!befehlszeile.isSet(name)) continue;
+        wunsch.*option.ziel = utf8(befehlszeile.value(name));
+        gewuenscht = true;
+    }
+    wunsch.trotzdem = befehlszeile.isSet(optionTrotzdem);
+    return gewuenscht ? std::optional(std::move(wunsch)) : std::nullopt;
+}
 
 const QStringList formen{QStringLiteral("lang"), QStringLiteral("kurz"), QStringLiteral("rechenweg")};
 
@@ -43,6 +85,7 @@ class Pdflauf {
 
     Rueckgabe laufe() {
         if (!lade()) return Rueckgabe::dateifehler;
+        if (auftrag_.tafel) return tafel();
         vorher_ = std::make_unique<Wand>(*w_);
         felder_ = grundmasse(*w_);
         const Positionslauf lauf = laufePosition(*w_, felder_);
@@ -52,6 +95,30 @@ class Pdflauf {
     }
 
   private:
+    Rueckgabe tafel() {
+        Bewertungsregel regel = auftrag_.regel;
+        if (auftrag_.lastfaelle) {
+            auto faelle = lastfaelleAusDatei(*auftrag_.lastfaelle);
+            if (const auto* fehler = std::get_if<std::string>(&faelle)) {
+                ausgaben_.meldungen(*fehler + "\n");
+                return Rueckgabe::dateifehler;
+            }
+            regel.lastfaelle = std::get<0>(std::move(faelle));
+        }
+        const auto auftrag =
+            tafelauftrag(*auftrag_.tafel, {*w_, w_->eigeneMaterialien, std::move(regel), {}, {}, {}});
+        if (const auto* fehler = std::get_if<std::string>(&auftrag)) {
+            ausgaben_.meldungen(*fehler + hilfeverweis);
+            return Rueckgabe::aufruf;
+        }
+        const auto& gelesen = std::get<Tafelauftrag>(auftrag);
+        const Tafelblatt blatt = tafelblatt(gelesen, bemessungstafel(gelesen, {.faeden = kernzahl()}));
+        zuweisen(*w_, grundmasse(*w_));
+        const auto fehler = schreibeDauerhaft(auftrag_.ziel, tafelPdf(blatt, *w_).toStdString());
+        if (fehler) scheitere(*fehler);
+        return fehler ? Rueckgabe::dateifehler : Rueckgabe::erfuellt;
+    }
+
     bool lade() {
         // The table of the window, delivered rows included; a command leaves no file behind but the PDF.
         auto materialien = ladeEigeneMaterialien(ordner_);
@@ -172,6 +239,21 @@ void beschreibeAufruf(QCommandLineParser& befehlszeile) {
     befehlszeile.addOption({optionForm,
                             QStringLiteral("Form des PDF: lang, kurz oder rechenweg (sonst lang)."),
                             formen.join(QLatin1Char('|')), QStringLiteral("lang")});
+    for (const Tafeloption& option : tafeloptionen)
+        befehlszeile.addOption({QString::fromLatin1(option.name), QString::fromUtf8(option.erklaerung),
+                                QString::fromLatin1(option.wert)});
+    befehlszeile.addOption(
+        {optionLastfaelle,
+         QStringLiteral("Tafel: Tabelle der Lastfälle (CSV); bestehen heißt, alle bestehen."),
+         QStringLiteral("DATEI")});
+    befehlszeile.addOption({optionRichtung,
+                            QStringLiteral("Tafel: beide Vorzeichen von Fvk oder nur das eingegebene."),
+                            QStringLiteral("beide|plus"), QStringLiteral("beide")});
+    befehlszeile.addOption(
+        {optionMitLuecken,
+         QStringLiteral("Tafel: auch Wände, bei denen etwas Gefordertes nicht nachgewiesen ist.")});
+    befehlszeile.addOption(
+        {optionTrotzdem, QStringLiteral("Tafel: auch Lasten, die bei diesem Lastfall nicht wirken.")});
     befehlszeile.addPositionalArgument(QStringLiteral("DATEI"),
                                        QStringLiteral("Positionsdatei (*.rsw), mit --pdf auch ein Ordner"),
                                        QStringLiteral("[DATEI]"));
@@ -219,8 +301,16 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
         return falscherAufruf(QStringLiteral("Nach --pdf fehlt der Name der Datei."));
     if (befehlszeile.positionalArguments().size() != 1)
         return falscherAufruf(QStringLiteral("Es wird genau eine Positionsdatei oder ein Ordner erwartet."));
-    const Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
-                             pfad(befehlszeile.positionalArguments().constFirst()), form};
+    const QString richtung = befehlszeile.value(optionRichtung);
+    if (richtung != QStringLiteral("beide") && richtung != QStringLiteral("plus"))
+        return falscherAufruf(
+            QStringLiteral("--richtung: \"%1\" geht nicht, möglich: beide|plus").arg(richtung));
+    Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
+                       pfad(befehlszeile.positionalArguments().constFirst()), form,
+                       tafelwunsch(befehlszeile)};
+    auftrag.regel.beideRichtungen = richtung == QStringLiteral("beide");
+    auftrag.regel.mitLuecken = befehlszeile.isSet(optionMitLuecken);
+    if (befehlszeile.isSet(optionLastfaelle)) auftrag.lastfaelle = pfad(befehlszeile.value(optionLastfaelle));
     if (sindDieselbeDatei(auftrag.ziel, auftrag.position))
         return falscherAufruf(QStringLiteral("--pdf: \"%1\" ist die Positionsdatei selbst.")
                                   .arg(befehlszeile.value(optionPdf)));

@@ -14,7 +14,8 @@ namespace rippenscheibe {
 
 // `rippenscheibe --pdf AUS.pdf [--form lang|kurz] DATEI`: the printed report of a position as a PDF,
 // without a window and without a display. A folder in its place: all its positions, each from a fresh run,
-// with running page numbers; the exit code is that of the worst.
+// with running page numbers; the exit code is that of the worst. With `--groesste FELD --zeilen FELD=WERTE
+// --spalten FELD=WERTE` it is the page of a design table, with the words of the tool's `tafel`.
 
 // Where the texts for the user go, UTF-8.
 struct Pdfausgaben {

@@ -237,6 +237,22 @@ TEST_F(Pdfausgabe, OnePdfHoldsThePagesOfAllPositions) {
     EXPECT_TRUE(sammelpdf(auftrag, {.halt = halt.get_token()}).bytes.isEmpty());
 }
 
+TEST_F(Pdfausgabe, TheCommandWritesADesignTableOnOnePage) {
+    const QStringList aufruf{QStringLiteral("--pdf"),
+                             datei("tafel.pdf"),
+                             QString::fromStdString(beispiel("zuganker").string()),
+                             QStringLiteral("--groesste=Fvk"),
+                             QStringLiteral("--zeilen=Wandlaenge=2.5:5:0.625"),
+                             QStringLiteral("--bis=30"),
+                             QStringLiteral("--stufe=1")};
+    EXPECT_EQ(befehl(aufruf), Rueckgabe::aufruf);
+    EXPECT_TRUE(gesagt.starts_with("Es fehlt --spalten.")) << gesagt;
+    EXPECT_EQ(befehl(aufruf + QStringList{QStringLiteral("--spalten=av1=50:150:25")}), Rueckgabe::erfuellt)
+        << gesagt;
+    const QByteArray bytes = QByteArray::fromStdString(liesDatei(datei("tafel.pdf").toStdString()).bytes);
+    EXPECT_EQ(seiten(bytes), 1);
+}
+
 TEST_F(Pdfausgabe, TheCommandTakesTheMaterialsTheWindowTakesAndWritesNone) {
     const auto tabelle = programm.datei(materialdatei);
     EXPECT_EQ(befehl({QStringLiteral("--pdf"), datei("aus.pdf"),
