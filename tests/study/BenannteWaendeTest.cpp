@@ -104,10 +104,9 @@ TEST(BenannteWaende, TheSecondRunMayBeTheWorse) {
     w.NachweisVerankerung = true;
     w.Lastfall = 3;
     w.VertikallastVerteilung = 2;
-    w.gk = 5;
-    w.qk = 8;
-    w.Fvk = 8;
-    w.Ankertyp = 2;
+    w.gk = 1;
+    w.Fvk = 4;
+    w.Ankertyp = 6;
     const auto eta = [&](int laeufe) { return *urteil(frischerLauf(w, {}, laeufe).wand).maxEta; };
     EXPECT_LT(eta(1), eta(2));
     EXPECT_EQ(Pruefstand(w, {}).bewerte().maxEta, eta(2));
