@@ -1,3 +1,4 @@
+#include "files/Textvorlagen.h"
 #include "support/Gerechnet.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/main/Form1_Hauptfenster.h"
@@ -55,6 +56,10 @@ class Fremdtext : public Gerechnet {
         programm.projekte.eintraege = {{markup, markup}};
         programm.einstellungen.Kopfzeile1 = programm.einstellungen.StandardPfad = markup;
         programm.Positionspfad = programm.Dateiname = markup;
+        for (const std::string_view vorlagen : {vorlagenVorbemerkungen, vorlagenZusatzbemerkungen})
+            EXPECT_FALSE(schreibeTextvorlagen(programm.datei(vorlagen),
+                                              {speicherbar({.name = markup, .text = markup})}));
+        programm.varianten = {{QString::fromUtf8(markup), programm.eingabestand()}};
         programm.zuweisen();
     }
 };
@@ -64,16 +69,12 @@ TEST_F(Fremdtext, NoWindowTakesATextFromAFileForMarkup) {
     Form1 hauptfenster(programm, meldungen);
     hauptfenster.show();
     int stellen = klareStellen(hauptfenster);
-    for (int art = 0; art <= static_cast<int>(Fensterart::ueber); ++art) {
-        SCOPED_TRACE(art);
-        EXPECT_TRUE(
-            mitFenster([&] { oeffne(static_cast<Fensterart>(art), programm, meldungen, &hauptfenster); },
-                       [&](QWidget& fenster) {
-                           tippeUeberall(fenster);
-                           QCoreApplication::processEvents();
-                           stellen += klareStellen(fenster);
-                       }));
-    }
+    jedesNebenfenster(hauptfenster, Fensterart::ueber, [&](QWidget& fenster) {
+        SCOPED_TRACE(utf8(fenster.objectName()));
+        tippeUeberall(fenster);
+        QCoreApplication::processEvents();
+        stellen += klareStellen(fenster);
+    });
     EXPECT_GT(stellen, 0);
     // A label that is told nothing of its format.
     QLabel schild(QString::fromUtf8(markup));

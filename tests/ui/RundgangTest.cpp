@@ -180,20 +180,7 @@ class Rundgang : public Programmprobe {
     void jedesFenster(const std::function<void(QWidget&)>& pruefung) {
         Form1 hauptfenster(programm, meldungen);
         hauptfenster.show();
-        const std::pair<Fensterart, const char*> weitere[] = {{Fensterart::verbindungsmittel, "ComInfo2"},
-                                                              {Fensterart::belastung, "Command2"},
-                                                              {Fensterart::projektdaten, "Command1"},
-                                                              {Fensterart::bemerkungen, "Command3"},
-                                                              {Fensterart::bemerkungen, "Command4"}};
-        for (const auto& [art, knopf] : weitere)
-            mitFenster([&, art = art] { oeffne(art, programm, meldungen, &hauptfenster); },
-                       [&, knopf = knopf](QWidget& fenster) {
-                           EXPECT_TRUE(mitFenster([&] { klicke(fenster, knopf); }, pruefung)) << knopf;
-                       });
-        for (int art = 0; art <= static_cast<int>(Fensterart::ergebnisse); ++art)
-            EXPECT_TRUE(mitFenster(
-                [&] { oeffne(static_cast<Fensterart>(art), programm, meldungen, &hauptfenster); }, pruefung))
-                << art;
+        jedesNebenfenster(hauptfenster, Fensterart::ergebnisse, pruefung);
         pruefung(hauptfenster);
     }
 };

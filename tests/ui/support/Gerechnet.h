@@ -27,6 +27,25 @@ class Programmprobe : public testing::Test {
         programm.zuweisen();
     }
 
+    // Every window up to `letztes` once, and those that only others open.
+    void jedesNebenfenster(QWidget& hauptfenster, Fensterart letztes,
+                           const std::function<void(QWidget&)>& pruefung) {
+        const auto zeige = [&](Fensterart art, const std::function<void(QWidget&)>& bedienen) {
+            return mitFenster([&] { oeffne(art, programm, meldungen, &hauptfenster); }, bedienen);
+        };
+        const std::pair<Fensterart, const char*> weitere[] = {{Fensterart::verbindungsmittel, "ComInfo2"},
+                                                              {Fensterart::belastung, "Command2"},
+                                                              {Fensterart::projektdaten, "Command1"},
+                                                              {Fensterart::bemerkungen, "Command3"},
+                                                              {Fensterart::bemerkungen, "Command4"}};
+        for (const auto& [art, knopf] : weitere)
+            zeige(art, [&, knopf = knopf](QWidget& fenster) {
+                EXPECT_TRUE(mitFenster([&] { klicke(fenster, knopf); }, pruefung)) << knopf;
+            });
+        for (int art = 0; art <= static_cast<int>(letztes); ++art)
+            EXPECT_TRUE(zeige(static_cast<Fensterart>(art), pruefung)) << art;
+    }
+
     QString datei(const char* name) const { return ordner.filePath(QLatin1String(name)); }
     QByteArray inhalt(const QString& name) const {
         return QByteArray::fromStdString(liesDatei(pfad(name)).bytes);
