@@ -24,7 +24,7 @@ constexpr std::array<Tragfaehigkeitsklasse, 9> klassen{{
     {50, 80, 100},  // 3C
 }};
 // clang-format on
-const Tabellenangabe tabelle(klassen, "Tragfähigkeitsklassen nach DIN 1052 (2008), Tabellen 14 und 15");
+const Tabellenangabe tabelle(klassen, "Tragfähigkeitsklassen");
 
 }  // namespace
 

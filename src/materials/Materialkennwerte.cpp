@@ -45,8 +45,7 @@ constexpr std::array<Holzklasse, 13> holzklassen{{
     {  430,  36,   29,   22.5, 3.3,   14700,   850,   460},
 }};
 // clang-format on
-const Tabellenangabe tabelleHolz(holzklassen,
-                                 "Festigkeitsklassen nach DIN 1052 (2008), Tabellen F.5 und F.9");
+const Tabellenangabe tabelleHolz(holzklassen, "Festigkeitsklassen");
 
 // Thickness bands reach from over `ueber` up to and including `bis`, mm; gypsum boards are listed by
 // exact thickness.
@@ -140,18 +139,18 @@ constexpr std::array<Spanplattenband, 6> P7{{
 }};
 // clang-format on
 
-constexpr std::string_view quelleOsb = "OSB-Platten nach DIN 1052 (2008), Anhang F";
-constexpr std::string_view quelleGips = "Gipsplatten nach DIN 1052 (2008), Anhang F";
-constexpr std::string_view quelleSpan = "Spanplatten nach DIN 1052 (2008), Tabelle F.14 und folgende";
-const std::array<Tabellenangabe, 9> tabellen{{{OSB3, quelleOsb},
-                                              {OSB4, quelleOsb},
-                                              {GKB, quelleGips},
-                                              {GKF, quelleGips},
-                                              {gipsfaser, "Gipsfaserplatten nach Zulassung"},
-                                              {P4, quelleSpan},
-                                              {P5, quelleSpan},
-                                              {P6, quelleSpan},
-                                              {P7, quelleSpan}}};
+constexpr std::string_view tabelleOsb = "Kennwerte der OSB-Platten";
+constexpr std::string_view tabelleGips = "Kennwerte der Gipsplatten";
+constexpr std::string_view tabelleSpan = "Kennwerte der Spanplatten";
+const std::array<Tabellenangabe, 9> tabellen{{{OSB3, tabelleOsb},
+                                              {OSB4, tabelleOsb},
+                                              {GKB, tabelleGips},
+                                              {GKF, tabelleGips},
+                                              {gipsfaser, "Kennwerte der Gipsfaserplatten"},
+                                              {P4, tabelleSpan},
+                                              {P5, tabelleSpan},
+                                              {P6, tabelleSpan},
+                                              {P7, tabelleSpan}}};
 
 template <class Band>
 const Band* bandZu(std::span<const Band> baender, Zahl t) {

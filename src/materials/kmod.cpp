@@ -37,8 +37,8 @@ constexpr std::array<KmodZeile, 10> kmodTabelle{{
 // Solid and glued laminated timber, the same in both classes.
 constexpr std::array<Tabellenwert, 5> kmodVollholz{0.6, 0.7, 0.8, 0.9, 1.1};
 
-constexpr std::string_view quelle = "DIN 1052 (2008), Tabelle F.1";
-const std::array<Tabellenangabe, 2> tabellen{{{kmodTabelle, quelle}, {kmodVollholz, quelle}}};
+constexpr std::string_view name = "kmod";
+const std::array<Tabellenangabe, 2> tabellen{{{kmodTabelle, name}, {kmodVollholz, name}}};
 
 }  // namespace
 

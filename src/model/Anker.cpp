@@ -32,8 +32,7 @@ constexpr std::array<Kammnagel, 4> kammnaegel{{
 }};
 // clang-format on
 
-const std::array<Tabellenangabe, 2> tabellen{
-    {{ankertabelle, "Zuganker nach Herstellerangabe"}, {kammnaegel, "CNA-Kammnägel nach Herstellerangabe"}}};
+const std::array<Tabellenangabe, 2> tabellen{{{ankertabelle, "Zuganker"}, {kammnaegel, "CNA-Kammnägel"}}};
 
 constexpr auto ankernamen = [] {
     std::array<std::string_view, ankertabelle.size()> namen{};

@@ -10,17 +10,9 @@ namespace rippenscheibe {
 
 // The clauses that give the formulas.
 namespace norm {
-inline constexpr std::string_view kmod = "DIN 1052 (2008), Tabelle F.1";
-inline constexpr std::string_view scheibe = "DIN 1052 (2008), 8.7.5";
 inline constexpr std::string_view kombination = "DIN 1052 (2008), 8.7.7";
-inline constexpr std::string_view zug = "DIN 1052 (2008), 10.2.1";
-inline constexpr std::string_view querdruck = "DIN 1052 (2008), 10.2.4";
-inline constexpr std::string_view knicken = "DIN 1052 (2008), 10.3";
-inline constexpr std::string_view tafel = "DIN 1052 (2008), 10.6";
 inline constexpr std::string_view vereinfacht = "DIN 1052 (2008), 12.2 bis 12.8";
-inline constexpr std::string_view ausziehen = "DIN 1052 (2008), 12.8";
 inline constexpr std::string_view genau = "DIN 1052 (2008), Anhang G.2.2";
-inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
 }  // namespace norm
 
 // clang-format off
@@ -38,10 +30,10 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
 #define RS_QUERSCHNITTSWERTE(FELD, PAAR) \
     FELD(Feld, ARandrippe,          0.0, "cm²", "Fläche der Randrippe", .symbol = "A_{Rand}") \
     FELD(Feld, AInnenrippe,         0.0, "cm²", "Fläche der Innenrippe", .symbol = "A_{Innen}") \
-    FELD(Feld, AefLinks,            0.0, "cm²", "wirksame Querdruckfläche unter der linken Randrippe", .symbol = "A_{ef,links}", .quelle = norm::querdruck) \
-    FELD(Feld, AefRechts,           0.0, "cm²", "wirksame Querdruckfläche unter der rechten Randrippe", .symbol = "A_{ef,rechts}", .quelle = norm::querdruck) \
+    FELD(Feld, AefLinks,            0.0, "cm²", "wirksame Querdruckfläche unter der linken Randrippe", .symbol = "A_{ef,links}") \
+    FELD(Feld, AefRechts,           0.0, "cm²", "wirksame Querdruckfläche unter der rechten Randrippe", .symbol = "A_{ef,rechts}") \
     FELD(Feld, AefRandrippe,        0.0, "cm²", "größere der beiden Querdruckflächen", .symbol = "A_{ef,Rand}") /* JSON only */ \
-    FELD(Feld, AefInnenrippe,       0.0, "cm²", "wirksame Querdruckfläche unter einer Innenrippe", .symbol = "A_{ef,Innen}", .quelle = norm::querdruck) \
+    FELD(Feld, AefInnenrippe,       0.0, "cm²", "wirksame Querdruckfläche unter einer Innenrippe", .symbol = "A_{ef,Innen}") \
     FELD(Feld, WzRandrippe,         0.0, "cm³", "Widerstandsmoment der Randrippe, schwache Achse", .symbol = "W_{z,Rand}") \
     FELD(Feld, WzInnenrippe,        0.0, "cm³", "Widerstandsmoment der Innenrippe, schwache Achse", .symbol = "W_{z,Innen}") \
     FELD(Feld, WyRandrippe,         0.0, "cm³", "Widerstandsmoment der Randrippe, starke Achse", .symbol = "W_{y,Rand}") \
@@ -62,12 +54,12 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
     FELD(Feld, DickeDaemmung,       0.0, "cm", "Dicke der Dämmung", .symbol = "t_{Dämmung}")
 
 #define RS_MODIFIKATIONSBEIWERTE(FELD, PAAR) \
-    FELD(Feld32, kmodRippen, 0.0F, "-", "kmod der Rippen", .symbol = "k_{mod,Rippen}", .quelle = norm::kmod) \
+    FELD(Feld32, kmodRippen, 0.0F, "-", "kmod der Rippen", .symbol = "k_{mod,Rippen}") \
     PAAR(Feld32, kmod,     "kmod1",     "kmod2",     0.0F, "-", "kmod der Beplankung", .symbol = "k_{mod}") \
     PAAR(Feld32, kmodVM,   "kmodVM1",   "kmodVM2",   0.0F, "-", "kmod der Verbindungsmittel", .symbol = "k_{mod,VM}") \
-    PAAR(Feld32, kmodOSB,  "kmodOSB1",  "kmodOSB2",  0.0F, "-", "kmod für OSB", .symbol = "k_{mod,OSB}", .quelle = norm::kmod) \
-    PAAR(Feld32, kmodGips, "kmodGips1", "kmodGips2", 0.0F, "-", "kmod für Gipsplatten", .symbol = "k_{mod,Gips}", .quelle = norm::kmod) \
-    PAAR(Feld32, kmodSpan, "kmodSpan1", "kmodSpan2", 0.0F, "-", "kmod für Spanplatten", .symbol = "k_{mod,Span}", .quelle = norm::kmod) \
+    PAAR(Feld32, kmodOSB,  "kmodOSB1",  "kmodOSB2",  0.0F, "-", "kmod für OSB", .symbol = "k_{mod,OSB}") \
+    PAAR(Feld32, kmodGips, "kmodGips1", "kmodGips2", 0.0F, "-", "kmod für Gipsplatten", .symbol = "k_{mod,Gips}") \
+    PAAR(Feld32, kmodSpan, "kmodSpan1", "kmodSpan2", 0.0F, "-", "kmod für Spanplatten", .symbol = "k_{mod,Span}") \
     PAAR(Feld32, kmodEigen, "kmodEigen1", "kmodEigen2", 0.0F, "-", "kmod des eigenen Materials", .symbol = "k_{mod,eigen}")
 
 #define RS_HOLZWERTE(FELD, PAAR) \
@@ -136,33 +128,33 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
     PAAR(Feld, deltaRd, "deltaRd1", "deltaRd2", 0.0, "N", "Zuwachs aus dem Einhängeeffekt, genau", .symbol = "ΔR_{d}")
 
 #define RS_AUSZIEHWERTE(FELD, PAAR) \
-    PAAR(Feld, lef, "lef1", "lef2", 0.0, "mm",    "wirksame Gewinde- oder Schaftlänge in der Rippe", .symbol = "l_{ef}", .quelle = norm::ausziehen) \
-    PAAR(Feld, f1k, "f1k1", "f1k2", 0.0, "N/mm²", "Ausziehparameter", .symbol = "f_{1,k}", .quelle = norm::ausziehen) \
-    PAAR(Feld, f2k, "f2k1", "f2k2", 0.0, "N/mm²", "Kopfdurchziehparameter", .symbol = "f_{2,k}", .quelle = norm::ausziehen) \
-    PAAR(Feld, Rxk, "Rxk1", "Rxk2", 0.0, "N",     "charakteristischer Ausziehwiderstand", .symbol = "R_{x,k}", .quelle = norm::ausziehen) \
-    PAAR(Feld, Rxd, "Rxd",  "Rxd2", 0.0, "N",     "Ausziehwiderstand, Bemessungswert", .symbol = "R_{x,d}", .quelle = norm::ausziehen)
+    PAAR(Feld, lef, "lef1", "lef2", 0.0, "mm",    "wirksame Gewinde- oder Schaftlänge in der Rippe", .symbol = "l_{ef}") \
+    PAAR(Feld, f1k, "f1k1", "f1k2", 0.0, "N/mm²", "Ausziehparameter", .symbol = "f_{1,k}") \
+    PAAR(Feld, f2k, "f2k1", "f2k2", 0.0, "N/mm²", "Kopfdurchziehparameter", .symbol = "f_{2,k}") \
+    PAAR(Feld, Rxk, "Rxk1", "Rxk2", 0.0, "N",     "charakteristischer Ausziehwiderstand", .symbol = "R_{x,k}") \
+    PAAR(Feld, Rxd, "Rxd",  "Rxd2", 0.0, "N",     "Ausziehwiderstand, Bemessungswert", .symbol = "R_{x,d}")
 
 #define RS_GIPSFASERBEIWERTE(FELD, PAAR) \
     PAAR(Feld, kFaser, "kFaser1", "kFaser2", 0.0, "-", "Abminderung für Gipsfaserplatten", .symbol = "k_{Faser}")
 
 #define RS_BEANSPRUCHBARKEITEN(FELD, PAAR) \
-    FELD(Feld, kv1, 0.0, "-", "Beiwert kv1, Verbund zwischen Beplankung und Rippen", .symbol = "k_{v1}", .quelle = norm::tafel) \
-    FELD(Feld, kv2, 0.0, "-", "Beiwert kv2, Zusatzbeanspruchung der Beplankung", .symbol = "k_{v2}", .quelle = norm::tafel) \
-    PAAR(Feld, fv0dn,  "fv0d1",  "fv0d2",  0.0, "N/mm", "Schubfestigkeit parallel zum Plattenrand, je Seite", .symbol = "f_{v,0,d}", .quelle = norm::tafel) \
-    FELD(Feld, fv0d,                       0.0, "N/mm", "Schubfestigkeit parallel zum Plattenrand, gesamt", .symbol = "f_{v,0,d}", .quelle = norm::tafel) \
-    PAAR(Feld, fv90dn, "fv90d1", "fv90d2", 0.0, "N/mm", "Festigkeit senkrecht zum Plattenrand, je Seite", .symbol = "f_{v,90,d}", .quelle = norm::tafel) \
-    FELD(Feld, fv90d,                      0.0, "N/mm", "Festigkeit senkrecht zum Plattenrand, gesamt", .symbol = "f_{v,90,d}", .quelle = norm::tafel) \
-    PAAR(Feld, fv0dTerm1,  "fv0d1Term1",  "fv0d2Term1",  0.0, "N/mm", "parallel: Verbindungsmittel", .symbol = "f_{v,0,d,VM}", .quelle = norm::tafel) \
-    PAAR(Feld, fv0dTerm2,  "fv0d1Term2",  "fv0d2Term2",  0.0, "N/mm", "parallel: Schub der Beplankung", .symbol = "f_{v,0,d,Platte}", .quelle = norm::tafel) \
-    PAAR(Feld, fv0dTerm3,  "fv0d1Term3",  "fv0d2Term3",  0.0, "N/mm", "parallel: Beulen der Beplankung", .symbol = "f_{v,0,d,Beulen}", .quelle = norm::tafel) \
-    PAAR(Feld, fv90dTerm1, "fv90d1Term1", "fv90d2Term1", 0.0, "N/mm", "senkrecht: Verbindungsmittel", .symbol = "f_{v,90,d,VM}", .quelle = norm::tafel) \
-    PAAR(Feld, fv90dTerm2, "fv90d1Term2", "fv90d2Term2", 0.0, "N/mm", "senkrecht: Druck der Beplankung", .symbol = "f_{v,90,d,Platte}", .quelle = norm::tafel) \
-    PAAR(Feld, fv90dTerm3, "fv90d1Term3", "fv90d2Term3", 0.0, "N/mm", "senkrecht: Beulen der Beplankung", .symbol = "f_{v,90,d,Beulen}", .quelle = norm::tafel)
+    FELD(Feld, kv1, 0.0, "-", "Beiwert kv1, Verbund zwischen Beplankung und Rippen", .symbol = "k_{v1}") \
+    FELD(Feld, kv2, 0.0, "-", "Beiwert kv2, Zusatzbeanspruchung der Beplankung", .symbol = "k_{v2}") \
+    PAAR(Feld, fv0dn,  "fv0d1",  "fv0d2",  0.0, "N/mm", "Schubfestigkeit parallel zum Plattenrand, je Seite", .symbol = "f_{v,0,d}") \
+    FELD(Feld, fv0d,                       0.0, "N/mm", "Schubfestigkeit parallel zum Plattenrand, gesamt", .symbol = "f_{v,0,d}") \
+    PAAR(Feld, fv90dn, "fv90d1", "fv90d2", 0.0, "N/mm", "Festigkeit senkrecht zum Plattenrand, je Seite", .symbol = "f_{v,90,d}") \
+    FELD(Feld, fv90d,                      0.0, "N/mm", "Festigkeit senkrecht zum Plattenrand, gesamt", .symbol = "f_{v,90,d}") \
+    PAAR(Feld, fv0dTerm1,  "fv0d1Term1",  "fv0d2Term1",  0.0, "N/mm", "parallel: Verbindungsmittel", .symbol = "f_{v,0,d,VM}") \
+    PAAR(Feld, fv0dTerm2,  "fv0d1Term2",  "fv0d2Term2",  0.0, "N/mm", "parallel: Schub der Beplankung", .symbol = "f_{v,0,d,Platte}") \
+    PAAR(Feld, fv0dTerm3,  "fv0d1Term3",  "fv0d2Term3",  0.0, "N/mm", "parallel: Beulen der Beplankung", .symbol = "f_{v,0,d,Beulen}") \
+    PAAR(Feld, fv90dTerm1, "fv90d1Term1", "fv90d2Term1", 0.0, "N/mm", "senkrecht: Verbindungsmittel", .symbol = "f_{v,90,d,VM}") \
+    PAAR(Feld, fv90dTerm2, "fv90d1Term2", "fv90d2Term2", 0.0, "N/mm", "senkrecht: Druck der Beplankung", .symbol = "f_{v,90,d,Platte}") \
+    PAAR(Feld, fv90dTerm3, "fv90d1Term3", "fv90d2Term3", 0.0, "N/mm", "senkrecht: Beulen der Beplankung", .symbol = "f_{v,90,d,Beulen}")
 
 #define RS_BEANSPRUCHUNGEN(FELD, PAAR) \
-    FELD(Feld, sv0d,  0.0, "N/mm", "Schubfluss parallel zum Plattenrand", .symbol = "s_{v,0,d}", .quelle = norm::scheibe) \
+    FELD(Feld, sv0d,  0.0, "N/mm", "Schubfluss parallel zum Plattenrand", .symbol = "s_{v,0,d}") \
     FELD(Feld, sv90d, 0.0, "N/mm", "Druckbeanspruchung senkrecht zum Plattenrand", .symbol = "s_{v,90,d}") \
-    FELD(Feld, FEdge, 0.0, "kN",   "Kraft in der Randrippe aus dem Moment der Horizontallast", .symbol = "F_{Rand}", .quelle = norm::scheibe) \
+    FELD(Feld, FEdge, 0.0, "kN",   "Kraft in der Randrippe aus dem Moment der Horizontallast", .symbol = "F_{Rand}") \
     FELD(Feld, AnteilRippen,     0.0, "-", "Anteil der Rippen an der Vertikallast", .symbol = "α_{Rippen}") \
     FELD(Feld, AnteilBeplankung, 0.0, "-", "Anteil der Beplankung an der Vertikallast", .symbol = "α_{Platte}") \
     FELD(Feld, RdRippenGesamt,   0.0, "N", "Tragfähigkeit aller Rippen", .symbol = "R_{d,Rippen}") \
@@ -172,7 +164,7 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
     FELD(Feld, SigmaBiegung, 0.0, "N/mm²", "Biegespannung in der Beplankung 1", .symbol = "σ_{m,d,Platte}") \
     FELD(Rippenfeld, FcdStabilitaet,   , "kN",   "Druckkraft für den Stabilitätsnachweis, ständiger Anteil", .symbol = "F_{c,d,g}") \
     FELD(Rippenfeld, FcdVeraenderlich, , "kN",   "Druckkraft für den Stabilitätsnachweis, veränderlich und horizontal", .symbol = "F_{c,d,q}") \
-    FELD(Rippenfeld, FcdSchwelle,      , "kN",   "Druckkraft für die Schwellenpressung", .symbol = "F_{c,d,Schwelle}", .quelle = norm::scheibe) \
+    FELD(Rippenfeld, FcdSchwelle,      , "kN",   "Druckkraft für die Schwellenpressung", .symbol = "F_{c,d,Schwelle}") \
     FELD(Rippenfeld, Ftd,              , "kN",   "Zugkraft in der Rippe", .symbol = "F_{t,d}") \
     FELD(Rippenfeld, wdRippe,          , "kN/m", "Windlast auf die Rippe", .symbol = "w_{d,Rippe}") \
     FELD(Rippenfeld, Myd,              , "kNm",  "Moment in der Rippe aus Wind", .symbol = "M_{y,d}") \
@@ -181,29 +173,29 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
     FELD(Rippenfeld, RdRippenSumme,    , "N",    "laufende Summe von RdRippe", .symbol = "ΣR_{d,Rippe}")
 
 #define RS_QUERDRUCKBEIWERT(FELD, PAAR) \
-    FELD(Feld, kc90,              0.0, "-", "Querdruckbeiwert", .symbol = "k_{c,90}", .quelle = norm::querdruck)
+    FELD(Feld, kc90,              0.0, "-", "Querdruckbeiwert", .symbol = "k_{c,90}")
 
 #define RS_KNICKEN_UND_KIPPEN(FELD, PAAR) \
-    FELD(Feld, iRandrippe,        0.0, "m", "Trägheitsradius der Randrippe", .symbol = "i", .quelle = norm::knicken) \
-    FELD(Feld, lambda,            0.0, "-", "Schlankheit", .symbol = "λ", .quelle = norm::knicken) \
-    FELD(Feld, lambdaRel,         0.0, "-", "bezogene Schlankheit", .symbol = "λ_{rel}", .quelle = norm::knicken) \
-    FELD(Feld, kKnick,            0.0, "-", "Hilfswert k des Knickbeiwerts", .symbol = "k", .quelle = norm::knicken) \
-    FELD(Feld, kc,                0.0, "-", "Knickbeiwert", .symbol = "k_{c}", .quelle = norm::knicken) \
-    FELD(Feld, lambdaMRandrippe,  0.0, "-", "bezogene Kippschlankheit der Randrippe", .symbol = "λ_{rel,m,Rand}", .quelle = norm::knicken) \
-    FELD(Feld, lambdaMInnenrippe, 0.0, "-", "bezogene Kippschlankheit der Innenrippe", .symbol = "λ_{rel,m,Innen}", .quelle = norm::knicken) \
-    FELD(Feld, kmRandrippe,       0.0, "-", "Kippbeiwert der Randrippe", .symbol = "k_{m,Rand}", .quelle = norm::knicken) \
-    FELD(Feld, kmInnenrippe,      0.0, "-", "Kippbeiwert der Innenrippe", .symbol = "k_{m,Innen}", .quelle = norm::knicken)
+    FELD(Feld, iRandrippe,        0.0, "m", "Trägheitsradius der Randrippe", .symbol = "i") \
+    FELD(Feld, lambda,            0.0, "-", "Schlankheit", .symbol = "λ") \
+    FELD(Feld, lambdaRel,         0.0, "-", "bezogene Schlankheit", .symbol = "λ_{rel}") \
+    FELD(Feld, kKnick,            0.0, "-", "Hilfswert k des Knickbeiwerts", .symbol = "k") \
+    FELD(Feld, kc,                0.0, "-", "Knickbeiwert", .symbol = "k_{c}") \
+    FELD(Feld, lambdaMRandrippe,  0.0, "-", "bezogene Kippschlankheit der Randrippe", .symbol = "λ_{rel,m,Rand}") \
+    FELD(Feld, lambdaMInnenrippe, 0.0, "-", "bezogene Kippschlankheit der Innenrippe", .symbol = "λ_{rel,m,Innen}") \
+    FELD(Feld, kmRandrippe,       0.0, "-", "Kippbeiwert der Randrippe", .symbol = "k_{m,Rand}") \
+    FELD(Feld, kmInnenrippe,      0.0, "-", "Kippbeiwert der Innenrippe", .symbol = "k_{m,Innen}")
 
 #define RS_SCHWELLENPRESSUNG(FELD, PAAR) \
-    FELD(Rippenfeld, SigmaC90d,             , "N/mm²", "Schwellenpressung", .symbol = "σ_{c,90,d}", .quelle = norm::querdruck) \
-    FELD(Rippenfeld, etaC90,                , "-",     "Ausnutzung der Schwellenpressung", .symbol = "η_{c,90}", .quelle = norm::querdruck)
+    FELD(Rippenfeld, SigmaC90d,             , "N/mm²", "Schwellenpressung", .symbol = "σ_{c,90,d}") \
+    FELD(Rippenfeld, etaC90,                , "-",     "Ausnutzung der Schwellenpressung", .symbol = "η_{c,90}")
 
 #define RS_STABILITAET(FELD, PAAR) \
     FELD(Rippenfeld, SigmaC0d,              , "N/mm²", "Druckspannung in der Rippe", .symbol = "σ_{c,0,d}") \
     FELD(Rippenfeld, SigmaMd,               , "N/mm²", "Biegespannung in der Rippe", .symbol = "σ_{m,d}") \
-    FELD(Rippenfeld, etaStabilitaetDruck,   , "-",     "Ausnutzung der Stabilität, Anteil Druck", .symbol = "η_{Druck}", .quelle = norm::knicken) \
-    FELD(Rippenfeld, etaStabilitaetBiegung, , "-",     "Ausnutzung der Stabilität, Anteil Biegung", .symbol = "η_{Biegung}", .quelle = norm::knicken) \
-    FELD(Rippenfeld, etaStabilitaet,        , "-",     "Ausnutzung der Stabilität", .symbol = "η_{Stabilität}", .quelle = norm::knicken)
+    FELD(Rippenfeld, etaStabilitaetDruck,   , "-",     "Ausnutzung der Stabilität, Anteil Druck", .symbol = "η_{Druck}") \
+    FELD(Rippenfeld, etaStabilitaetBiegung, , "-",     "Ausnutzung der Stabilität, Anteil Biegung", .symbol = "η_{Biegung}") \
+    FELD(Rippenfeld, etaStabilitaet,        , "-",     "Ausnutzung der Stabilität", .symbol = "η_{Stabilität}")
 
 #define RS_SCHUBNACHWEIS(FELD, PAAR) \
     FELD(Feld, etaSv0,      0.0, "-",    "Ausnutzung Scheibenschub parallel", .symbol = "η_{v,0}") \
@@ -215,8 +207,8 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
     FELD(Feld, fv90dKombi,  0.0, "N/mm", "0,7-fache Festigkeit senkrecht", .symbol = "f_{v,90,d,Kombi}", .quelle = norm::kombination) /* JSON only */
 
 #define RS_ZUGNACHWEIS(FELD, PAAR) \
-    FELD(Rippenfeld, SigmaT0d, , "N/mm²", "Zugspannung in der Rippe", .symbol = "σ_{t,0,d}", .quelle = norm::zug) \
-    FELD(Rippenfeld, etaT0,    , "-",     "Ausnutzung der Rippe auf Zug", .symbol = "η_{t,0}", .quelle = norm::zug)
+    FELD(Rippenfeld, SigmaT0d, , "N/mm²", "Zugspannung in der Rippe", .symbol = "σ_{t,0,d}") \
+    FELD(Rippenfeld, etaT0,    , "-",     "Ausnutzung der Rippe auf Zug", .symbol = "η_{t,0}")
 
 #define RS_BIEGENACHWEIS(FELD, PAAR) \
     FELD(Feld, etaBiegung,  0.0, "-",    "Ausnutzung der Beplankung 1 auf Biegung", .symbol = "η_{m,Platte}")
@@ -241,8 +233,8 @@ inline constexpr std::string_view verschiebung = "DIN 1052 (2008), Tabelle G.1";
     FELD(bool, AlleNachweiseErfuellt, false, "", "alle Nachweise sind erfüllt")
 
 #define RS_VERFORMUNGEN(FELD, PAAR) \
-    PAAR(Feld, rhoM, "rhoM1", "rhoM2", 0.0, "kg/m³", "gemittelte Rohdichte von Rippe und Beplankung", .symbol = "ρ_{m}", .quelle = norm::verschiebung) \
-    PAAR(Feld, kser, "kser1", "kser2", 0.0, "N/mm",  "Verschiebungsmodul eines Verbindungsmittels", .symbol = "K_{ser}", .quelle = norm::verschiebung) \
+    PAAR(Feld, rhoM, "rhoM1", "rhoM2", 0.0, "kg/m³", "gemittelte Rohdichte von Rippe und Beplankung", .symbol = "ρ_{m}") \
+    PAAR(Feld, kser, "kser1", "kser2", 0.0, "N/mm",  "Verschiebungsmodul eines Verbindungsmittels", .symbol = "K_{ser}") \
     PAAR(Feld, nVertikalRaender,   "nVertikalRaender1",   "nVertikalRaender2",   0.0, "", "vertikale Plattenränder", .symbol = "n_{v}") \
     PAAR(Feld, nHorizontalRaender, "nHorizontalRaender1", "nHorizontalRaender2", 0.0, "", "horizontale Plattenränder", .symbol = "n_{h}") \
     FELD(Feld, FvCharakt,       0.0, "kN",    "Horizontallast des Gebrauchszustands", .symbol = "F_{v}") \
