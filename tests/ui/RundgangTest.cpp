@@ -1,3 +1,4 @@
+#include "fensterbilder/Kontrast.h"
 #include "support/Gerechnet.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Kuerzel.h"
@@ -26,6 +27,7 @@ bool eigenesTeil(const QWidget& w) {
         if (qobject_cast<const QComboBox*>(eltern) != nullptr ||
             qobject_cast<const QLineEdit*>(eltern) != nullptr ||
             qobject_cast<const QCalendarWidget*>(eltern) != nullptr ||
+            qobject_cast<const QTabBar*>(eltern) != nullptr ||
             qobject_cast<const QAbstractSpinBox*>(eltern) != nullptr)
             return true;
     return false;
@@ -180,7 +182,7 @@ class Rundgang : public Programmprobe {
     void jedesFenster(const std::function<void(QWidget&)>& pruefung) {
         Form1 hauptfenster(programm, meldungen);
         hauptfenster.show();
-        jedesNebenfenster(hauptfenster, Fensterart::ergebnisse, pruefung);
+        jedesNebenfenster(hauptfenster, Fensterart::ueber, pruefung);
         pruefung(hauptfenster);
     }
 };
@@ -223,6 +225,17 @@ void pruefeVorlesen(QWidget& fenster) {
 }
 
 TEST_F(Rundgang, AScreenReaderGetsRoleNameAndRangeOfEveryControl) { jedesFenster(pruefeVorlesen); }
+
+TEST_F(Rundgang, TextsStandOutOnEveryGround) {
+    const QPalette vorher = QApplication::palette();
+    for (const char* name : {"hell", "dunkel", "kontrast"}) {
+        QApplication::setPalette(kontrastpalette(QLatin1String(name)));
+        jedesFenster([name](QWidget& fenster) {
+            EXPECT_EQ(schwacheTexte(fenster).join(QLatin1Char('\n')).toStdString(), "") << name;
+        });
+    }
+    QApplication::setPalette(vorher);
+}
 
 TEST_F(Rundgang, LettersGoRoundAsLongAsThereAreEnough) {
     QWidget fenster;

@@ -11,6 +11,7 @@
 
 #include "fensterbilder/Kontrast.h"
 #include "files/Positionsdatei.h"
+#include "run/Berechnungslauf.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
@@ -117,6 +118,7 @@ int main(int argc, char** argv) {
     static_cast<void>(liesPosition(pfad(angaben[3]), programm.w));
     programm.felder = grundmasse(programm.w);
     programm.zuweisen();
+    static_cast<void>(starte(programm.w));  // for what shows results
 
     Aufnahme aufnahme(angaben[1], angaben.mid(4));
     Form1 hauptfenster(programm, meldungen);
@@ -132,7 +134,8 @@ int main(int argc, char** argv) {
                             aufnahme.fenster(
                                 [&] { fenster.findChild<QAbstractButton*>(QLatin1String(name))->click(); },
                                 [](QWidget&) {});
-            });
+            },
+            art == static_cast<int>(Fensterart::rechenweg) ? QStringLiteral("Rechenweg") : QString());
     zeigeMeldungen(aufnahme, meldungen, hauptfenster);
     if (aufnahme.will(QStringLiteral("Handbuch"))) {
         oeffneHandbuch(&hauptfenster);

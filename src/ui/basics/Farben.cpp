@@ -9,7 +9,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double genug = 4.7;  // the guidelines ask for 4.5; the rest is for the smoothing of letters
+constexpr double genug = 5;  // the guidelines ask for 4.5; the rest is for the smoothing of letters
 
 double leuchtdichte(const QColor& farbe) {
     const auto anteil = [](double c) {
@@ -23,16 +23,31 @@ QColor gemischt(const QColor& a, const QColor& b, double anteil) {
     return {kanal(a.red(), b.red()), kanal(a.green(), b.green()), kanal(a.blue(), b.blue())};
 }
 
-void staerkeZweitfarbe() {
+// The ground of what is chosen, brought away from its text until that can be read.
+QColor auswahlgrund(const QPalette& farben) {
+    const QColor schrift = farben.color(QPalette::HighlightedText);
+    const QColor grund = farben.color(QPalette::Highlight);
+    const QColor ziel = schrift.lightnessF() > 0.5F ? Qt::black : Qt::white;
+    QColor neu = grund;
+    for (int prozent = 0; prozent <= 100 && kontrast(neu, schrift) < genug; prozent += 2)
+        neu = gemischt(grund, ziel, prozent / 100.0);
+    return neu;
+}
+
+void staerkeFarben() {
     const QPalette farben = QApplication::palette();
     const QColor grund = farben.color(QPalette::Window);
     QColor zweite = farben.color(QPalette::PlaceholderText);
     zweite = gemischt(grund, zweite, zweite.alphaF());
     zweite.setAlpha(255);
     const QColor neue = lesbar(zweite, farben);
-    if (neue == farben.color(QPalette::PlaceholderText)) return;
+    const QColor auswahl = auswahlgrund(farben);
+    if (neue == farben.color(QPalette::PlaceholderText) && auswahl == farben.color(QPalette::Highlight))
+        return;
     QPalette nurDiese;  // all other colours stay those of the desktop
     nurDiese.setColor(QPalette::PlaceholderText, neue);
+    for (const QPalette::ColorGroup gruppe : {QPalette::Active, QPalette::Inactive})
+        nurDiese.setColor(gruppe, QPalette::Highlight, auswahl);
     QApplication::setPalette(nurDiese);
 }
 
@@ -58,13 +73,13 @@ QColor lesbar(const QColor& farbe, const QPalette& palette) {
 
 Zweitfarbe::Zweitfarbe(QObject* parent) : QObject(parent) {
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return;
-    staerkeZweitfarbe();
+    staerkeFarben();
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool Zweitfarbe::eventFilter(QObject* object, QEvent* event) {
     if (object == QCoreApplication::instance() && event->type() == QEvent::ApplicationPaletteChange)
-        staerkeZweitfarbe();
+        staerkeFarben();
     return false;
 }
 

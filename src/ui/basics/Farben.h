@@ -12,8 +12,9 @@ double kontrast(const QColor& a, const QColor& b);
 // The colour, brought nearer to that of the text until it can be read on every ground of the palette.
 QColor lesbar(const QColor& farbe, const QPalette& palette);
 
-// Text of second rank stands in the colour of placeholders, which many desktops make too weak to be read.
-// Installed on the application, this strengthens it, again after each change of the desktop's colours.
+// Text of second rank stands in the colour of placeholders, which many desktops make too weak to be read, as
+// they do with chosen text. Installed on the application, this strengthens both, again after each change of
+// the desktop's colours.
 class Zweitfarbe : public QObject {
     Q_OBJECT
 

@@ -98,6 +98,7 @@ Handbuchseite::Handbuchseite(QWidget* parent) : QTextBrowser(parent) {
     setAccessibleName(QStringLiteral("Handbuch"));
     setOpenExternalLinks(false);
     document()->setDocumentMargin(16);
+    setWordWrapMode(QTextOption::WordWrap);  // no word of a table breaks inside
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     neuLesen_.setSingleShot(true);
     neuLesen_.setInterval(100);

@@ -101,6 +101,9 @@ void Variantenvergleich::baueTabelle() {
     tabelle_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     constexpr int schmalsteSpalte = 130;
     tabelle_->horizontalHeader()->setMinimumSectionSize(schmalsteSpalte);
+    // Texts wrap at the width that the window gives the columns.
+    connect(tabelle_->horizontalHeader(), &QHeaderView::sectionResized, tabelle_,
+            &QTableView::resizeRowsToContents);
     connect(tabelle_, &QTableWidget::itemSelectionChanged, this, &Variantenvergleich::zeigeAuswahl);
     inhalt()->addWidget(tabelle_, 1);
     legende_ = new QLabel(this);
@@ -124,6 +127,7 @@ void Variantenvergleich::zeige() {
     zeigeUrteile();
     zeigeAbschnitte();
     zeigeEingaben();
+    tabelle_->setRowHidden(0, programm_.varianten.empty());  // no button stands in it
     tabelle_->resizeRowsToContents();
     legende_->setText(
         programm_.varianten.empty()

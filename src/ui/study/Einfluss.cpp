@@ -155,6 +155,7 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
         uebernimm(programm_, QStringLiteral("Einfluss"),
                   verlauf_.achse.werte[stelle(kurven_->marke())].setzt);
     });
+    resize(1180, 740);  // room for what the value at the mark is told to change
     rechne();
 }
 

@@ -78,6 +78,7 @@ class Hinweisknopf : public QAbstractButton {
         setCursor(Qt::PointingHandCursor);
         setAttribute(Qt::WA_Hover);
         setAccessibleName(QStringLiteral("Hinweis"));
+        setAccessibleDescription(QStringLiteral("Öffnet die Eingabe, um die es geht"));
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     }
     void setzeHinweis(const QString& text) {
