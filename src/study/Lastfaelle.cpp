@@ -21,12 +21,6 @@ enum Dauer { staendig = 1, mittel = 3, kurz = 4 };
 
 std::string ort(std::size_t zeile) { return "Zeile " + std::to_string(zeile) + ": "; }
 
-std::string zellentext(const Feldwert& wert) {
-    if (const bool* wahr = std::get_if<bool>(&wert)) return *wahr ? "1" : "0";
-    if (const double* zahl = std::get_if<double>(&wert)) return zahltext(*zahl);
-    return std::get<std::string>(wert);
-}
-
 // A truth value of a table may be 0, 1, ja or nein too.
 std::string wahrheitswert(const std::string& zelle) {
     if (zelle == "1" || zelle == "ja") return "true";
@@ -56,6 +50,25 @@ Lastfallzeile zeileMit(std::string name, const Eingaben& w, int lastfall, int kl
 
 }  // namespace
 
+std::span<const std::string_view> lastfallspalten() { return spalten; }
+
+std::variant<Feldwert, std::string> lastfallwert(std::string_view spalte, const std::string& zelle,
+                                                 const Csvform& form) {
+    const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(eingabeindex(spalte))];
+    const std::string geschrieben = feld.typ == Feldart::wahr ? wahrheitswert(zelle) : mitPunkt(zelle, form);
+    const auto wert = feldwertAus(feld, geschrieben);
+    if (auto satz = einwand(feld, wert.value_or(Feldwert(zelle)), wert ? zelle : "\"" + zelle + "\"",
+                            Grenzen::beachten))
+        return std::move(*satz);
+    return *wert;
+}
+
+std::string lastfallzelle(const Feldwert& wert, const Csvform& form) {
+    if (const bool* wahr = std::get_if<bool>(&wert)) return *wahr ? "1" : "0";
+    if (const double* zahl = std::get_if<double>(&wert)) return mitDezimalzeichen(zahltext(*zahl), form);
+    return std::get<std::string>(wert);
+}
+
 std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_view text,
                                                                     const Csvform& form) {
     std::vector<Lastfallzeile> faelle;
@@ -82,15 +95,9 @@ std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_
             const std::string& zelle = (*zellen)[i];
             if (kopf[i] == namensspalte && !zelle.empty()) fall.name = zelle;
             if (kopf[i] == namensspalte || zelle.empty()) continue;
-            const int index = eingabeindex(kopf[i]);
-            const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(index)];
-            const std::string geschrieben =
-                feld.typ == Feldart::wahr ? wahrheitswert(zelle) : mitPunkt(zelle, form);
-            const auto wert = feldwertAus(feld, geschrieben);
-            if (const auto satz = einwand(feld, wert.value_or(Feldwert(zelle)),
-                                          wert ? zelle : "\"" + zelle + "\"", Grenzen::beachten))
-                return ort(nummer) + *satz;
-            fall.werte.emplace_back(index, *wert);
+            auto wert = lastfallwert(kopf[i], zelle, form);
+            if (const auto* satz = std::get_if<std::string>(&wert)) return ort(nummer) + *satz;
+            fall.werte.emplace_back(eingabeindex(kopf[i]), std::get<Feldwert>(std::move(wert)));
         }
         faelle.push_back(std::move(fall));
     }
@@ -128,8 +135,7 @@ std::string lastfaelletext(const std::vector<Lastfallzeile>& faelle, const Csvfo
         for (const std::string_view spalte : spalten) {
             const auto gesetzt = std::find_if(fall.werte.begin(), fall.werte.end(),
                                               [&](const auto& w) { return w.first == eingabeindex(spalte); });
-            zellen.push_back(
-                gesetzt == fall.werte.end() ? "" : mitDezimalzeichen(zellentext(gesetzt->second), form));
+            zellen.push_back(gesetzt == fall.werte.end() ? "" : lastfallzelle(gesetzt->second, form));
         }
         text += csvZeile(zellen, form);
     }

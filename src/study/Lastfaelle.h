@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -15,6 +16,13 @@
 // a wall needs a case for each. Columns: name, Lastfall, KLED, Fvk, gk, qk, wk, WindQuer, Fcgk, Fcqk.
 
 namespace rippenscheibe {
+
+// The columns behind the name, inputs all of them.
+std::span<const std::string_view> lastfallspalten();
+// A cell of such a column as a value; "1" and "ja" are true. A sentence when it fits nothing the field takes.
+std::variant<Feldwert, std::string> lastfallwert(std::string_view spalte, const std::string& zelle,
+                                                 const Csvform& form = {});
+std::string lastfallzelle(const Feldwert& wert, const Csvform& form = {});
 
 // A table from the text of a file; a sentence with the line when it cannot be read. Columns may be left out,
 // their fields keep the value of the position; an empty cell does so too.

@@ -116,6 +116,7 @@ int main(int argc, char** argv) {
     Programm programm(pfad(programmordner.path()));
     Plattformmeldungen meldungen;
     static_cast<void>(liesPosition(pfad(angaben[3]), programm.w));
+    programm.Dateiname = utf8(QFileInfo(angaben[3]).absoluteFilePath());
     programm.felder = grundmasse(programm.w);
     programm.zuweisen();
     static_cast<void>(starte(programm.w));  // for what shows results

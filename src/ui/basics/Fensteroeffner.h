@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 class QWidget;
 
 namespace rippenscheibe {
@@ -27,6 +30,8 @@ enum class Fensterart {
     seitenkopf,           // Form8
     auslegen,             // Auslegen
     einfluss,             // Einfluss
+    lastfaelle,           // Lastfaelle
+    uebersicht,           // Projektuebersicht
     druck,                // Form6
     rechenweg,            // Form6 with the derivation
     ergebnisse,           // Form23
@@ -44,6 +49,9 @@ class Fensteroeffner {
 
     // Opens a window over `fenster` and waits until it is closed. True when it was left by accepting it.
     virtual bool oeffne(Fensterart art, Programm& programm, Meldungen& meldungen, QWidget* fenster) = 0;
+
+    // The position that a window closed to have opened; the main window takes it.
+    std::optional<std::string> positionswunsch;
 };
 
 // The same through the program's own; nothing happens while it has none.

@@ -23,6 +23,8 @@
 #include "ui/project/Form99_EigeneMaterialien.h"
 #include "ui/study/Auslegen.h"
 #include "ui/study/Einfluss.h"
+#include "ui/study/Lastfaelle.h"
+#include "ui/study/Projektuebersicht.h"
 
 namespace rippenscheibe {
 
@@ -62,6 +64,8 @@ constexpr Eintrag eintraege[] = {
     {Fensterart::seitenkopf, zeige<Form8>, "Seitenkopf"},
     {Fensterart::auslegen, zeige<Auslegen>, "Auslegen"},
     {Fensterart::einfluss, zeige<Einfluss>, "Einfluss"},
+    {Fensterart::lastfaelle, zeige<Lastfaelle>, "Lastfälle"},
+    {Fensterart::uebersicht, zeige<Projektuebersicht>, "Projektübersicht"},
     {Fensterart::druck, zeige<Form6>, "Druck"},
     {Fensterart::rechenweg, zeigeRechenweg, "Rechenweg"},
     {Fensterart::ergebnisse, zeige<Form23>, "Ergebnisse"},

@@ -188,6 +188,8 @@ void Form1::zeige() {
     for (const auto& [zeile, text] : zeilen_) zeile->setzeZusammenfassung(text(programm_.w));
     ansicht_->setzeWand(programm_.w);
     urteil_->zeige(rechneSofort(programm_.w, programm_.felder));
+    urteil_->zeigeLastfaelle(rechneLastfaelle(programm_.w, lastfaelle_.zu(programm_.Dateiname)),
+                             lastfaelle_.fehler());
     zeigeHinweisstand();
     zeigeTitel();
 }
@@ -255,6 +257,8 @@ void Form1::oeffneErgebnis(int abschnitt) {
 
 bool Form1::oeffneFenster(Fensterart art) {
     const bool uebernommen = oeffne(art, programm_, meldungen_, this);
+    if (const auto datei = std::exchange(programm_.fenster->positionswunsch, std::nullopt))
+        ablauf_.oeffnen(qtext(*datei));
     zeige();
     return uebernommen;
 }

@@ -10,6 +10,7 @@
 #include "ui/main/Menuetabelle.h"
 #include "ui/session/Dateiablauf.h"
 #include "ui/session/Sicherungskopie.h"
+#include "ui/verdict/Lastfallquelle.h"
 
 class QGroupBox;
 class QPushButton;
@@ -113,6 +114,7 @@ class Form1 : public QMainWindow {
     std::vector<Symboltraeger> symbole_;
     Zeichnungsansicht* ansicht_ = nullptr;
     Urteilsanzeige* urteil_ = nullptr;
+    Lastfallquelle lastfaelle_;
     Hinweisliste* hinweise_ = nullptr;
     QPushButton* einsehen_ = nullptr;
     ZuletztMenue* zuletzt_ = nullptr;

@@ -83,6 +83,8 @@ Menue Form1::bearbeitenmenue() {
     menue.punkte.push_back({qtext("mnuVarianten"), qtext("Variante merken und ver&gleichen ..."),
                             [this] { oeffneFenster(Fensterart::varianten); },
                             QKeySequence(Qt::CTRL | Qt::Key_M)});
+    menue.punkte.push_back(
+        {qtext("mnuLastfaelle"), qtext("&Lastfälle ..."), [this] { oeffneFenster(Fensterart::lastfaelle); }});
     return menue;
 }
 
@@ -91,6 +93,8 @@ Menue Form1::projektmenue() {
             qtext("&Projekt"),
             {{qtext("mnuProjekt"), qtext("&Projektdaten ..."),
               [this] { oeffneFenster(Fensterart::projektdaten); }},
+             {qtext("mnuUebersicht"), qtext("Projekt&übersicht ..."),
+              [this] { oeffneFenster(Fensterart::uebersicht); }, QKeySequence(Qt::Key_F9)},
              {qtext("mnuExplorer"), qtext("Projekt&manager starten"), [this] { starteProjektmanager(); }}}};
 }
 

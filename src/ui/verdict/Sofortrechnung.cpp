@@ -54,6 +54,13 @@ Sofortergebnis rechneFrischFuer(Wand& w, const Grundmasse& felder) {
     return lies(w, rechneFrisch(w));
 }
 
+std::optional<Fallurteil> rechneLastfaelle(const Wand& w, const std::vector<Lastfallzeile>& faelle) {
+    const auto urteile = fallurteile(w, w.eigeneMaterialien, faelle);
+    const int massgebend = massgebenderFall(urteile);
+    if (massgebend < 0) return std::nullopt;
+    return urteile[static_cast<std::size_t>(massgebend)];
+}
+
 QString urteilstext(const Sofortergebnis& ergebnis) {
     const std::size_t hinweise = ergebnis.hinweise.size();
     if (!ergebnis.urteil.maxEta)

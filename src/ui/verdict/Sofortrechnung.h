@@ -7,6 +7,7 @@
 
 #include "run/Urteil.h"
 #include "run/Zuweisen.h"
+#include "study/Projekt.h"
 
 // What a start button would say of a position now, without pressing it.
 
@@ -25,6 +26,8 @@ struct Sofortergebnis {
 // Check and run on a copy of the record, with the results that stand in it; beside it a run from results as
 // after program start. The record is not touched.
 Sofortergebnis rechneSofort(const Wand& w, const Grundmasse& felder);
+// What the table of load cases beside the position says of the wall as it is; nothing without cases.
+std::optional<Fallurteil> rechneLastfaelle(const Wand& w, const std::vector<Lastfallzeile>& faelle);
 
 // A run of this record from results as after program start; they stand in it afterwards.
 Sofortergebnis rechneFrischFuer(Wand& w, const Grundmasse& felder);

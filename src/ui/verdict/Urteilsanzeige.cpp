@@ -171,6 +171,8 @@ Urteilsanzeige::Urteilsanzeige(QWidget* parent) : QWidget(parent) {
     fett.setWeight(QFont::DemiBold);
     urteil_->setFont(fett);
     massgebend_ = zeile("SofortMassgebend", 1, *reihe);
+    lastfall_ = zeile("SofortLastfall", 2, *reihe);
+    lastfall_->hide();
     seiten_ = new QStackedLayout;  // as tall as the taller page: nothing jumps
     seiten_->addWidget(baueBalken());
     seiten_->addWidget(baueHinweise());
@@ -238,6 +240,23 @@ void Urteilsanzeige::zeige(const Sofortergebnis& ergebnis) {
     if (vorher != urteil_->text()) sageAn(*urteil_);
 }
 
+void Urteilsanzeige::zeigeLastfaelle(const std::optional<Fallurteil>& massgebend, const QString& fehler) {
+    lastfallurteil_ = Balkenurteil::ohneNachweis;
+    QString text = QStringLiteral("! Lastfälle: ") + fehler;
+    if (massgebend && massgebend->urteil.maxEta) {
+        lastfallurteil_ =
+            massgebend->urteil.erfuellt() ? Balkenurteil::erfuellt : Balkenurteil::ueberschritten;
+        text = QStringLiteral("%1 Lastfälle: %2 · %3")
+                   .arg(urteilszeichen(lastfallurteil_), etatext(*massgebend->urteil.maxEta),
+                        qtext(massgebendText(*massgebend)));
+    } else if (massgebend) {
+        text += qtext(massgebend->name) + QStringLiteral(": Hinweise, keine Berechnung");
+    }
+    setzeText(*lastfall_, text);
+    lastfall_->setVisible(massgebend || !fehler.isEmpty());
+    faerbe();
+}
+
 void Urteilsanzeige::zeigeBalken() {
     for (std::size_t i = 0; i < balken_.size() && i < ergebnis_.abschnitte.size(); ++i)
         balken_[i]->setze(balkenwert(ergebnis_.abschnitte[i]));
@@ -256,6 +275,7 @@ void Urteilsanzeige::zeigeHinweise() {
 
 void Urteilsanzeige::faerbe() {
     faerbeSchrift(*urteil_, urteilsfarbe(palette(), gesamturteil(ergebnis_)));
+    faerbeSchrift(*lastfall_, urteilsfarbe(palette(), lastfallurteil_));
     faerbeSchrift(*luecke_, urteilsfarben(palette()).warnung);
     faerbeSchrift(*frisch_, urteilsfarben(palette()).warnung);
 }

@@ -45,6 +45,9 @@ class Urteilsanzeige : public QWidget {
     explicit Urteilsanzeige(QWidget* parent = nullptr);
 
     void zeige(const Sofortergebnis& ergebnis);
+    // What the table of load cases beside the position says: the case that governs, or why it is not read.
+    // Nothing without a table.
+    void zeigeLastfaelle(const std::optional<Fallurteil>& massgebend, const QString& fehler);
 
   Q_SIGNALS:
     void abschnittGewaehlt(int abschnitt);  // 5.x
@@ -64,8 +67,10 @@ class Urteilsanzeige : public QWidget {
     void faerbe();
 
     Sofortergebnis ergebnis_;
+    Balkenurteil lastfallurteil_ = Balkenurteil::ohneBedarf;
     Kurzzeile* urteil_;
     Kurzzeile* massgebend_;
+    Kurzzeile* lastfall_;
     Kurzzeile* frisch_ = nullptr;
     Kurzzeile* luecke_;
     QStackedLayout* seiten_;
