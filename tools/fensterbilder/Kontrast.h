@@ -19,7 +19,7 @@ inline QPalette kontrastpalette(const QString& name) {
     QPalette farben(schrift, grund, grund.lighter(160), grund.darker(150), QColor(0x6F, 0x73, 0x7A), schrift,
                     schrift, feld, grund);
     farben.setColor(QPalette::AlternateBase, kontrast ? QColor(0x20, 0x20, 0x20) : QColor(0x26, 0x28, 0x2B));
-    farben.setColor(QPalette::Highlight, kontrast ? QColor(Qt::yellow) : QColor(0x35, 0x74, 0xF0));
+    farben.setColor(QPalette::Highlight, kontrast ? QColor(Qt::yellow) : QColor(0x2A, 0x5F, 0xD0));
     farben.setColor(QPalette::HighlightedText, kontrast ? QColor(Qt::black) : QColor(Qt::white));
     farben.setColor(QPalette::PlaceholderText,
                     kontrast ? QColor(0xC0, 0xC0, 0xC0) : QColor(0x9D, 0xA0, 0xA8));
