@@ -93,13 +93,15 @@ void Pfadwahl::zeigeAnfang() {
     if (zweck_ == Zweck::positionspfad && !programm_.Positionspfad.empty())
         start = qtext(programm_.Positionspfad);
     zeigeOrdner(QDir(start).exists() ? start : QDir::rootPath());
-    // Folders are read in the background: until the user chooses, what comes in keeps the start in sight.
+    // Folders are read in the background and sorted later: until the user chooses, the start stays in sight.
     const QPersistentModelIndex anfang = ordner_->currentIndex();
-    connect(modell_, &QFileSystemModel::directoryLoaded, this, [this, anfang] {
+    const auto zeige = [this, anfang] {
         if (!anfang.isValid() || ordner_->currentIndex() != anfang) return;
         ordner_->expand(anfang);
         ordner_->scrollTo(anfang, QAbstractItemView::PositionAtCenter);
-    });
+    };
+    connect(modell_, &QFileSystemModel::directoryLoaded, this, zeige);
+    connect(modell_, &QFileSystemModel::layoutChanged, this, zeige);
 }
 
 QString Pfadwahl::pfad() const {
