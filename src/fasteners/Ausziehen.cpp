@@ -24,7 +24,7 @@ constexpr std::array<Tragfaehigkeitsklasse, 9> klassen{{
     {50, 80, 100},  // 3C
 }};
 // clang-format on
-const Tabellenangabe tabelle(klassen, "Tragfähigkeitsklassen");
+[[maybe_unused]] const Tabellenangabe tabelle(klassen, "Tragfähigkeitsklassen");
 
 }  // namespace
 

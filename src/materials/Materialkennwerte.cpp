@@ -45,7 +45,7 @@ constexpr std::array<Holzklasse, 13> holzklassen{{
     {  430,  36,   29,   22.5, 3.3,   14700,   850,   460},
 }};
 // clang-format on
-const Tabellenangabe tabelleHolz(holzklassen, "Festigkeitsklassen");
+[[maybe_unused]] const Tabellenangabe tabelleHolz(holzklassen, "Festigkeitsklassen");
 
 // Thickness bands reach from over `ueber` up to and including `bis`, mm; gypsum boards are listed by
 // exact thickness.
@@ -142,15 +142,15 @@ constexpr std::array<Spanplattenband, 6> P7{{
 constexpr std::string_view tabelleOsb = "Kennwerte der OSB-Platten";
 constexpr std::string_view tabelleGips = "Kennwerte der Gipsplatten";
 constexpr std::string_view tabelleSpan = "Kennwerte der Spanplatten";
-const std::array<Tabellenangabe, 9> tabellen{{{OSB3, tabelleOsb},
-                                              {OSB4, tabelleOsb},
-                                              {GKB, tabelleGips},
-                                              {GKF, tabelleGips},
-                                              {gipsfaser, "Kennwerte der Gipsfaserplatten"},
-                                              {P4, tabelleSpan},
-                                              {P5, tabelleSpan},
-                                              {P6, tabelleSpan},
-                                              {P7, tabelleSpan}}};
+[[maybe_unused]] const std::array<Tabellenangabe, 9> tabellen{{{OSB3, tabelleOsb},
+                                                               {OSB4, tabelleOsb},
+                                                               {GKB, tabelleGips},
+                                                               {GKF, tabelleGips},
+                                                               {gipsfaser, "Kennwerte der Gipsfaserplatten"},
+                                                               {P4, tabelleSpan},
+                                                               {P5, tabelleSpan},
+                                                               {P6, tabelleSpan},
+                                                               {P7, tabelleSpan}}};
 
 template <class Band>
 const Band* bandZu(std::span<const Band> baender, Zahl t) {

@@ -38,7 +38,7 @@ constexpr std::array<KmodZeile, 10> kmodTabelle{{
 constexpr std::array<Tabellenwert, 5> kmodVollholz{0.6, 0.7, 0.8, 0.9, 1.1};
 
 constexpr std::string_view name = "kmod";
-const std::array<Tabellenangabe, 2> tabellen{{{kmodTabelle, name}, {kmodVollholz, name}}};
+[[maybe_unused]] const std::array<Tabellenangabe, 2> tabellen{{{kmodTabelle, name}, {kmodVollholz, name}}};
 
 }  // namespace
 

@@ -32,7 +32,8 @@ constexpr std::array<Kammnagel, 4> kammnaegel{{
 }};
 // clang-format on
 
-const std::array<Tabellenangabe, 2> tabellen{{{ankertabelle, "Zuganker"}, {kammnaegel, "CNA-Kammnägel"}}};
+[[maybe_unused]] const std::array<Tabellenangabe, 2> tabellen{
+    {{ankertabelle, "Zuganker"}, {kammnaegel, "CNA-Kammnägel"}}};
 
 constexpr auto ankernamen = [] {
     std::array<std::string_view, ankertabelle.size()> namen{};
