@@ -55,6 +55,8 @@ Vergleich gegenteil(Vergleich v) {
 
 // What a stored choice stands for: "OSB/3" of Material1 = 1.
 std::string_view katalogname(std::string_view feld, double wert) {
+    constexpr double jenseits = 100;  // no catalogue is that long, and not every value fits an index
+    if (!(wert >= 0 && wert < jenseits)) return {};
     const auto index = static_cast<int>(wert);
     if (feld.starts_with("Material")) return eintrag(Plattenmaterialien(), index);
     if (feld.starts_with("VMArt")) return eintrag(VMArten(), index);
