@@ -47,8 +47,6 @@ class Wache {
     std::jthread faden_;
 };
 
-std::string_view feldname(int feld) { return eingabefelder()[static_cast<std::size_t>(feld)].angabe.name; }
-
 // Carries one verb out.
 class Studie {
   public:
@@ -209,7 +207,7 @@ class Studie {
         std::string json = "{";
         for (const int feld : festeFelder()) {
             if (json.size() > 1) json += ',';
-            anfuegeJsonText(json, feldname(feld));
+            anfuegeJsonText(json, eingabefeld(feld).angabe.name);
             json += ':';
             stand.felder().anfuegeEingabe(json, feld);
         }
@@ -220,7 +218,7 @@ class Studie {
         std::string text;
         for (const int feld : festeFelder()) {
             if (!text.empty()) text += ", ";
-            text.append(feldname(feld)).append(" = ");
+            text.append(eingabefeld(feld).angabe.name).append(" = ");
             stand.felder().anfuegeEingabe(text, feld);
         }
         return text;

@@ -98,7 +98,7 @@ std::string jsonListe(const std::vector<std::string>& texte) {
 
 void anfuegeZuweisungen(Glieder& glieder, const std::vector<std::pair<int, Feldwert>>& setzt) {
     for (const auto& [feld, wert] : setzt)
-        glieder.emplace_back(eingabefelder()[static_cast<std::size_t>(feld)].angabe.name, jsonWert(wert));
+        glieder.emplace_back(eingabefeld(feld).angabe.name, jsonWert(wert));
 }
 
 void anfuegeUrteil(Glieder& glieder, const Bewertung& bewertung, const Bewertungsregel& regel) {

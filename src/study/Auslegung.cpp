@@ -234,7 +234,7 @@ std::string ausscheidegruende(const Auslegungsergebnis& ergebnis) {
 std::string festesFeld(const Raster& raster) {
     for (const Achse& a : raster.achsen())
         for (const int feld : a.felder) {
-            const std::string_view name = eingabefelder()[static_cast<std::size_t>(feld)].angabe.name;
+            const std::string_view name = eingabefeld(feld).angabe.name;
             if (std::find(feste.begin(), feste.end(), name) != feste.end()) return std::string(name);
         }
     return {};

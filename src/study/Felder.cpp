@@ -84,6 +84,8 @@ std::span<const Feldeintrag> ergebnisfelder() {
     return felder;
 }
 
+const Feldeintrag& eingabefeld(int eingabe) { return eingabefelder()[static_cast<std::size_t>(eingabe)]; }
+
 int eingabeindex(std::string_view name) {
     static const Verzeichnis verzeichnis = verzeichnisVon(eingabefelder());
     return gesucht(verzeichnis, name);

@@ -29,6 +29,8 @@ struct Feldeintrag {
 
 std::span<const Feldeintrag> eingabefelder();
 std::span<const Feldeintrag> ergebnisfelder();
+// The input at this place.
+const Feldeintrag& eingabefeld(int eingabe);
 // The place of a field in its list, -1 when there is none of that name.
 int eingabeindex(std::string_view name);
 int ergebnisindex(std::string_view name);

@@ -54,7 +54,7 @@ std::span<const std::string_view> lastfallspalten() { return spalten; }
 
 std::variant<Feldwert, std::string> lastfallwert(std::string_view spalte, const std::string& zelle,
                                                  const Csvform& form) {
-    const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(eingabeindex(spalte))];
+    const Feldeintrag& feld = eingabefeld(eingabeindex(spalte));
     const std::string geschrieben = feld.typ == Feldart::wahr ? wahrheitswert(zelle) : mitPunkt(zelle, form);
     const auto wert = feldwertAus(feld, geschrieben);
     if (auto satz = einwand(feld, wert.value_or(Feldwert(zelle)), wert ? zelle : "\"" + zelle + "\"",
@@ -121,7 +121,7 @@ std::optional<std::string> ueberschriebenesFeld(const Raster& raster,
             for (const Lastfallzeile& fall : faelle)
                 for (const auto& [gesetzt, wert] : fall.werte)
                     if (gesetzt == feld)
-                        return std::string(eingabefelder()[static_cast<std::size_t>(feld)].angabe.name) +
+                        return std::string(eingabefeld(feld).angabe.name) +
                                " setzt auch der Lastfall \"" + fall.name + "\" und hebt es wieder auf";
     return std::nullopt;
 }

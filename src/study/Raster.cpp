@@ -134,7 +134,7 @@ std::variant<std::vector<std::pair<int, Feldwert>>, std::string> zuweisungen(con
         if (zeile == 0) return "\"" + std::string(wert) + "\" steht nicht im Katalog der Verbindungsmittel";
         return setztKatalogzeile(achse.seite, zeile);
     }
-    const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(achse.feld)];
+    const Feldeintrag& feld = eingabefeld(achse.feld);
     if (feld.angabe.name.starts_with("VMTyp"))
         if (const int typ = nagelzeile(wert); typ > 0) return setztNagel(achse.seite, typ);
     if (const int zeile = katalogzeile(feld.angabe.name, wert); zeile > 0)
@@ -148,7 +148,7 @@ std::variant<std::vector<std::pair<int, Feldwert>>, std::string> zuweisungen(con
 
 bool istKatalogname(const Achsenfeld& achse, std::string_view wert) {
     if (achse.feld < 0) return vmKatalogzeile(wert) > 0;
-    const std::string_view name = eingabefelder()[static_cast<std::size_t>(achse.feld)].angabe.name;
+    const std::string_view name = eingabefeld(achse.feld).angabe.name;
     return (name.starts_with("VMTyp") && nagelzeile(wert) > 0) || katalogzeile(name, wert) > 0;
 }
 

@@ -144,7 +144,7 @@ struct Zeilenrechner::Innen {
             return ergebnisindex(name) < 0 ? "unbekanntes Feld \"" + std::string(name) + "\""
                                            : std::string(name) + " ist ein Ergebnis, keine Eingabe";
         }
-        const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(index)];
+        const Feldeintrag& feld = eingabefeld(index);
         std::size_t& zuletzt = zuletztGesetzt[static_cast<std::size_t>(index)];
         if (zuletzt == zeile) return std::string(name) + " steht zweimal";
         zuletzt = zeile;
@@ -182,7 +182,7 @@ struct Zeilenrechner::Innen {
         for (std::size_t i = 0; i < spalten.size(); ++i) {
             const std::string& zelle = (*zellen)[i];
             if (spalten[i] == kennung || zelle.empty()) continue;
-            const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(eingabeindex(spalten[i]))];
+            const Feldeintrag& feld = eingabefeld(eingabeindex(spalten[i]));
             const bool istText = feld.typ == Feldart::text;
             const auto wert = feldwertAus(feld, istText ? zelle : mitPunkt(zelle, auftrag.csv));
             const std::string geschrieben = wert && !istText ? zelle : "\"" + zelle + "\"";

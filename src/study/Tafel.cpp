@@ -51,7 +51,7 @@ std::variant<Tafelauftrag, std::string> tafelauftrag(const Tafelwunsch& wunsch, 
         if (text.empty()) return std::string("Es fehlt ") + option + ".";
     const int feld = eingabeindex(wunsch.groesste.substr(0, wunsch.groesste.find(',')));
     if (feld < 0) return "unbekanntes Feld \"" + wunsch.groesste + "\"";
-    const auto& bereich = eingabefelder()[static_cast<std::size_t>(feld)].bereich;
+    const auto& bereich = eingabefeld(feld).bereich;
     if (wunsch.bis.empty() && !bereich) return std::string("Es fehlt --bis.");
     const std::string bis = wunsch.bis.empty() ? zahltext(bereich->bis) : wunsch.bis;
     const std::string suche = wunsch.groesste + "=" + wunsch.von + ":" + bis + ":" + wunsch.stufe;

@@ -77,7 +77,7 @@ Angaben festeEingaben(const Tafelauftrag& auftrag) {
     for (int feld = eingabeindex("Wandlaenge"); feld < static_cast<int>(eingabefelder().size()); ++feld) {
         if (std::any_of(achsen.begin(), achsen.end(), [&](const Achse* a) { return setzt(*a, feld); }))
             continue;
-        const Feldeintrag& eintrag = eingabefelder()[static_cast<std::size_t>(feld)];
+        const Feldeintrag& eintrag = eingabefeld(feld);
         std::string wert;
         felder.anfuegeEingabe(wert, feld);
         if (eintrag.typ == Feldart::wahr) {
@@ -96,7 +96,7 @@ Angaben festeEingaben(const Tafelauftrag& auftrag) {
 // The fields of an axis with what they mean: "av1,av2 (Abstand der Verbindungsmittel, mm)".
 std::string mitBedeutung(const Achse& achse) {
     if (achse.felder.empty()) return achse.name;
-    const Feldangabe& angabe = eingabefelder()[static_cast<std::size_t>(achse.felder.front())].angabe;
+    const Feldangabe& angabe = eingabefeld(achse.felder.front()).angabe;
     std::string text = achse.name + " (" + std::string(angabe.bedeutung);
     if (!angabe.einheit.empty()) text.append(", ").append(angabe.einheit);
     return text + ")";

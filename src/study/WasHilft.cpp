@@ -15,8 +15,6 @@ namespace {
 
 using Zuweisungen = std::vector<std::pair<int, Feldwert>>;
 
-std::string_view feldname(int feld) { return eingabefelder()[static_cast<std::size_t>(feld)].angabe.name; }
-
 // Collects the steps of a wall; fields that have the value already are no step.
 class Schrittliste {
   public:
@@ -85,9 +83,9 @@ class Schrittliste {
             const auto gleich = std::find_if(gruppen.begin(), gruppen.end(),
                                              [&](const auto& g) { return g.second == wechsel; });
             if (gleich == gruppen.end()) {
-                gruppen.emplace_back(feldname(feld), wechsel);
+                gruppen.emplace_back(eingabefeld(feld).angabe.name, wechsel);
             } else {
-                gleich->first.append(", ").append(feldname(feld));
+                gleich->first.append(", ").append(eingabefeld(feld).angabe.name);
             }
         }
         std::string alles;

@@ -107,7 +107,7 @@ QWidget* Achsenwahl::baueReihe() {
     auto* grid = new QGridLayout(reihe);
     grid->setContentsMargins(3 * Fenster::raster, 0, 0, 0);
     grid->setHorizontalSpacing(Fenster::raster);
-    const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(vorgabe_.felder.front())];
+    const Feldeintrag& feld = eingabefeld(vorgabe_.felder.front());
     const double erster = *alsZahl(vorgabe_.werte.front());
     const double zweiter = *alsZahl(vorgabe_.werte[1]);
     int spalte = 0;

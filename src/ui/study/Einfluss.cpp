@@ -34,7 +34,7 @@ double xWert(const Achse& achse, bool istListe, std::size_t i) {
 Achse mitHeute(const Achse& achse, const Wand& heute) {
     Wand kopie = heute;
     std::set<double> werte{Feldzugriff(kopie).zahl(achse.felder.front())};
-    if (const Feldeintrag& feld = eingabefelder()[static_cast<std::size_t>(achse.felder.front())];
+    if (const Feldeintrag& feld = eingabefeld(achse.felder.front());
         feld.typ == Feldart::f32)
         werte = {wieGetippt(static_cast<float>(*werte.begin()))};
     for (std::size_t i = 0; i < achse.werte.size(); ++i) werte.insert(xWert(achse, false, i));
@@ -93,7 +93,7 @@ std::vector<Sperrbereich> sperren(const std::vector<double>& x, const std::vecto
 Kurvendaten kurvendaten(const Achse& achse, bool istListe, const std::vector<Variationspunkt>& punkte) {
     constexpr std::size_t abschnitte = 8;
     Kurvendaten d;
-    const Feldangabe& feld = eingabefelder()[static_cast<std::size_t>(achse.felder.front())].angabe;
+    const Feldangabe& feld = eingabefeld(achse.felder.front()).angabe;
     d.achse = feldname(achse.felder);
     if (!istListe && !feld.einheit.empty()) d.achse += QStringLiteral(" [%1]").arg(qtext(feld.einheit));
     d.maske = maske(achse);

@@ -13,7 +13,7 @@ namespace rippenscheibe {
 
 namespace {
 
-const Feldangabe& angabe(int feld) { return eingabefelder()[static_cast<std::size_t>(feld)].angabe; }
+const Feldangabe& angabe(int feld) { return eingabefeld(feld).angabe; }
 
 // "av" of "av1" and "av2"; the name itself for a field of the whole wall.
 std::string_view stamm(std::string_view name) {

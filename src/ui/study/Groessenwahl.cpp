@@ -73,7 +73,7 @@ void mitHeute(Groesse& g, const Wand& w) {
     const double heute = Feldzugriff(kopie).zahl(g.indizes.front());
     while (heute > g.bis) g.bis += std::ceil((heute - g.bis) / g.schritt) * g.schritt;
     while (heute < g.von) g.von -= std::ceil((g.von - heute) / g.schritt) * g.schritt;
-    const Wertebereich& b = eingabefelder()[static_cast<std::size_t>(g.indizes.front())].angabe.bereich;
+    const Wertebereich& b = eingabefeld(g.indizes.front()).angabe.bereich;
     g.von = std::max(g.von, b.min);
     g.bis = std::min(g.bis, b.max);
 }
@@ -183,7 +183,7 @@ void Groessenwahl::baueFelder() {
 
 Werteingabe* Groessenwahl::baueFeld(QGridLayout& zeile, const char* zusatz, const char* text, double wert) {
     const Groesse& g = groesse();
-    const Feldangabe& angabe = eingabefelder()[static_cast<std::size_t>(g.indizes.front())].angabe;
+    const Feldangabe& angabe = eingabefeld(g.indizes.front()).angabe;
     const bool istSchritt = std::string_view(zusatz) == "Schritt";
     Wertvorgabe v;
     v.beschriftung = QString::fromUtf8(text);

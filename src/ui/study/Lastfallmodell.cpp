@@ -183,7 +183,7 @@ QString Lastfallmodell::wert(const Zeile& zeile, int last) const {
     static_cast<Eingaben&>(w) = eingaben_;
     const int feld = feldindex(last);
     const Feldzugriff felder(w);
-    if (eingabefelder()[static_cast<std::size_t>(feld)].typ == Feldart::wahr)
+    if (eingabefeld(feld).typ == Feldart::wahr)
         return felder.zahl(feld) != 0 ? QStringLiteral("1") : QStringLiteral("0");
     std::string json;
     felder.anfuegeEingabe(json, feld);
