@@ -32,6 +32,7 @@ enum class Fensterart {
     einfluss,             // Einfluss
     lastfaelle,           // Lastfaelle
     uebersicht,           // Projektuebersicht
+    tafel,                // Bemessungstafel
     druck,                // Form6
     rechenweg,            // Form6 with the derivation
     ergebnisse,           // Form23

@@ -22,6 +22,7 @@
 #include "ui/project/Form60_Kalender.h"
 #include "ui/project/Form99_EigeneMaterialien.h"
 #include "ui/study/Auslegen.h"
+#include "ui/study/Bemessungstafel.h"
 #include "ui/study/Einfluss.h"
 #include "ui/study/Lastfaelle.h"
 #include "ui/study/Projektuebersicht.h"
@@ -66,6 +67,7 @@ constexpr Eintrag eintraege[] = {
     {Fensterart::einfluss, zeige<Einfluss>, "Einfluss"},
     {Fensterart::lastfaelle, zeige<Lastfaelle>, "Lastfälle"},
     {Fensterart::uebersicht, zeige<Projektuebersicht>, "Projektübersicht"},
+    {Fensterart::tafel, zeige<Bemessungstafel>, "Bemessungstafel"},
     {Fensterart::druck, zeige<Form6>, "Druck"},
     {Fensterart::rechenweg, zeigeRechenweg, "Rechenweg"},
     {Fensterart::ergebnisse, zeige<Form23>, "Ergebnisse"},

@@ -121,6 +121,7 @@ Menue Form1::extrasmenue() {
         {{qtext("mnuAuslegen"), qtext("&Auslegen ..."), [this] { oeffneFenster(Fensterart::auslegen); },
           QKeySequence(Qt::Key_F8)},
          {qtext("mnuEinfluss"), qtext("E&influss ..."), [this] { oeffneFenster(Fensterart::einfluss); }},
+         {qtext("mnuTafel"), qtext("&Bemessungstafel ..."), [this] { oeffneFenster(Fensterart::tafel); }},
          trenner,
          {qtext("mnupocketcalc"), qtext("&Taschenrechner"), [this] { oeffneFenster(Fensterart::rechner); }},
          {qtext("mnuKalender"), qtext("&Kalender"), [this] { oeffneFenster(Fensterart::kalender); }},

@@ -57,12 +57,6 @@ bool istReihe(const Achse& achse) {
     return true;
 }
 
-// A value as its tick names it: rows of a catalogue of fasteners have their own names.
-QString wertname(const Achsenwert& wert) {
-    return wert.setzt.size() > 2 ? qtext(wert.text)
-                                 : werttext(wert.setzt.front().first, wert.setzt.front().second);
-}
-
 }  // namespace
 
 Achsenwahl::Achsenwahl(const Standardachse& vorgabe, const Wand& heute, bool gewaehlt, QWidget* parent)
@@ -144,7 +138,7 @@ QWidget* Achsenwahl::baueListe(const Wand& heute) {
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->viewport()->setAutoFillBackground(false);
     for (const Achsenwert& wert : vorgabe_.werte) {
-        auto* eintrag = new QListWidgetItem(wertname(wert), liste_);
+        auto* eintrag = new QListWidgetItem(werttext(wert), liste_);
         eintrag->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         eintrag->setCheckState(Qt::Checked);
         if (!aenderungstext(heute, wert.setzt).isEmpty()) continue;

@@ -93,17 +93,12 @@ std::vector<Sperrbereich> sperren(const std::vector<double>& x, const std::vecto
 Kurvendaten kurvendaten(const Achse& achse, bool istListe, const std::vector<Variationspunkt>& punkte) {
     constexpr std::size_t abschnitte = 8;
     Kurvendaten d;
-    const Feldangabe& feld = eingabefeld(achse.felder.front()).angabe;
-    d.achse = feldname(achse.felder);
-    if (!istListe && !feld.einheit.empty()) d.achse += QStringLiteral(" [%1]").arg(qtext(feld.einheit));
+    d.achse = istListe ? feldname(achse.felder) : mitEinheit(achse.felder);
     d.maske = maske(achse);
     for (std::size_t i = 0; i < punkte.size(); ++i) {
         d.x.push_back(xWert(achse, istListe, i));
         if (!istListe) continue;
-        const Achsenwert& wert = achse.werte[i];
-        d.xNamen.push_back(wert.setzt.size() > 2
-                               ? qtext(wert.text)
-                               : werttext(wert.setzt.front().first, wert.setzt.front().second));
+        d.xNamen.push_back(werttext(achse.werte[i]));
     }
     for (std::size_t a = 0; a < abschnitte; ++a) {
         Kurve k = kurve(punkte, a);
@@ -177,6 +172,11 @@ QWidget* Einfluss::baueWand() {
     QFont fett = font();
     fett.setWeight(QFont::DemiBold);
     for (QLabel* zeile : {wert_, urteil_}) zeile->setFont(fett);
+    // Room for the longest, so that nothing moves with the mark.
+    wert_->setMinimumHeight(2 * fontMetrics().lineSpacing());
+    grund_->setMinimumHeight(4 * fontMetrics().lineSpacing());
+    grund_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    ansicht_->setMinimumSize(260, 180);
     ansicht_->setzeDezimalzeichen(dezimalzeichen());
     spalte->addWidget(ansicht_, 1);
     return seite;

@@ -83,6 +83,11 @@ struct Aenderung {
 
 QString feldname(std::span<const int> felder) { return benannt({felder.begin(), felder.end()}); }
 
+QString mitEinheit(std::span<const int> felder) {
+    const QString einheit = qtext(angabe(felder.front()).einheit);
+    return einheit.isEmpty() ? feldname(felder) : QStringLiteral("%1 [%2]").arg(feldname(felder), einheit);
+}
+
 QString spaltenname(std::span<const int> felder) {
     const Feldangabe& erstes = angabe(felder.front());
     if (gehoertZumVerbindungsmittel(erstes.name)) return QStringLiteral("Verbindungsmittel");
@@ -111,6 +116,11 @@ QString werttext(int feld, const Feldwert& wert) {
     Wand w;
     Feldzugriff(w).setze(feld, wert);
     return werttext(feld, w);
+}
+
+QString werttext(const Achsenwert& wert) {
+    return wert.setzt.size() > 2 ? qtext(wert.text)
+                                 : werttext(wert.setzt.front().first, wert.setzt.front().second);
 }
 
 QString achsentext(const Achse& achse, const Wand& w) {

@@ -124,23 +124,26 @@ std::vector<Groesse> groessen(const Wand& w, bool nurZahlen) {
 
 Groessenwahl::Groessenwahl(const QString& name, const QString& beschriftung, std::vector<Groesse> groessen,
                            const std::string& zuerst, QWidget* parent)
-    : QWidget(parent), groessen_(std::move(groessen)), wahl_(new QComboBox(this)) {
+    : QWidget(parent),
+      groessen_(std::move(groessen)),
+      wahl_(new QComboBox(this)),
+      schild_(new QLabel(beschriftung, this)) {
     wahl_->setObjectName(name);
     wahl_->setAccessibleName(QString(beschriftung).remove(QLatin1Char(':')).remove(QLatin1Char('&')));
     wahl_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    wahl_->setMinimumContentsLength(26);
+    wahl_->setMinimumContentsLength(36);
     int erste = 0;
     for (const Groesse& g : groessen_) {
         if (g.felder == zuerst) erste = wahl_->count();
         wahl_->addItem(feldname(g.indizes));
     }
     wahl_->setCurrentIndex(erste);
-    auto* schild = new QLabel(beschriftung, this);
-    schild->setBuddy(wahl_);
+    schild_->setBuddy(wahl_);
+    schild_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* zeile = new QHBoxLayout(this);
     zeile->setContentsMargins(0, 0, 0, 0);
     zeile->setSpacing(Fenster::raster);
-    zeile->addWidget(schild);
+    zeile->addWidget(schild_);
     zeile->addWidget(wahl_);
     zeile->addStretch(1);
     baueFelder();
@@ -149,6 +152,10 @@ Groessenwahl::Groessenwahl(const QString& name, const QString& beschriftung, std
         Q_EMIT geaendert();
     });
 }
+
+int Groessenwahl::schildbreite() const { return schild_->sizeHint().width(); }
+
+void Groessenwahl::setzeSchildbreite(int breite) { schild_->setMinimumWidth(breite); }
 
 const Groesse& Groessenwahl::groesse() const {
     return groessen_[static_cast<std::size_t>(wahl_->currentIndex())];

@@ -10,6 +10,7 @@
 
 class QComboBox;
 class QGridLayout;
+class QLabel;
 
 namespace rippenscheibe {
 
@@ -42,6 +43,9 @@ class Groessenwahl : public QWidget {
                  const std::string& zuerst, QWidget* parent = nullptr);
 
     const Groesse& groesse() const;
+    // Choices below each other share the width of their captions.
+    int schildbreite() const;
+    void setzeSchildbreite(int breite);
     // The values from-to-step as decimal texts, or those of the list; a sentence when they cannot be.
     std::variant<Achse, std::string> achse() const;
 
@@ -54,6 +58,7 @@ class Groessenwahl : public QWidget {
 
     std::vector<Groesse> groessen_;
     QComboBox* wahl_;
+    QLabel* schild_;
     QWidget* felder_ = nullptr;
     Werteingabe* von_ = nullptr;
     Werteingabe* bis_ = nullptr;

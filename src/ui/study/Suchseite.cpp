@@ -14,7 +14,6 @@
 #include <utility>
 
 #include "basis/Zahlenformat.h"
-#include "files/Dateischreiber.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
@@ -56,12 +55,6 @@ double zielwert(const Auslegungsauftrag& a, Wand w) {
     if (a.ziel == Auslegungsziel::gewicht) return wandgewicht(w);
     const Mengensummen m = mengensummen(w, a.reihen);
     return m.verbindungsmittel[Seite::eins] + m.verbindungsmittel[Seite::zwei];
-}
-
-std::variant<Preise, std::string> preistabelle(const std::filesystem::path& ordner) {
-    const Dateiinhalt inhalt = liesDatei(ordner / preisdatei);
-    if (inhalt.fehler) return inhalt.fehler->text;
-    return Preise::aus(inhalt.bytes);
 }
 
 // Why the walls before the first design are none, or why none is.
@@ -255,7 +248,7 @@ void Suchseite::starte() {
     if (a == nullptr) return;
     preise_->clear();
     if (a->ziel == Auslegungsziel::kosten) {
-        auto gelesen = preistabelle(programm_.ordner);
+        auto gelesen = Preise::lade(programm_.ordner);
         if (const auto* fehler = std::get_if<std::string>(&gelesen)) {
             befund_->setText(QStringLiteral("! ") + qtext(*fehler));
             return;

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
@@ -10,6 +11,19 @@
 namespace rippenscheibe {
 
 namespace {
+
+// The words of the inputs, short as a column needs them; the whole stands in the tip.
+QString gekuerzt(QString text) {
+    const std::pair<const char*, const char*> kuerzel[] = {
+        {"Abstand der Verbindungsmittel", "av"},
+        {"Verbindungsmittel", "VM"},
+        {", Beplankung ", " Seite "},
+        {", beide Seiten", " beide Seiten"},
+        {"Rippenhöhe und Höhe der Innenrippen", "Rippenhöhe"},
+    };
+    for (const auto& [lang, kurz] : kuerzel) text.replace(QString::fromUtf8(lang), QString::fromUtf8(kurz));
+    return text;
+}
 
 // Whether a step makes a wall pass, or a passing wall less used.
 bool hilft(const Bewertung& schritt, const Bewertung& heute) {
@@ -60,7 +74,7 @@ void WasHilftSeite::zeige(const Wand& heute, const Hilfe& hilfe) {
                       QStringLiteral("Richtung")},
                      0);
     const auto zellen = [&](const QString& text, const Bewertung& b) {
-        return QList<Studienzelle>{{text},
+        return QList<Studienzelle>{{gekuerzt(text), false, {}, {}, text},
                                    ausnutzungszelle(b, regel_),
                                    {massgebendzelle(b, regel_)},
                                    {richtungstext(b, heute.Fvk.value())}};
