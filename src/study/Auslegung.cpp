@@ -186,19 +186,20 @@ Achse achse(const std::string& name, const std::vector<std::string>& werte) {
     return std::get<Achse>(achseAus(text, Grenzen::uebergehen));
 }
 
-// "av1" or "av1,av2".
-std::string beideSeitenNamen(const Eingaben& e, const std::string& name) {
-    return e.Einseitig ? name + "1" : name + "1," + name + "2";
+// "av1" or "av1,av2": side 2 moves along where the same can be set on it.
+std::string beideSeitenNamen(const Eingaben& e, const std::string& name, bool gleicheArt = true) {
+    return e.Einseitig || !gleicheArt ? name + "1" : name + "1," + name + "2";
 }
 
-// Rows of the catalogue for the kind of side 1, set on all sides in use.
+// Rows of the catalogue for the kind of side 1, set on all sides in use that have this kind.
 Achse katalogachse(const Eingaben& e) {
     const auto art = static_cast<Art>(e.VMArt[Seite::eins].value());
-    Achse a{{}, beideSeitenNamen(e, art == Art::naegel ? "VMTyp" : "VMKatalog"), {}};
+    const bool beide = !e.Einseitig && e.VMArt[Seite::zwei] == e.VMArt[Seite::eins];
+    Achse a{{}, beideSeitenNamen(e, art == Art::naegel ? "VMTyp" : "VMKatalog", beide), {}};
     const auto nimmAuf = [&](std::string text, const auto& setzt) {
         Achsenwert wert{std::move(text), {}};
         for (const Seite n : beideSeiten) {
-            if (n == Seite::zwei && e.Einseitig) continue;
+            if (n == Seite::zwei && !beide) continue;
             for (auto& zuweisung : setzt(n)) wert.setzt.push_back(std::move(zuweisung));
         }
         a.werte.push_back(std::move(wert));
@@ -326,7 +327,8 @@ std::vector<Standardachse> standardachsen(const Eingaben& e) {
     std::vector<std::string> t = ueblicheDicken(e.Material[Seite::eins].value());
     const std::string heute = zahltext(getippt(e, Seite::eins));
     if (std::find(t.begin(), t.end(), heute) == t.end()) t.push_back(heute);
-    achsen.push_back({"platte", achse(beideSeitenNamen(e, "Plattendicke"), t)});
+    const bool gleichePlatte = e.Material[Seite::eins] == e.Material[Seite::zwei];
+    achsen.push_back({"platte", achse(beideSeitenNamen(e, "Plattendicke", gleichePlatte), t)});
     achsen.push_back(
         {"rippenbreite", achse("bRandrippe,bInnenrippe", {"60", "80", "100", "120", "140", "160"})});
     achsen.push_back({"rippenhoehe", achse("hRandrippe,hInnenrippe",

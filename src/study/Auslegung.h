@@ -71,8 +71,9 @@ void setzeEntwurf(const Auslegungsauftrag& auftrag, std::size_t nummer, Pruefsta
 // The usual thicknesses of a board in mm, as text.
 std::vector<std::string> ueblicheDicken(int material);
 
-// Ranges that make sense for a wall, both sides together: spacing of the fasteners, rows of the catalogue of
-// the fasteners in use, thickness of the boards, width and depth of the ribs, strength class, anchor.
+// Ranges that make sense for a wall, both sides together where they have the same kind: spacing of the
+// fasteners, rows of the catalogue of the fasteners in use, thickness of the boards, width and depth of the
+// ribs, strength class, anchor.
 struct Standardachse {
     std::string_view name;  // "abstand"
     Achse achse;

@@ -293,5 +293,16 @@ TEST(Mengen, CountTimberBoardsFastenersAndAnchorsOfTheDefaultWall) {
     EXPECT_EQ(s.verbindungsmittel[S1] + s.verbindungsmittel[S2], m.verbindungsmittel[0].stueck);
 }
 
+TEST(Standardachsen, ASideOfAnotherKindKeepsItsOwnFastenerAndBoard) {
+    Eingaben e{};
+    const auto felder = [&](std::size_t achse) { return standardachsen(e)[achse].achse.name; };
+    EXPECT_EQ(felder(1), "VMTyp1,VMTyp2");
+    EXPECT_EQ(felder(2), "Plattendicke1,Plattendicke2");
+    e.VMArt[Seite::zwei] = 3;
+    e.Material[Seite::zwei] = 7;
+    EXPECT_EQ(felder(1), "VMTyp1");
+    EXPECT_EQ(felder(2), "Plattendicke1");
+}
+
 }  // namespace
 }  // namespace rippenscheibe

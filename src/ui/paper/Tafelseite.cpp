@@ -1,6 +1,7 @@
 #include "ui/paper/Tafelseite.h"
 
 #include <QBuffer>
+#include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QUuid>
@@ -40,7 +41,13 @@ const Textart ueberschrift{.faktor = 1.9, .fett = true};
 // Writes downwards on pages of the paper.
 class Blattschreiber {
   public:
-    explicit Blattschreiber(QPdfWriter& papier) : papier_(papier), painter_(&papier) { beginneSeite(); }
+    explicit Blattschreiber(QPagedPaintDevice& papier) : papier_(papier), painter_(&papier) {
+        // All is placed from the corner of the paper, at the same dots on every device.
+        const int punkte = papier.logicalDpiX();
+        painter_.translate(-papier.pageLayout().paintRectPixels(punkte).topLeft());
+        painter_.scale(static_cast<double>(punkte) / aufloesung, static_cast<double>(punkte) / aufloesung);
+        beginneSeite();
+    }
 
     void abstand(double mm) { y_ += mm; }
 
@@ -131,7 +138,7 @@ class Blattschreiber {
         z_->linie({rand, y_}, {breite - rand, y_}, Strich::mass, z_->stil().nebentinte);
     }
 
-    QPdfWriter& papier_;
+    QPagedPaintDevice& papier_;
     QPainter painter_;
     std::optional<Zeichner> z_;
     double y_ = rand;
@@ -157,6 +164,10 @@ void schreibe(Blattschreiber&& seite, const Tafelblatt& blatt, const Wand& wand)
 
 }  // namespace
 
+void druckeTafel(QPagedPaintDevice& drucker, const Tafelblatt& blatt, const Wand& wand) {
+    schreibe(Blattschreiber(drucker), blatt, wand);
+}
+
 QByteArray tafelPdf(const Tafelblatt& blatt, const Wand& wand) {
     QByteArray bytes;
     QBuffer puffer(&bytes);
@@ -170,7 +181,7 @@ QByteArray tafelPdf(const Tafelblatt& blatt, const Wand& wand) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     papier.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(positionstext(wand))));
 #endif
-    schreibe(Blattschreiber(papier), blatt, wand);
+    druckeTafel(papier, blatt, wand);
     return bytes;
 }
 

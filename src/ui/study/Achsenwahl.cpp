@@ -27,8 +27,10 @@ struct Aufschrift {
 };
 constexpr std::array<Aufschrift, 7> aufschriften{{
     {"abstand", "Abstand der Verbindungsmittel", "Beide Seiten haben denselben Abstand"},
-    {"verbindungsmittel", "Verbindungsmittel", "Zeilen des Katalogs, auf beiden Seiten dieselbe"},
-    {"platte", "Plattendicke", "Beide Seiten haben dieselbe Dicke"},
+    {"verbindungsmittel", "Verbindungsmittel",
+     "Zeilen des Katalogs, auf Seite 2 dieselbe, wenn sie dieselbe Art hat"},
+    {"platte", "Plattendicke",
+     "Dicke der Beplankung 1, auf Seite 2 dieselbe, wenn sie dasselbe Material hat"},
     {"rippenbreite", "Rippenbreite", "Rand- und Innenrippen haben dieselbe Breite"},
     {"rippenhoehe", "Rippenhöhe", "Rand- und Innenrippen haben dieselbe Höhe"},
     {"holz", "Festigkeitsklasse", "Festigkeitsklasse der Rippen"},
