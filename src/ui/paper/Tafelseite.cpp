@@ -90,8 +90,9 @@ class Blattschreiber {
         const double spalte = satzbreite / static_cast<double>(angabenspalten);
         platz(static_cast<double>(je) * h);
         for (std::size_t i = 0; i < angaben.size(); ++i) {
-            const QPointF ort(rand + static_cast<double>(i / je) * spalte,
-                              y_ + static_cast<double>(i % je) * h);
+            const std::size_t nummer = i / je;
+            const QPointF ort(rand + static_cast<double>(nummer) * spalte,
+                              y_ + static_cast<double>(i - nummer * je) * h);
             const QString text = qtext(angaben[i].first + " = " + angaben[i].second);
             z_->textPassend(ort, text, Qt::AlignLeft | Qt::AlignTop, spalte - 2, klein);
         }
@@ -147,7 +148,8 @@ class Blattschreiber {
 void schreibe(Blattschreiber&& seite, const Tafelblatt& blatt, const Wand& wand) {
     seite.absatz(blatt.titel, ueberschrift);
     seite.abstand(1);
-    for (const auto& [name, wert] : blatt.kopf) seite.absatz(name + ": " + wert, lauftext);
+    for (const auto& [name, wert] : blatt.kopf)
+        seite.absatz(std::string(name).append(": ").append(wert), lauftext);
     seite.abstand(2);
     seite.skizze(wand);
     seite.abstand(2);

@@ -76,6 +76,29 @@ QString befundtext(const Auslegungsauftrag& a, const Auslegungsergebnis& e) {
                       .arg(ganzzahltext(raus), QString::fromUtf8(worte(a.ziel).kleinere), gruende);
 }
 
+// What a design sets in the wall of today.
+Zuweisungen entwurfsaenderung(const Auslegungsauftrag& a, const Entwurf& entwurf, Pruefstand& stand) {
+    Zuweisungen setzt;
+    for (std::size_t i = 0; i < a.raster.achsen().size(); ++i)
+        for (const auto& zuweisung : a.raster.wert(entwurf.nummer, i).setzt) setzt.push_back(zuweisung);
+    if (a.eigengewicht) {
+        setzeEntwurf(a, entwurf.nummer, stand);
+        setzt.emplace_back(eingabeindex("gkWand"), stand.felder().zahl(eingabeindex("gkWand")));
+    }
+    return setzt;
+}
+
+// The axes on which some wall differs from that of today.
+std::vector<const Achse*> verschiedene(const Raster& raster, const std::vector<Wand>& waende,
+                                       const Wand& heute) {
+    std::vector<const Achse*> achsen;
+    for (const Achse& achse : raster.achsen())
+        if (std::any_of(waende.begin(), waende.end(),
+                        [&](const Wand& w) { return achsentext(achse, w) != achsentext(achse, heute); }))
+            achsen.push_back(&achse);
+    return achsen;
+}
+
 }  // namespace
 
 Suchseite::Suchseite(Programm& programm, QWidget* parent)
@@ -280,26 +303,14 @@ void Suchseite::zeige(const Fund& fund) {
 // The columns: rank and value, what decides, what differs from today in some design, quantities.
 void Suchseite::zeigeEntwuerfe(const Fund& fund, const std::vector<Entwurf>& entwuerfe) {
     const Auslegungsauftrag& a = fund.auftrag;
-    const Raster& raster = a.raster;
     Pruefstand stand(a.vorlage, a.materialien, a.regel);
     std::vector<Wand> waende;
     std::vector<Zuweisungen> aenderungen;
     for (const Entwurf& entwurf : entwuerfe) {
-        Zuweisungen setzt;
-        for (std::size_t i = 0; i < raster.achsen().size(); ++i)
-            for (const auto& zuweisung : raster.wert(entwurf.nummer, i).setzt) setzt.push_back(zuweisung);
-        if (a.eigengewicht) {
-            setzeEntwurf(a, entwurf.nummer, stand);
-            setzt.emplace_back(eingabeindex("gkWand"), stand.felder().zahl(eingabeindex("gkWand")));
-        }
-        waende.push_back(mitZuweisungen(fund.heute, setzt));
-        aenderungen.push_back(std::move(setzt));
+        aenderungen.push_back(entwurfsaenderung(a, entwurf, stand));
+        waende.push_back(mitZuweisungen(fund.heute, aenderungen.back()));
     }
-    std::vector<const Achse*> verschieden;
-    for (const Achse& achse : raster.achsen())
-        if (std::any_of(waende.begin(), waende.end(),
-                        [&](const Wand& w) { return achsentext(achse, w) != achsentext(achse, fund.heute); }))
-            verschieden.push_back(&achse);
+    const std::vector<const Achse*> verschieden = verschiedene(a.raster, waende, fund.heute);
     const bool mitAnkern = std::any_of(waende.begin(), waende.end(),
                                        [&](const Wand& w) { return mengensummen(w, a.reihen).anker > 0; });
 

@@ -24,7 +24,6 @@ class AuslegenTest : public Gerechnet {
     AuslegenTest() {
         rechne("zuganker");
         programm.leereSchritte();
-        QFile::copy(QStringLiteral(RIPPENSCHEIBE_BEISPIELE "/Preise.csv"), datei("Preise.csv"));
     }
     void imFenster(const std::function<void(QWidget&)>& bedienen) {
         EXPECT_TRUE(
@@ -47,7 +46,7 @@ class AuslegenTest : public Gerechnet {
 TEST_F(AuslegenTest, ASearchFindsWhatTheCoreFindsAndItsDesignCanBeTakenOverAndBack) {
     Auslegungsauftrag a{};
     a.vorlage = programm.w;
-    a.preise = std::get<Preise>(Preise::aus(liesDatei(pfad(datei("Preise.csv"))).bytes));
+    a.preise = std::get<Preise>(Preise::aus(geliefertePreise()));
     const auto achsen = standardachsen(a.vorlage);
     a.raster = Raster({achsen[0].achse, achsen[1].achse});
     const auto erwartet = std::get<Auslegungsergebnis>(legeAus(a, {}));
@@ -61,6 +60,7 @@ TEST_F(AuslegenTest, ASearchFindsWhatTheCoreFindsAndItsDesignCanBeTakenOverAndBa
                       qtext(formatiere("0.00", erwartet.entwuerfe[i].wert, dezimalzeichen())));
         const QString befund = finde<QLabel>(fenster, "Befund").text();
         EXPECT_TRUE(befund.contains(qtext(ausscheidegruende(erwartet)))) << befund.toStdString();
+        EXPECT_TRUE(finde<QLabel>(fenster, "Preise").text().contains("mitgelieferte Beispielpreise"));
         klicke(fenster, "Uebernehmen");
     });
     Wand beste;
