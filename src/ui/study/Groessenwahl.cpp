@@ -131,7 +131,8 @@ Groessenwahl::Groessenwahl(const QString& name, const QString& beschriftung, std
     wahl_->setObjectName(name);
     wahl_->setAccessibleName(QString(beschriftung).remove(QLatin1Char(':')).remove(QLatin1Char('&')));
     wahl_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    wahl_->setMinimumContentsLength(36);
+    wahl_->setMinimumContentsLength(30);
+    wahl_->setMinimumWidth(18 * wahl_->fontMetrics().averageCharWidth());
     int erste = 0;
     for (const Groesse& g : groessen_) {
         if (g.felder == zuerst) erste = wahl_->count();
@@ -194,8 +195,8 @@ Werteingabe* Groessenwahl::baueFeld(QGridLayout& zeile, const char* zusatz, cons
     const bool istSchritt = std::string_view(zusatz) == "Schritt";
     Wertvorgabe v;
     v.beschriftung = QString::fromUtf8(text);
-    v.einheit = qtext(angabe.einheit);
-    v.bereichseinheit = v.einheit;
+    v.einheit = istSchritt ? qtext(angabe.einheit) : QString();  // once behind the three
+    v.bereichseinheit = qtext(angabe.einheit);
     v.bezeichnung = feldname(g.indizes) + QLatin1Char(' ') + v.beschriftung;
     v.bedeutung = v.bezeichnung;
     v.min = istSchritt ? 0.001 : angabe.bereich.min;
@@ -203,6 +204,8 @@ Werteingabe* Groessenwahl::baueFeld(QGridLayout& zeile, const char* zusatz, cons
     v.maske = maske(istSchritt ? g.schritt : wert);
     auto* feld = new Werteingabe(wahl_->objectName() + QString::fromUtf8(zusatz), v, felder_);
     feld->setzeWert(wert);
+    feld->setMinimumWidth(48);
+    feld->setMaximumWidth(64);
     feld->setzeInZeile(&zeile, 0, 3 * (zeile.count() / 2));
     connect(feld, &Werteingabe::geaendert, this, &Groessenwahl::geaendert);
     return feld;
