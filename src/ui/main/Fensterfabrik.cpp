@@ -2,6 +2,8 @@
 
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
+#include "ui/folder/Lastfaelle.h"
+#include "ui/folder/Projektuebersicht.h"
 #include "ui/help/Form10_Randbedingungen.h"
 #include "ui/help/Form11_Ueberstaende.h"
 #include "ui/help/Form13_Systemkonfiguration.h"
@@ -24,8 +26,6 @@
 #include "ui/study/Auslegen.h"
 #include "ui/study/Bemessungstafel.h"
 #include "ui/study/Einfluss.h"
-#include "ui/study/Lastfaelle.h"
-#include "ui/study/Projektuebersicht.h"
 
 namespace rippenscheibe {
 

@@ -22,9 +22,9 @@
 #include "ui/basics/Zieldatei.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/paper/Tafelseite.h"
-#include "ui/study/Groessenwahl.h"
-#include "ui/study/Laufleiste.h"
 #include "ui/study/Tafelfarben.h"
+#include "ui/studyparts/Groessenwahl.h"
+#include "ui/studyparts/Laufleiste.h"
 
 namespace rippenscheibe {
 

@@ -5,8 +5,8 @@
 
 #include "study/Tafelblatt.h"
 #include "ui/basics/Fenster.h"
-#include "ui/study/Feldworte.h"
-#include "ui/study/Hintergrund.h"
+#include "ui/studyparts/Feldworte.h"
+#include "ui/studyparts/Hintergrund.h"
 
 class QLabel;
 class QTableWidget;

@@ -15,9 +15,9 @@
 #include "ui/drawings/Bildmenue.h"
 #include "ui/drawings/Kurvenansicht.h"
 #include "ui/drawings/Zeichnungsansicht.h"
-#include "ui/study/Feldworte.h"
-#include "ui/study/Groessenwahl.h"
-#include "ui/study/Studientabelle.h"
+#include "ui/studyparts/Feldworte.h"
+#include "ui/studyparts/Groessenwahl.h"
+#include "ui/studyparts/Studientabelle.h"
 
 namespace rippenscheibe {
 
@@ -34,8 +34,7 @@ double xWert(const Achse& achse, bool istListe, std::size_t i) {
 Achse mitHeute(const Achse& achse, const Wand& heute) {
     Wand kopie = heute;
     std::set<double> werte{Feldzugriff(kopie).zahl(achse.felder.front())};
-    if (const Feldeintrag& feld = eingabefeld(achse.felder.front());
-        feld.typ == Feldart::f32)
+    if (const Feldeintrag& feld = eingabefeld(achse.felder.front()); feld.typ == Feldart::f32)
         werte = {wieGetippt(static_cast<float>(*werte.begin()))};
     for (std::size_t i = 0; i < achse.werte.size(); ++i) werte.insert(xWert(achse, false, i));
     std::string text = achse.name + "=";

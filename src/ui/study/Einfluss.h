@@ -5,7 +5,7 @@
 #include "study/Variation.h"
 #include "ui/basics/Fenster.h"
 #include "ui/drawings/Kurvenbild.h"
-#include "ui/study/Hintergrund.h"
+#include "ui/studyparts/Hintergrund.h"
 
 class QLabel;
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "study/Auslegung.h"
-#include "ui/study/Feldworte.h"
-#include "ui/study/Hintergrund.h"
+#include "ui/studyparts/Feldworte.h"
+#include "ui/studyparts/Hintergrund.h"
 
 class QCheckBox;
 class QComboBox;

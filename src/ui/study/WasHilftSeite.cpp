@@ -6,7 +6,7 @@
 
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
-#include "ui/study/Wandauswahl.h"
+#include "ui/studyparts/Wandauswahl.h"
 
 namespace rippenscheibe {
 

@@ -3,8 +3,8 @@
 #include <QWidget>
 
 #include "study/WasHilft.h"
-#include "ui/study/Feldworte.h"
-#include "ui/study/Hintergrund.h"
+#include "ui/studyparts/Feldworte.h"
+#include "ui/studyparts/Hintergrund.h"
 
 class QLabel;
 

@@ -3,8 +3,8 @@
 #include <QSplitter>
 #include <vector>
 
-#include "ui/study/Feldworte.h"
-#include "ui/study/Studientabelle.h"
+#include "ui/studyparts/Feldworte.h"
+#include "ui/studyparts/Studientabelle.h"
 
 class QLabel;
 

@@ -1,4 +1,4 @@
-#include "ui/study/Projektmodell.h"
+#include "ui/folder/Projektmodell.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -11,7 +11,7 @@
 #include "run/Zuweisen.h"
 #include "ui/basics/Programm.h"
 #include "ui/drawings/Zeichnungen.h"
-#include "ui/study/Zellen.h"
+#include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
 #include "ui/verdict/Sofortrechnung.h"
 

@@ -1,4 +1,4 @@
-#include "ui/study/Projektuebersicht.h"
+#include "ui/folder/Projektuebersicht.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -30,12 +30,12 @@
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
+#include "ui/folder/Mengenseite.h"
+#include "ui/folder/Projektmodell.h"
 #include "ui/paper/PdfAusgabe.h"
 #include "ui/paper/Sammelpdf.h"
-#include "ui/study/Hintergrund.h"
-#include "ui/study/Mengenseite.h"
-#include "ui/study/Projektmodell.h"
-#include "ui/study/Zellen.h"
+#include "ui/studyparts/Hintergrund.h"
+#include "ui/studyparts/Zellen.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/study/Hintergrund.h"
+#include "ui/studyparts/Hintergrund.h"
 
 #include <exception>
 

@@ -1,4 +1,4 @@
-#include "ui/study/Achsenwahl.h"
+#include "ui/studyparts/Achsenwahl.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -14,7 +14,7 @@
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
-#include "ui/study/Feldworte.h"
+#include "ui/studyparts/Feldworte.h"
 
 namespace rippenscheibe {
 

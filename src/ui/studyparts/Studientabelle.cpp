@@ -1,4 +1,4 @@
-#include "ui/study/Studientabelle.h"
+#include "ui/studyparts/Studientabelle.h"
 
 #include <QHeaderView>
 #include <QPainter>

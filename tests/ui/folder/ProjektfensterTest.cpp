@@ -3,11 +3,11 @@
 #include <QtTest/QtTest>
 
 #include "support/Gerechnet.h"
+#include "ui/folder/Lastfaelle.h"
+#include "ui/folder/Lastfallmodell.h"
+#include "ui/folder/Projektmodell.h"
+#include "ui/folder/Projektuebersicht.h"
 #include "ui/main/Form1_Hauptfenster.h"
-#include "ui/study/Lastfaelle.h"
-#include "ui/study/Lastfallmodell.h"
-#include "ui/study/Projektmodell.h"
-#include "ui/study/Projektuebersicht.h"
 
 namespace rippenscheibe {
 namespace {

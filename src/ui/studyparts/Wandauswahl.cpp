@@ -1,4 +1,4 @@
-#include "ui/study/Wandauswahl.h"
+#include "ui/studyparts/Wandauswahl.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "ui/study/Lastfallmodell.h"
+#include "ui/folder/Lastfallmodell.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -8,7 +8,7 @@
 #include "study/Felder.h"
 #include "study/Lastfaelle.h"
 #include "ui/basics/Programm.h"
-#include "ui/study/Zellen.h"
+#include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
 #include "ui/verdict/Sofortrechnung.h"
 

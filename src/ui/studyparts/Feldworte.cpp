@@ -1,4 +1,4 @@
-#include "ui/study/Feldworte.h"
+#include "ui/studyparts/Feldworte.h"
 
 #include <algorithm>
 #include <array>

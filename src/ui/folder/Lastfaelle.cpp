@@ -1,4 +1,4 @@
-#include "ui/study/Lastfaelle.h"
+#include "ui/folder/Lastfaelle.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -14,8 +14,8 @@
 #include "study/Lastfaelle.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
-#include "ui/study/Lastfallmodell.h"
-#include "ui/study/Zellen.h"
+#include "ui/folder/Lastfallmodell.h"
+#include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
 #include "ui/verdict/Sofortrechnung.h"
 

@@ -1,4 +1,4 @@
-#include "ui/study/Zellen.h"
+#include "ui/studyparts/Zellen.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "ui/study/Groessenwahl.h"
+#include "ui/studyparts/Groessenwahl.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -16,7 +16,7 @@
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
-#include "ui/study/Feldworte.h"
+#include "ui/studyparts/Feldworte.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/study/Laufleiste.h"
+#include "ui/studyparts/Laufleiste.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,7 +12,7 @@
 #include "study/Bewertung.h"
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
-#include "ui/study/Hintergrund.h"
+#include "ui/studyparts/Hintergrund.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/study/Mengenseite.h"
+#include "ui/folder/Mengenseite.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
