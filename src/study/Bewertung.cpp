@@ -136,6 +136,23 @@ std::vector<std::string> Pruefstand::lueckensaetze() {
     return saetze;
 }
 
+std::vector<Abschnittsurteil> Pruefstand::abschnitte() {
+    uebernimmBemessungseingaben(wand_, stand_);
+    std::vector<Abschnittsurteil> groesste;
+    jederFall([&](int) {
+        const bool gerechnet = rechneFrisch(wand_) == Laufergebnis::gerechnet;
+        const auto neue = gerechnet ? abschnittsurteile(wand_) : std::vector<Abschnittsurteil>{};
+        if (groesste.empty() || !gerechnet) groesste = neue;
+        for (std::size_t i = 0; i < groesste.size(); ++i)
+            if (groesste[i].stand == Nachweisstand::keineBeanspruchung ||
+                groesste[i].groesster < neue[i].groesster)
+                groesste[i] = neue[i];
+        return gerechnet;
+    });
+    uebernimmBemessungseingaben(stand_, wand_);
+    return groesste;
+}
+
 double Pruefstand::gewicht() { return wandgewicht(wand_); }
 
 void Pruefstand::setzeEigengewicht() {

@@ -74,6 +74,10 @@ class Pruefstand {
     // The gaps of all runs as sentences, each once. Costs a run for each.
     std::vector<std::string> lueckensaetze();
 
+    // The sections of the proofs, each with its largest value of all directions and cases. Empty where
+    // findings stop one of them.
+    std::vector<Abschnittsurteil> abschnitte();
+
     // Self-weight of the wall in kN without insulation, and gkWand set to it.
     double gewicht();
     void setzeEigengewicht();

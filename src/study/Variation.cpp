@@ -19,7 +19,8 @@ Variationspunkt punkt(const Variationsauftrag& auftrag, Pruefstand& stand, std::
     p.bewertung = stand.bewerte();
     const bool gerechnet = p.bewertung.ausgang != Ausgang::hinweis;
     if (!p.bewertung.luecken.leer()) p.luecken = stand.lueckensaetze();
-    if (auftrag.felder.empty() && !auftrag.mitAbschnitten) return p;
+    if (auftrag.mitAbschnitten && gerechnet) p.abschnitte = stand.abschnitte();
+    if (auftrag.felder.empty()) return p;
     stand.rechneMassgebend(p.bewertung);
     for (const std::string& name : auftrag.felder) {
         std::string& wert = p.felder.emplace_back();
@@ -31,7 +32,6 @@ Variationspunkt punkt(const Variationsauftrag& auftrag, Pruefstand& stand, std::
             wert = "null";
         }
     }
-    if (auftrag.mitAbschnitten && gerechnet) p.abschnitte = abschnittsurteile(stand.wand());
     return p;
 }
 

@@ -21,16 +21,16 @@ struct Variationsauftrag {
     Bewertungsregel regel{};
     Raster raster{};
     std::vector<std::string> felder{};  // inputs and results to give back, by name
-    bool mitAbschnitten = false;        // one value a section of the proofs
+    bool mitAbschnitten = false;        // the largest value of each section of the proofs
 };
 
 struct Variationspunkt {
     std::size_t nummer = 0;  // in the grid
     Bewertung bewertung{};
     std::vector<std::string> luecken{};  // as sentences
-    // Of the first run in the direction and load case that govern; empty when findings stop it.
-    std::vector<std::string> felder{};  // as JSON values
-    std::vector<Abschnittsurteil> abschnitte{};
+    // Of the first run in the direction and load case that govern, as JSON values.
+    std::vector<std::string> felder{};
+    std::vector<Abschnittsurteil> abschnitte{};  // empty when findings stop a run
 };
 
 // Calls the visitor for each point in the order of the grid; false from it ends the work.
