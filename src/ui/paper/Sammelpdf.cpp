@@ -37,14 +37,13 @@ class Sammlung {
         if (lauf.gerechnet()) drucke(w, pfadtext(datei.position.datei.stem()));
     }
 
-    Sammelpdf schliesse(bool vollstaendig) {
-        ergebnis_.vollstaendig = vollstaendig;
+    Sammelpdf schliesse() {
         const Pdf datei = dokument_.schliesse();
         if (!datei.abgeschnitten.isEmpty())
             ergebnis_.meldungen.push_back(utf8(abgeschnittenText(datei.abgeschnitten)));
         ergebnis_.seiten = dokument_.seiten();
         ergebnis_.letzteSeite = datei.ergebnis.LetzteSeite.value_or(0);
-        if (vollstaendig && ergebnis_.gedruckt > 0) ergebnis_.bytes = datei.bytes;
+        if (ergebnis_.gedruckt > 0) ergebnis_.bytes = datei.bytes;
         return std::move(ergebnis_);
     }
 
@@ -71,14 +70,16 @@ class Sammlung {
 
 Sammelpdf sammelpdf(const Sammelauftrag& auftrag, const Ausfuehrung& ausfuehrung) {
     Sammlung sammlung(auftrag);
+    Sammelpdf angehalten;
+    angehalten.vollstaendig = false;
     std::size_t fertig = 0;
     for (const Projektdatei& datei : auftrag.dateien) {
-        if (ausfuehrung.halt.stop_requested()) return sammlung.schliesse(false);
+        if (ausfuehrung.halt.stop_requested()) return angehalten;
         sammlung.nimmAuf(datei);
         ++fertig;
         if (ausfuehrung.fortschritt) ausfuehrung.fortschritt({fertig, auftrag.dateien.size(), fertig});
     }
-    return sammlung.schliesse(true);
+    return sammlung.schliesse();
 }
 
 }  // namespace rippenscheibe
