@@ -24,6 +24,7 @@
 #include "ui/paper/Tafelseite.h"
 #include "ui/study/Tafelfarben.h"
 #include "ui/studyparts/Groessenwahl.h"
+#include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Laufleiste.h"
 
 namespace rippenscheibe {
@@ -97,9 +98,8 @@ QWidget* Bemessungstafel::baueKopf() {
                                  groessen(heute, true), zuerstGesucht(heute));
     zeilen_ = new Groessenwahl(QStringLiteral("Zeilen"), QStringLiteral("Zeilen:"),
                                vergroebert(groessen(heute), ersteZeilen), "Wandlaenge");
-    spalten_ =
-        new Groessenwahl(QStringLiteral("Spalten"), QStringLiteral("Spalten:"),
-                         vergroebert(groessen(heute), ersteSpalten), heute.Einseitig ? "av1" : "av1,av2");
+    spalten_ = new Groessenwahl(QStringLiteral("Spalten"), QStringLiteral("Spalten:"),
+                                vergroebert(groessen(heute), ersteSpalten), abstandsgroesse(heute));
     lauf_ = new Laufleiste(hintergrund_, QStringLiteral("Rechnen"), QStringLiteral("&Rechnen"),
                            QStringLiteral("Die Tafel wird gerechnet."));
     auto* kopf = new QWidget;
@@ -112,6 +112,9 @@ QWidget* Bemessungstafel::baueKopf() {
         wahl->setzeSchildbreite(groesste_->schildbreite());
         achsen->addWidget(wahl);
     }
+    lastfaelle_ = new Lastfallwahl(programm_, this);
+    connect(lastfaelle_, &QCheckBox::clicked, this, &Bemessungstafel::zeigeUmfang);
+    achsen->addWidget(lastfaelle_);
     zeile->addLayout(achsen);
     zeile->addWidget(lauf_, 1, Qt::AlignTop);
     return kopf;
@@ -194,6 +197,7 @@ std::variant<Tafelauftrag, QString> Bemessungstafel::auftrag() const {
     const Wand heute = studienwand(programm_);
     t.vorlage = heute;
     t.materialien = heute.eigeneMaterialien;
+    t.regel.lastfaelle = lastfaelle_->faelle(Raster({t.groesste, t.zeilen, t.spalten}));
     return t;
 }
 
@@ -203,9 +207,10 @@ void Bemessungstafel::zeigeUmfang() {
     const auto& t = std::get<Tafelauftrag>(wunsch);
     const std::size_t zellen = t.zeilen.werte.size() * t.spalten.werte.size();
     const std::size_t waende = zellen * t.groesste.werte.size();
+    const std::size_t laeufe = waende * std::max<std::size_t>(t.regel.lastfaelle.size(), 1);
     lauf_->setzeUmfang(QStringLiteral("%1 Felder, %2 Wände · %3")
                            .arg(ganzzahltext(zellen), ganzzahltext(waende),
-                                zeittext(static_cast<double>(waende) * jeWand_ / kernzahl())),
+                                zeittext(static_cast<double>(laeufe) * jeWand_ / kernzahl())),
                        true);
 }
 
@@ -235,9 +240,11 @@ void Bemessungstafel::zeige() {
         return zeigeZelle();
     }
     const Tafelauftrag& t = stand_.auftrag;
-    titel_->setText(
-        QStringLiteral("Größter Wert: %1. Zeilen: %2. Spalten: %3.")
-            .arg(mitEinheit(t.groesste.felder), mitEinheit(t.zeilen.felder), mitEinheit(t.spalten.felder)));
+    const std::size_t faelle = t.regel.lastfaelle.size();
+    titel_->setText(QStringLiteral("Größter Wert: %1. Zeilen: %2. Spalten: %3.%4")
+                        .arg(mitEinheit(t.groesste.felder), mitEinheit(t.zeilen.felder),
+                             mitEinheit(t.spalten.felder),
+                             faelle == 0 ? QString() : QStringLiteral(" Mit %1 Lastfällen.").arg(faelle)));
     const auto texte = tafelzeilen(t, stand_.tafel, dezimalzeichen());
     const std::vector<std::string> alle = massgebende(stand_.tafel);
     const auto kopf = [](const Achse& achse) {

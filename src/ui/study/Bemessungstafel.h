@@ -14,6 +14,7 @@ class QTableWidget;
 namespace rippenscheibe {
 
 class Groessenwahl;
+class Lastfallwahl;
 class Laufleiste;
 class Zeichnungsansicht;
 
@@ -55,6 +56,7 @@ class Bemessungstafel : public Fenster {
     Groessenwahl* groesste_ = nullptr;
     Groessenwahl* zeilen_ = nullptr;
     Groessenwahl* spalten_ = nullptr;
+    Lastfallwahl* lastfaelle_ = nullptr;
     Laufleiste* lauf_ = nullptr;
     QLabel* titel_ = nullptr;
     QTableWidget* tabelle_ = nullptr;

@@ -1,5 +1,6 @@
 #include "ui/study/Einfluss.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -17,6 +18,7 @@
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/studyparts/Feldworte.h"
 #include "ui/studyparts/Groessenwahl.h"
+#include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Studientabelle.h"
 
 namespace rippenscheibe {
@@ -34,7 +36,7 @@ double xWert(const Achse& achse, bool istListe, std::size_t i) {
 Achse mitHeute(const Achse& achse, const Wand& heute) {
     Wand kopie = heute;
     std::set<double> werte{Feldzugriff(kopie).zahl(achse.felder.front())};
-    if (const Feldeintrag& feld = eingabefeld(achse.felder.front()); feld.typ == Feldart::f32)
+    if (eingabefeld(achse.felder.front()).typ == Feldart::f32)
         werte = {wieGetippt(static_cast<float>(*werte.begin()))};
     for (std::size_t i = 0; i < achse.werte.size(); ++i) werte.insert(xWert(achse, false, i));
     std::string text = achse.name + "=";
@@ -112,8 +114,8 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
     : Fenster(programm, meldungen, parent, QStringLiteral("Einfluss"), QStringLiteral("  Einfluss"),
               Tippen::aendertNichts),
       wahl_(new Groessenwahl(QStringLiteral("Groesse"), QStringLiteral("Eingabe:"),
-                             groessen(studienwand(programm)), programm.w.Einseitig ? "av1" : "av1,av2",
-                             this)),
+                             groessen(studienwand(programm)), abstandsgroesse(programm.w), this)),
+      lastfaelle_(new Lastfallwahl(programm, this)),
       stand_(new QLabel(this)),
       kurven_(new Kurvenansicht),
       ansicht_(new Zeichnungsansicht(Zeichnung::ansicht)) {
@@ -131,7 +133,11 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
     teiler->setSizes({760, 380});
     teiler->setStretchFactor(0, 1);
     inhalt()->addWidget(wahl_);
-    inhalt()->addWidget(stand_);
+    auto* zeile = new QHBoxLayout;
+    zeile->setSpacing(3 * raster);
+    zeile->addWidget(lastfaelle_);
+    zeile->addWidget(stand_, 1);
+    inhalt()->addLayout(zeile);
     inhalt()->addWidget(teiler, 1);
 
     bild_ = schaltflaeche(QStringLiteral("Bild"), QStringLiteral("&Bild ..."));
@@ -142,6 +148,7 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
     zurueck(QStringLiteral("Command1"));
 
     connect(wahl_, &Groessenwahl::geaendert, this, &Einfluss::rechne);
+    connect(lastfaelle_, &QCheckBox::clicked, this, &Einfluss::rechne);
     connect(&programm, &Programm::geaendert, this, &Einfluss::rechne);
     connect(kurven_, &Kurvenansicht::markeBewegt, this, &Einfluss::zeigeMarke);
     connect(bild_, &QPushButton::clicked, this, &Einfluss::oeffneBildmenue);
@@ -175,7 +182,7 @@ QWidget* Einfluss::baueWand() {
     wert_->setMinimumHeight(2 * fontMetrics().lineSpacing());
     grund_->setMinimumHeight(4 * fontMetrics().lineSpacing());
     grund_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    ansicht_->setMinimumSize(260, 180);
+    ansicht_->setMinimumSize(320, 160);
     ansicht_->setzeDezimalzeichen(dezimalzeichen());
     spalte->addWidget(ansicht_, 1);
     return seite;
@@ -190,6 +197,7 @@ void Einfluss::rechne() {
     }
     Verlauf verlauf{studienwand(programm_), std::get<Achse>(gelesen), wahl_->groesse().istListe(), {}, {}};
     if (!verlauf.istListe) verlauf.achse = mitHeute(verlauf.achse, verlauf.heute);
+    verlauf.regel.lastfaelle = lastfaelle_->faelle(Raster({verlauf.achse}));
     if (verlauf.achse.werte.size() > hoechstensWerte) {
         hintergrund_.verwirf();
         stand_->setText(QStringLiteral("! Es sind mehr als %1 Werte.").arg(hoechstensWerte));
@@ -217,11 +225,14 @@ void Einfluss::zeige(Verlauf verlauf) {
     const auto bestehen =
         std::count_if(verlauf_.punkte.begin(), verlauf_.punkte.end(),
                       [](const Variationspunkt& p) { return p.bewertung.ausgang == Ausgang::besteht; });
-    stand_->setText(QStringLiteral("%1 von %2 Werten bestehen; jeder für sich in beiden Richtungen von Fv "
-                                   "gerechnet. Die Marke lässt sich ziehen.")
-                        .arg(bestehen)
-                        .arg(verlauf_.punkte.size()));
-    const double marke = std::isfinite(heute) ? heute : daten_.x.front();
+    stand_->setText(
+        QStringLiteral("%1 von %2 Werten bestehen; jeder ist in beiden Richtungen von Fv gerechnet. "
+                       "Die Marke lässt sich ziehen.")
+            .arg(bestehen)
+            .arg(verlauf_.punkte.size()));
+    Wand wand = verlauf_.heute;
+    const double naechster = verlauf_.istListe ? 0 : Feldzugriff(wand).zahl(verlauf_.achse.felder.front());
+    const double marke = std::isfinite(heute) ? heute : naechster;
     kurven_->setze(daten_, marke);
     zeigeMarke(marke);
 }
@@ -258,12 +269,18 @@ void Einfluss::zeigeUrteil(const Variationspunkt& punkt) {
     QPalette farben = palette();
     farben.setColor(QPalette::WindowText, urteilsfarbe(palette(), art));
     urteil_->setPalette(farben);
-    QStringList zeilen{massgebendzelle(b, verlauf_.regel)};
-    if (const QString richtung = richtungstext(b, verlauf_.heute.Fvk.value());
+    const Studienzelle massgebend = massgebendzelle(b, verlauf_.regel);
+    QStringList zeilen{massgebend.tip.isEmpty() ? massgebend.text : massgebend.tip};
+    if (const QString richtung = richtungstext(b, verlauf_.regel, verlauf_.heute.Fvk.value());
         richtung != QStringLiteral("–"))
         zeilen.front() += QStringLiteral(" · ") + richtung;
-    for (const std::string& luecke : punkt.luecken) zeilen << QStringLiteral("! ") + qtext(luecke);
+    if (!punkt.luecken.empty()) zeilen << QStringLiteral("! ") + qtext(punkt.luecken.front());
+    if (punkt.luecken.size() > 1)
+        zeilen.back() += QStringLiteral(" (und %1 weitere)").arg(punkt.luecken.size() - 1);
     grund_->setText(zeilen.join(QLatin1Char('\n')));
+    QStringList luecken;
+    for (const std::string& luecke : punkt.luecken) luecken << qtext(luecke);
+    grund_->setToolTip(luecken.join(QLatin1Char('\n')));
 }
 
 void Einfluss::oeffneBildmenue() {

@@ -13,6 +13,7 @@ namespace rippenscheibe {
 
 class Groessenwahl;
 class Kurvenansicht;
+class Lastfallwahl;
 class Zeichnungsansicht;
 
 // The points of one axis as curves: a section of the proofs each, without demand none. The values of a list
@@ -49,6 +50,7 @@ class Einfluss : public Fenster {
     Verlauf verlauf_;
     Kurvendaten daten_;
     Groessenwahl* wahl_;
+    Lastfallwahl* lastfaelle_;
     QLabel* stand_;
     Kurvenansicht* kurven_;
     Zeichnungsansicht* ansicht_;

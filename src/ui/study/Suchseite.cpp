@@ -18,6 +18,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
 #include "ui/studyparts/Achsenwahl.h"
+#include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Laufleiste.h"
 #include "ui/studyparts/Wandauswahl.h"
 
@@ -204,8 +205,11 @@ QWidget* Suchseite::baueBedingungen() {
                      "Auch Wände, bei denen etwas Gefordertes nicht nachgewiesen ist", false);
     eigengewicht_ = haken("Eigengewicht", "Eigengewicht folgt der Wand",
                           "Das Eigengewicht gk,Wand wird für jede Wand neu gebildet", false);
+    lastfaelle_ = new Lastfallwahl(programm_);
+    connect(lastfaelle_, &QCheckBox::clicked, this, &Suchseite::zeigeUmfang);
     int nummer = 3;
-    for (QCheckBox* feld : {richtungen_, luecken_, eigengewicht_}) grid->addWidget(feld, nummer++, 0, 1, 3);
+    for (QCheckBox* feld : {static_cast<QCheckBox*>(lastfaelle_), richtungen_, luecken_, eigengewicht_})
+        grid->addWidget(feld, nummer++, 0, 1, 3);
     return rahmen;
 }
 
@@ -247,6 +251,7 @@ std::variant<Auslegungsauftrag, QString> Suchseite::auftrag() const {
     a.regel.beideRichtungen = richtungen_->isChecked();
     a.regel.mitLuecken = luecken_->isChecked();
     a.regel.hoechstens = hoechstens_->wert();
+    a.regel.lastfaelle = lastfaelle_->faelle();
     a.raster = Raster(std::move(achsen));
     a.ziel = static_cast<Auslegungsziel>(ziel_->currentIndex());
     a.eigengewicht = eigengewicht_->isChecked();
@@ -258,8 +263,10 @@ void Suchseite::zeigeUmfang() {
     if (lauf_ == nullptr) return;
     const auto wunsch = auftrag();
     if (const auto* satz = std::get_if<QString>(&wunsch)) return lauf_->setzeUmfang(*satz, false);
-    const std::size_t anzahl = std::get<0>(wunsch).raster.anzahl();
-    const double dauer = static_cast<double>(anzahl) * jeKandidat_ / kernzahl();
+    const auto& a = std::get<0>(wunsch);
+    const std::size_t anzahl = a.raster.anzahl();
+    const std::size_t laeufe = anzahl * std::max<std::size_t>(a.regel.lastfaelle.size(), 1);
+    const double dauer = static_cast<double>(laeufe) * jeKandidat_ / kernzahl();
     lauf_->setzeUmfang(QStringLiteral("%1 Kandidaten · %2").arg(ganzzahltext(anzahl), zeittext(dauer)), true);
 }
 
@@ -300,7 +307,7 @@ void Suchseite::zeige(const Fund& fund) {
     zeigeEntwuerfe(fund, ergebnis.entwuerfe.empty() ? ergebnis.knappVerfehlt : ergebnis.entwuerfe);
 }
 
-// The columns: rank and value, what decides, what differs from today in some design, quantities.
+// The columns: rank and value, what differs from today in some design, what decides, quantities.
 void Suchseite::zeigeEntwuerfe(const Fund& fund, const std::vector<Entwurf>& entwuerfe) {
     const Auslegungsauftrag& a = fund.auftrag;
     Pruefstand stand(a.vorlage, a.materialien, a.regel);
@@ -315,20 +322,20 @@ void Suchseite::zeigeEntwuerfe(const Fund& fund, const std::vector<Entwurf>& ent
                                        [&](const Wand& w) { return mengensummen(w, a.reihen).anker > 0; });
 
     QStringList spalten{QStringLiteral("Rang"), QString::fromUtf8(worte(a.ziel).spalte),
-                        QStringLiteral("Ausnutzung"), QStringLiteral("maßgebend"),
-                        QStringLiteral("Richtung")};
+                        QStringLiteral("Ausnutzung")};
     for (const Achse* achse : verschieden) spalten << spaltenname(achse->felder);
-    spalten << QStringLiteral("VM [Stück]") << QStringLiteral("Holz [m³]") << QStringLiteral("Platten [m²]");
+    const auto massgebend = static_cast<int>(spalten.size());
+    spalten << QStringLiteral("maßgebend") << QStringLiteral("Richtung") << QStringLiteral("VM [Stück]")
+            << QStringLiteral("Holz [m³]") << QStringLiteral("Platten [m²]");
     if (mitAnkern) spalten << QStringLiteral("Anker");
-    entwuerfe_->beginne(fund.heute, spalten, 3);
+    entwuerfe_->beginne(fund.heute, spalten, massgebend);
 
     const auto zellen = [&](const QString& rang, double wert, const Bewertung& b, const Wand& w) {
-        QList<Studienzelle> zeile{{rang},
-                                  {zahl(worte(a.ziel).maske, wert), true},
-                                  ausnutzungszelle(b, a.regel),
-                                  {massgebendzelle(b, a.regel)},
-                                  {richtungstext(b, fund.heute.Fvk.value())}};
+        QList<Studienzelle> zeile{
+            {rang}, {zahl(worte(a.ziel).maske, wert), true}, ausnutzungszelle(b, a.regel)};
         for (const Achse* achse : verschieden) zeile << Studienzelle{achsentext(*achse, w)};
+        zeile << massgebendzelle(b, a.regel)
+              << Studienzelle{richtungstext(b, a.regel, fund.heute.Fvk.value())};
         const Mengensummen m = mengensummen(w, a.reihen);
         zeile << Studienzelle{zahl("0", m.verbindungsmittel[Seite::eins] + m.verbindungsmittel[Seite::zwei]),
                               true}

@@ -17,6 +17,7 @@ class QSpinBox;
 namespace rippenscheibe {
 
 class Achsenwahl;
+class Lastfallwahl;
 class Laufleiste;
 class Programm;
 class Wandauswahl;
@@ -63,6 +64,7 @@ class Suchseite : public QWidget {
     QCheckBox* richtungen_ = nullptr;
     QCheckBox* luecken_ = nullptr;
     QCheckBox* eigengewicht_ = nullptr;
+    Lastfallwahl* lastfaelle_ = nullptr;
     Laufleiste* lauf_ = nullptr;
     QLabel* preise_ = nullptr;
     QLabel* befund_ = nullptr;

@@ -2,10 +2,12 @@
 
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
+#include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Wandauswahl.h"
 
 namespace rippenscheibe {
@@ -25,10 +27,21 @@ QString gekuerzt(QString text) {
     return text;
 }
 
-// Whether a step makes a wall pass, or a passing wall less used.
-bool hilft(const Bewertung& schritt, const Bewertung& heute) {
-    return schritt.ausgang == Ausgang::besteht &&
-           (heute.ausgang != Ausgang::besteht || schritt.maxEta < heute.maxEta);
+// How many steps lower the utilisation, and whether one of them is enough.
+QString befund(const Hilfe& hilfe) {
+    const auto zaehle = [&](const auto& merkmal) {
+        return std::count_if(hilfe.schritte.begin(), hilfe.schritte.end(),
+                             [&](const Hilfeschritt& s) { return merkmal(s.bewertung); });
+    };
+    const auto bessere = zaehle(
+        [&](const Bewertung& b) { return b.ausgang != Ausgang::hinweis && b.maxEta < hilfe.heute.maxEta; });
+    const auto genuegende = zaehle([](const Bewertung& b) { return b.ausgang == Ausgang::besteht; });
+    QString text =
+        QStringLiteral("%1 nächste Schritte, jeder für sich gerechnet; ").arg(hilfe.schritte.size());
+    if (hilfe.heute.ausgang != Ausgang::hinweis)
+        text += QStringLiteral("%1 davon verringern die Ausnutzung, ").arg(bessere);
+    return text + (genuegende == 0 ? QStringLiteral("keiner genügt allein.")
+                                   : QStringLiteral("mit %1 davon besteht die Wand.").arg(genuegende));
 }
 
 }  // namespace
@@ -37,6 +50,7 @@ WasHilftSeite::WasHilftSeite(Programm& programm, QWidget* parent)
     : QWidget(parent),
       programm_(programm),
       stand_(new QLabel(this)),
+      lastfaelle_(new Lastfallwahl(programm, this)),
       waende_(new Wandauswahl(QStringLiteral("Schritte"), QStringLiteral("Nächste Schritte"), Qt::Horizontal,
                               this)) {
     stand_->setObjectName(QStringLiteral("SchritteStand"));
@@ -45,8 +59,10 @@ WasHilftSeite::WasHilftSeite(Programm& programm, QWidget* parent)
     auto* spalte = new QVBoxLayout(this);
     spalte->setSpacing(Fenster::raster);
     spalte->addWidget(stand_);
+    spalte->addWidget(lastfaelle_);
     spalte->addWidget(waende_, 1);
     connect(waende_, &Wandauswahl::auswahlGeaendert, this, &WasHilftSeite::auswahlGeaendert);
+    connect(lastfaelle_, &QCheckBox::clicked, this, &WasHilftSeite::rechne);
     connect(&programm_, &Programm::geaendert, this, [this] {
         if (isVisible()) rechne();
     });
@@ -61,6 +77,7 @@ void WasHilftSeite::showEvent(QShowEvent* event) {
 
 void WasHilftSeite::rechne() {
     const Wand heute = studienwand(programm_);
+    regel_.lastfaelle = lastfaelle_->faelle();
     hintergrund_.starte(
         [heute, regel = regel_](const Ausfuehrung& a) {
             return wasHilft(heute, heute.eigeneMaterialien, regel, a);
@@ -76,19 +93,13 @@ void WasHilftSeite::zeige(const Wand& heute, const Hilfe& hilfe) {
     const auto zellen = [&](const QString& text, const Bewertung& b) {
         return QList<Studienzelle>{{gekuerzt(text), false, {}, {}, text},
                                    ausnutzungszelle(b, regel_),
-                                   {massgebendzelle(b, regel_)},
-                                   {richtungstext(b, heute.Fvk.value())}};
+                                   massgebendzelle(b, regel_),
+                                   {richtungstext(b, regel_, heute.Fvk.value())}};
     };
     waende_->fuegeHeuteAn(zellen(QStringLiteral("heute"), hilfe.heute));
-    int helfende = 0;
-    for (const Hilfeschritt& schritt : hilfe.schritte) {
+    for (const Hilfeschritt& schritt : hilfe.schritte)
         waende_->fuegeAn(zellen(aenderungstext(heute, schritt.setzt), schritt.bewertung), schritt.setzt);
-        if (hilft(schritt.bewertung, hilfe.heute)) ++helfende;
-    }
-    stand_->setText(QStringLiteral("%1 nächste Schritte, jeder für sich gerechnet; %2.")
-                        .arg(hilfe.schritte.size())
-                        .arg(helfende == 1 ? QStringLiteral("1 davon hilft")
-                                           : QStringLiteral("%1 davon helfen").arg(helfende)));
+    stand_->setText(befund(hilfe));
     waende_->schliesseAb();
 }
 

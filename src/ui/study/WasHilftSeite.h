@@ -10,6 +10,7 @@ class QLabel;
 
 namespace rippenscheibe {
 
+class Lastfallwahl;
 class Programm;
 class Wandauswahl;
 
@@ -36,6 +37,7 @@ class WasHilftSeite : public QWidget {
     Programm& programm_;
     Bewertungsregel regel_;
     QLabel* stand_;
+    Lastfallwahl* lastfaelle_;
     Wandauswahl* waende_;
     Hintergrund hintergrund_;  // the last: it stops before the others go
 };

@@ -122,6 +122,10 @@ std::vector<Groesse> groessen(const Wand& w, bool nurZahlen) {
     return alle;
 }
 
+std::string abstandsgroesse(const Wand& w) {
+    return w.Einseitig || w.av[Seite::eins] != w.av[Seite::zwei] ? "av1" : "av1,av2";
+}
+
 Groessenwahl::Groessenwahl(const QString& name, const QString& beschriftung, std::vector<Groesse> groessen,
                            const std::string& zuerst, QWidget* parent)
     : QWidget(parent),
@@ -130,8 +134,9 @@ Groessenwahl::Groessenwahl(const QString& name, const QString& beschriftung, std
       schild_(new QLabel(beschriftung, this)) {
     wahl_->setObjectName(name);
     wahl_->setAccessibleName(QString(beschriftung).remove(QLatin1Char(':')).remove(QLatin1Char('&')));
+    wahl_->setToolTip(QStringLiteral("Diese Eingabe ändert sich; alle anderen bleiben, wie sie sind"));
     wahl_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    wahl_->setMinimumContentsLength(30);
+    wahl_->setMinimumContentsLength(38);
     wahl_->setMinimumWidth(18 * wahl_->fontMetrics().averageCharWidth());
     int erste = 0;
     for (const Groesse& g : groessen_) {

@@ -32,6 +32,9 @@ struct Groesse {
 // lists.
 std::vector<Groesse> groessen(const Wand& w, bool nurZahlen = false);
 
+// The spacing of the fasteners, both sides together where they have the same: what is varied at first.
+std::string abstandsgroesse(const Wand& w);
+
 // Chooses one of them and its range.
 class Groessenwahl : public QWidget {
     Q_OBJECT

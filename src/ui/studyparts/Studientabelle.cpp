@@ -1,63 +1,25 @@
 #include "ui/studyparts/Studientabelle.h"
 
 #include <QHeaderView>
-#include <QPainter>
-#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "ui/basics/Programm.h"
+#include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Sofortrechnung.h"
 
 namespace rippenscheibe {
 
 namespace {
 
-enum Rolle { Eta = Qt::UserRole, Urteilsart, Nummer };
+constexpr int Nummer = Ausnutzungszelle::Urteil + 1;
 
-constexpr int rand = 6;  // px
-constexpr int balkenhoehe = 8;
-
-// A bar, then the text with the sign of its verdict.
-class Balkenzelle : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        QSize groesse = QStyledItemDelegate::sizeHint(option, index);
-        groesse.setHeight(option.fontMetrics.height() + rand);
-        if (index.data(Eta).isValid()) groesse.rwidth() = 60 + textbreite(option) + 3 * rand;
-        return groesse;
-    }
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override {
-        if (!index.data(Eta).isValid()) return QStyledItemDelegate::paint(painter, option, index);
-        QStyleOptionViewItem leer = option;
-        initStyleOption(&leer, index);
-        leer.text.clear();
-        option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &leer, painter, option.widget);
-        painter->save();
-        painter->setFont(leer.font);
-        const auto urteil = static_cast<Balkenurteil>(index.data(Urteilsart).toInt());
-        const QRect flaeche = option.rect.adjusted(rand, 0, -rand, 0);
-        const int text = textbreite(option);
-        const QRect balken(flaeche.left(), flaeche.center().y() - balkenhoehe / 2,
-                           flaeche.width() - text - rand, balkenhoehe);
-        maleBalken(*painter, balken, index.data(Eta).toDouble(), urteil, option.palette);
-        const QRect worte(flaeche.right() - text, flaeche.top(), text, flaeche.height());
-        const bool hervor = option.state & QStyle::State_Selected;
-        painter->setPen(option.palette.color(hervor ? QPalette::HighlightedText : QPalette::Text));
-        painter->drawText(worte, Qt::AlignVCenter | Qt::AlignLeft, index.data(Qt::DisplayRole).toString());
-        if (!hervor) painter->setPen(urteilsfarbe(option.palette, urteil));
-        painter->drawText(worte, Qt::AlignVCenter | Qt::AlignRight, urteilszeichen(urteil));
-        painter->restore();
-    }
-
-  private:
-    static int textbreite(const QStyleOptionViewItem& option) {
-        return option.fontMetrics.horizontalAdvance(QStringLiteral("0,0000  ✓"));
-    }
-};
+// The horizontal load of the case that governs.
+double horizontallast(const Bewertung& bewertung, const Bewertungsregel& regel, double Fvk) {
+    if (bewertung.lastfall < 0) return Fvk;
+    for (const auto& [feld, wert] : regel.lastfaelle[static_cast<std::size_t>(bewertung.lastfall)].werte)
+        if (feld == eingabeindex("Fvk")) return std::get<double>(wert);
+    return Fvk;
+}
 
 }  // namespace
 
@@ -65,7 +27,8 @@ Studientabelle::Studientabelle(const QString& name, const QString& bezeichnung, 
     : QTreeWidget(parent) {
     setObjectName(name);
     setAccessibleName(bezeichnung);
-    setItemDelegate(new Balkenzelle(this));
+    setAccessibleDescription(QStringLiteral("Eine Wand je Zeile; die gewählte wird gezeichnet"));
+    setItemDelegate(new Ausnutzungszelle(this));
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
@@ -92,8 +55,8 @@ void Studientabelle::fuegeZeileAn(const QList<Studienzelle>& zellen, int nummer,
         zeile->setTextAlignment(spalte, Qt::AlignVCenter | (zelle.zahl ? Qt::AlignRight : Qt::AlignLeft));
         zeile->setToolTip(spalte, zelle.tip.isEmpty() ? zelle.text : zelle.tip);
         if (zelle.eta) {
-            zeile->setData(spalte, Eta, *zelle.eta);
-            zeile->setData(spalte, Urteilsart, static_cast<int>(zelle.urteil));
+            zeile->setData(spalte, Ausnutzungszelle::Eta, *zelle.eta);
+            zeile->setData(spalte, Ausnutzungszelle::Urteil, static_cast<int>(zelle.urteil));
             zeile->setData(spalte, Qt::AccessibleTextRole,
                            QStringLiteral("%1, %2").arg(zelle.text, urteilswort(zelle.urteil)));
         }
@@ -105,15 +68,27 @@ void Studientabelle::fuegeZeileAn(const QList<Studienzelle>& zellen, int nummer,
     addTopLevelItem(zeile);
 }
 
-void Studientabelle::schliesseAb() {
+// Columns as wide as their texts; what does not fit the table is reached by scrolling.
+void Studientabelle::verteileBreiten() {
     constexpr int hoechstens = 240;  // px; what is longer stands in its tip
-    header()->setStretchLastSection(false);
+    int rest = viewport()->width();
     for (int spalte = 0; spalte < columnCount(); ++spalte) {
-        header()->setSectionResizeMode(spalte,
-                                       spalte == breit_ ? QHeaderView::Stretch : QHeaderView::Interactive);
         const int bedarf = std::max(sizeHintForColumn(spalte), header()->sectionSizeHint(spalte));
-        if (spalte != breit_) header()->resizeSection(spalte, std::min(bedarf, hoechstens));
+        header()->resizeSection(spalte, std::min(bedarf, hoechstens));
+        rest -= header()->sectionSize(spalte);
     }
+    if (rest > 0 && breit_ < columnCount())
+        header()->resizeSection(breit_, header()->sectionSize(breit_) + rest);
+}
+
+void Studientabelle::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    verteileBreiten();
+}
+
+void Studientabelle::schliesseAb() {
+    header()->setStretchLastSection(false);
+    verteileBreiten();
     QTreeWidgetItem* erste = topLevelItem(0);
     for (int zeile = 0; zeile < topLevelItemCount(); ++zeile)
         if (topLevelItem(zeile)->data(0, Nummer).toInt() >= 0) {
@@ -149,15 +124,18 @@ Studienzelle ausnutzungszelle(const Bewertung& bewertung, const Bewertungsregel&
     return zelle;
 }
 
-QString massgebendzelle(const Bewertung& bewertung, const Bewertungsregel& regel) {
+Studienzelle massgebendzelle(const Bewertung& bewertung, const Bewertungsregel& regel) {
     if (bewertung.ausgang == Ausgang::hinweis || bewertung.ausgang == Ausgang::luecke)
-        return qtext(scheitertAn(bewertung, regel));
-    return bewertung.massgebend ? qtext(massgebendText(bewertung, regel))
-                                : QStringLiteral("ohne Beanspruchung");
+        return {qtext(scheitertAn(bewertung, regel))};
+    if (!bewertung.massgebend) return {QStringLiteral("ohne Beanspruchung")};
+    Studienzelle zelle{qtext(*bewertung.massgebend)};
+    zelle.tip = qtext(massgebendText(bewertung, regel));
+    return zelle;
 }
 
-QString richtungstext(const Bewertung& bewertung, double Fvk) {
-    if (!bewertung.massgebend || bewertung.ausgang == Ausgang::hinweis || Fvk == 0)
+QString richtungstext(const Bewertung& bewertung, const Bewertungsregel& regel, double Fvk) {
+    if (!bewertung.massgebend || bewertung.ausgang == Ausgang::hinweis ||
+        horizontallast(bewertung, regel, Fvk) == 0)
         return QStringLiteral("–");
     return bewertung.nachLinks ? QStringLiteral("← −Fv,k") : QStringLiteral("→ +Fv,k");
 }

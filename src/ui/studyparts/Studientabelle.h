@@ -25,7 +25,7 @@ class Studientabelle : public QTreeWidget {
   public:
     Studientabelle(const QString& name, const QString& bezeichnung, QWidget* parent = nullptr);
 
-    // Empties it. The column `breit` takes the room that is left.
+    // Empties it. The column `breit` takes the room that is left, if any.
     void beginne(const QStringList& spalten, int breit);
     // `nummer` is what `gewaehlt` says of the row.
     void fuegeZeileAn(const QList<Studienzelle>& zellen, int nummer, bool heute = false);
@@ -36,19 +36,24 @@ class Studientabelle : public QTreeWidget {
 
     QSize sizeHint() const override { return {640, 240}; }
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   Q_SIGNALS:
     void gewaehlt(int nummer);
 
   private:
+    void verteileBreiten();
+
     int breit_ = 0;
 };
 
 // The utilisation of a wall, its verdict as a sign and a colour.
 Studienzelle ausnutzungszelle(const Bewertung& bewertung, const Bewertungsregel& regel);
-// "5.1 Scheibenschub parallel", the finding or the gap.
-QString massgebendzelle(const Bewertung& bewertung, const Bewertungsregel& regel);
-// The direction of the horizontal load that governs; "–" without one.
-QString richtungstext(const Bewertung& bewertung, double Fvk);
+// "5.1 Scheibenschub parallel", the finding or the gap; the load case stands in the tip.
+Studienzelle massgebendzelle(const Bewertung& bewertung, const Bewertungsregel& regel);
+// The direction of the horizontal load that governs, `Fvk` that of the position; "–" without one.
+QString richtungstext(const Bewertung& bewertung, const Bewertungsregel& regel, double Fvk);
 Balkenurteil balkenurteil(Ausgang ausgang);
 
 }  // namespace rippenscheibe

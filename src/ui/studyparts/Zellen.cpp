@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <algorithm>
 
 #include "ui/verdict/Ausnutzungsbalken.h"
 
@@ -35,6 +36,7 @@ int werteplatz(const QFontMetrics& schrift) {
 
 QSize Ausnutzungszelle::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     QSize groesse = QStyledItemDelegate::sizeHint(option, index);
+    groesse.setHeight(std::max(groesse.height(), option.fontMetrics.height() + rand));
     if (index.data(Eta).isValid()) groesse.setWidth(balkenbreite + werteplatz(option.fontMetrics) + 3 * rand);
     return groesse;
 }
@@ -97,6 +99,26 @@ void Wandzelle::paint(QPainter* painter, const QStyleOptionViewItem& option, con
         else
             painter->drawText(zeile, Qt::AlignVCenter | Qt::AlignLeft,
                               painter->fontMetrics().elidedText(zeilen[i], Qt::ElideRight, platz.width()));
+    }
+    painter->restore();
+}
+
+void Zeilenzelle::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    QStyleOptionViewItem zelle = option;
+    initStyleOption(&zelle, index);
+    maleGrund(*painter, zelle);
+    painter->save();
+    painter->setFont(zelle.font);
+    painter->setPen(schriftfarbe(zelle));
+    const QRect platz = option.rect.adjusted(rand / 2, 0, -rand / 2, 0);
+    const QStringList zeilen = index.data().toString().split(QLatin1Char('\n'));
+    const int hoehe = zelle.fontMetrics.lineSpacing();
+    int oben = platz.center().y() - hoehe * static_cast<int>(zeilen.size()) / 2;
+    for (const QString& text : zeilen) {
+        painter->drawText(QRect(platz.left(), oben, platz.width(), hoehe), Qt::AlignVCenter | Qt::AlignLeft,
+                          zelle.fontMetrics.elidedText(text, Qt::ElideRight, platz.width()));
+        oben += hoehe;
     }
     painter->restore();
 }

@@ -32,4 +32,15 @@ class Wandzelle : public QStyledItemDelegate {
                const QModelIndex& index) const override;
 };
 
+// The lines of a text one below the other; what is too long is elided and stands in its tip.
+class Zeilenzelle : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+};
+
 }  // namespace rippenscheibe

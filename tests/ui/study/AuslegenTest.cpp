@@ -1,18 +1,11 @@
-#include <filesystem>
-
 #include "basis/Zahlenformat.h"
 #include "study/Auslegung.h"
+#include "study/Lastfaelle.h"
 #include "study/WasHilft.h"
 #include "support/Gerechnet.h"
 
 namespace rippenscheibe {
 namespace {
-
-// Threads of this process.
-auto faeden() {
-    const std::filesystem::directory_iterator aufgaben("/proc/self/task");
-    return std::distance(begin(aufgaben), end(aufgaben));
-}
 
 bool warteAuf(const std::function<bool()>& bedingung) {
     constexpr int geduld = 60'000;  // ms
@@ -33,33 +26,33 @@ class AuslegenTest : public Gerechnet {
         klicke(fenster, "Suchen");
         ASSERT_TRUE(warteAuf([&] { return finde<QPushButton>(fenster, "Suchen").isEnabled(); }));
     }
-    static QTreeWidget& entwuerfe(QWidget& fenster) { return finde<QTreeWidget>(fenster, "Entwuerfe"); }
-    // Opens all that a search may change: far more than it can try.
-    static void gibAllesFrei(QWidget& fenster) {
-        for (const char* achse : {"platte", "rippenbreite", "rippenhoehe"})
-            finde<QCheckBox>(fenster, (std::string("Achse(") + achse + ")").c_str()).setChecked(true);
-        finde<QSpinBox>(fenster, "Zahl").setValue(100);
-        tippe(fenster, "Hoechstens", "0,01");
+    // What the window searches at first.
+    Auslegungsauftrag auftrag() const {
+        Auslegungsauftrag a{};
+        a.vorlage = programm.w;
+        a.preise = std::get<Preise>(Preise::aus(geliefertePreise()));
+        const auto achsen = standardachsen(a.vorlage);
+        a.raster = Raster({achsen[0].achse, achsen[1].achse});
+        return a;
     }
-};
-
-TEST_F(AuslegenTest, ASearchFindsWhatTheCoreFindsAndItsDesignCanBeTakenOverAndBack) {
-    Auslegungsauftrag a{};
-    a.vorlage = programm.w;
-    a.preise = std::get<Preise>(Preise::aus(geliefertePreise()));
-    const auto achsen = standardachsen(a.vorlage);
-    a.raster = Raster({achsen[0].achse, achsen[1].achse});
-    const auto erwartet = std::get<Auslegungsergebnis>(legeAus(a, {}));
-    const std::vector<std::string> vorher = alleFelder(programm.w);
-    imFenster([&](QWidget& fenster) {
-        suche(fenster);
-        QTreeWidget& tabelle = entwuerfe(fenster);
+    static void vergleiche(QWidget& fenster, const Auslegungsergebnis& erwartet) {
+        const auto& tabelle = finde<QTreeWidget>(fenster, "Entwuerfe");
         ASSERT_EQ(tabelle.topLevelItemCount(), 1 + int(erwartet.entwuerfe.size()));
         for (std::size_t i = 0; i < erwartet.entwuerfe.size(); ++i)
             EXPECT_EQ(tabelle.topLevelItem(int(i) + 1)->text(1),
                       qtext(formatiere("0.00", erwartet.entwuerfe[i].wert, dezimalzeichen())));
         const QString befund = finde<QLabel>(fenster, "Befund").text();
         EXPECT_TRUE(befund.contains(qtext(ausscheidegruende(erwartet)))) << befund.toStdString();
+    }
+};
+
+TEST_F(AuslegenTest, ASearchFindsWhatTheCoreFindsAndItsDesignCanBeTakenOverAndBack) {
+    const Auslegungsauftrag a = auftrag();
+    const auto erwartet = std::get<Auslegungsergebnis>(legeAus(a, {}));
+    const std::vector<std::string> vorher = alleFelder(programm.w);
+    imFenster([&](QWidget& fenster) {
+        suche(fenster);
+        vergleiche(fenster, erwartet);
         EXPECT_TRUE(finde<QLabel>(fenster, "Preise").text().contains("mitgelieferte Beispielpreise"));
         klicke(fenster, "Uebernehmen");
     });
@@ -74,6 +67,27 @@ TEST_F(AuslegenTest, ASearchFindsWhatTheCoreFindsAndItsDesignCanBeTakenOverAndBa
     EXPECT_EQ(*programm.schritte().letzter(), "Auslegen");
     programm.rueckgaengig();
     EXPECT_EQ(alleFelder(programm.w), vorher);
+}
+
+TEST_F(AuslegenTest, LoadCasesBesideThePositionCountUntilTheyAreSwitchedOff) {
+    Auslegungsauftrag a = auftrag();
+    a.regel.lastfaelle = vorgeschlageneLastfaelle(programm.w);
+    programm.Dateiname = utf8(datei("w.rsw"));
+    EXPECT_FALSE(schreibeDauerhaft(pfad(datei("w.lastfaelle.csv")), lastfaelletext(a.regel.lastfaelle)));
+    imFenster([&](QWidget& fenster) {
+        suche(fenster);
+        vergleiche(fenster, std::get<Auslegungsergebnis>(legeAus(a, {})));
+        klicke(fenster, "MitLastfaellen");
+        suche(fenster);
+        vergleiche(fenster, std::get<Auslegungsergebnis>(legeAus(auftrag(), {})));
+    });
+    // A table of the largest Fv cannot count what the cases set themselves.
+    mitFenster([&] { oeffne(Fensterart::tafel, programm, meldungen, nullptr); },
+               [](QWidget& fenster) {
+                   const auto& wahl = finde<QCheckBox>(fenster, "MitLastfaellen");
+                   EXPECT_FALSE(wahl.isChecked() || wahl.isEnabled());
+                   EXPECT_TRUE(wahl.text().startsWith(QStringLiteral("ohne")));
+               });
 }
 
 TEST_F(AuslegenTest, NextStepsStandInTheOrderOfTheCoreAndFollowATakeOver) {
@@ -93,25 +107,6 @@ TEST_F(AuslegenTest, NextStepsStandInTheOrderOfTheCoreAndFollowATakeOver) {
         klicke(fenster, "Uebernehmen");
         EXPECT_TRUE(warteAuf([&] { return tabelle.topLevelItem(0)->text(1) == neu; }));
     });
-}
-
-TEST_F(AuslegenTest, StopEndsASearchAtOnceAndAClosedWindowLeavesNothingRunning) {
-    const auto vorher = faeden();
-    imFenster([](QWidget& fenster) {
-        gibAllesFrei(fenster);
-        klicke(fenster, "Suchen");
-        ASSERT_TRUE(warteAuf(
-            [&] { return finde<QLabel>(fenster, "Stand").text().startsWith(QStringLiteral("gep")); }));
-        QElapsedTimer uhr;
-        uhr.start();
-        klicke(fenster, "Anhalten");
-        ASSERT_TRUE(warteAuf([&] { return finde<QPushButton>(fenster, "Suchen").isEnabled(); }));
-        EXPECT_LT(uhr.elapsed(), 1000);  // a fraction of what the whole takes, also on a busy machine
-        EXPECT_TRUE(finde<QLabel>(fenster, "Befund").text().startsWith(QStringLiteral("Angehalten")));
-        klicke(fenster, "Suchen");
-        ASSERT_TRUE(warteAuf([&] { return finde<QPushButton>(fenster, "Anhalten").isEnabled(); }));
-    });
-    EXPECT_EQ(faeden(), vorher);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "basis/Zahlenformat.h"
+#include "study/Lastfaelle.h"
 #include "study/Variation.h"
 #include "support/Gerechnet.h"
 #include "ui/drawings/Kurvenansicht.h"
@@ -25,9 +26,9 @@ class EinflussTest : public Gerechnet {
                        }));
     }
     // The points of an axis as the core judges them.
-    std::vector<Variationspunkt> punkte(const std::string& achse) const {
+    std::vector<Variationspunkt> punkte(const std::string& achse, const Bewertungsregel& regel = {}) const {
         const Variationsauftrag v{programm.w, programm.w.eigeneMaterialien,
-                                  {},         Raster({std::get<Achse>(achseAus(achse, Grenzen::beachten))}),
+                                  regel,      Raster({std::get<Achse>(achseAus(achse, Grenzen::beachten))}),
                                   {},         true};
         std::vector<Variationspunkt> alle;
         variiere(v, {}, [&](const Variationspunkt& p) {
@@ -63,7 +64,7 @@ TEST_F(EinflussTest, TheMarkShowsWhatTheCoreSaysAndItsValueIsTakenOverAndBack) {
 }
 
 TEST_F(EinflussTest, CurvesAreTheSectionsFindingsShadeTheirRangeAndListsArePoints) {
-    const auto alle = punkte("av1=20:200:5");
+    const auto alle = punkte("av1=20:200:5", {.lastfaelle = vorgeschlageneLastfaelle(programm.w)});
     const Achse achse = std::get<Achse>(achseAus("av1=20:200:5", Grenzen::beachten));
     const Kurvendaten d = kurvendaten(achse, false, alle);
     ASSERT_EQ(d.x.size(), alle.size());
@@ -75,6 +76,10 @@ TEST_F(EinflussTest, CurvesAreTheSectionsFindingsShadeTheirRangeAndListsArePoint
         EXPECT_EQ(gesperrt, alle[i].bewertung.ausgang == Ausgang::hinweis) << d.x[i];
         if (gesperrt) continue;
         EXPECT_EQ(d.kurven.front().werte[i], alle[i].abschnitte.front().groesster);
+        // The sections are those of all directions and cases.
+        const double groesster =
+            std::ranges::max(alle[i].abschnitte, {}, &Abschnittsurteil::groesster).groesster;
+        EXPECT_EQ(groesster, alle[i].bewertung.maxEta) << d.x[i];
     }
     const Achse holz = std::get<Achse>(achseAus("Holzart=1,2,3", Grenzen::beachten));
     EXPECT_EQ(kurvendaten(holz, true, punkte("Holzart=1,2,3")).xNamen[1], QStringLiteral("Nadelholz C24"));
