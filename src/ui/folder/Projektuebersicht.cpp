@@ -53,14 +53,14 @@ struct Spaltenmass {
     Projektmodell::Spalte spalte;
     int ziffern;  // width in digits
 };
-constexpr std::array<Spaltenmass, 8> spaltenmasse{{{Projektmodell::Wand, 33},
-                                                   {Projektmodell::Masse, 13},
-                                                   {Projektmodell::Beplankung, 21},
-                                                   {Projektmodell::Befestigung, 21},
-                                                   {Projektmodell::Verankerung, 11},
-                                                   {Projektmodell::Ausnutzung, 16},
-                                                   {Projektmodell::Massgebend, 17},
-                                                   {Projektmodell::Datum, 9}}};
+constexpr std::array<Spaltenmass, 8> spaltenmasse{{{Projektmodell::Wand, 30},
+                                                   {Projektmodell::Masse, 12},
+                                                   {Projektmodell::Beplankung, 20},
+                                                   {Projektmodell::Befestigung, 26},
+                                                   {Projektmodell::Verankerung, 10},
+                                                   {Projektmodell::Ausnutzung, 14},
+                                                   {Projektmodell::Massgebend, 22},
+                                                   {Projektmodell::Datum, 8}}};
 
 QString ordnertext(const std::string& pfad) {
     return QDir::cleanPath(QDir::fromNativeSeparators(qtext(pfad)));
@@ -218,6 +218,8 @@ QWidget* Projektuebersicht::baueTabelle() {
     tabelle_->setModel(filter_);
     tabelle_->setItemDelegateForColumn(Projektmodell::Wand, new Wandzelle(tabelle_));
     tabelle_->setItemDelegateForColumn(Projektmodell::Ausnutzung, new Ausnutzungszelle(tabelle_));
+    for (const int spalte : {Projektmodell::Befestigung, Projektmodell::Massgebend})
+        tabelle_->setItemDelegateForColumn(spalte, new Zeilenzelle(tabelle_));
     tabelle_->setSelectionBehavior(QAbstractItemView::SelectRows);
     tabelle_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tabelle_->setAlternatingRowColors(true);
@@ -237,7 +239,7 @@ QWidget* Projektuebersicht::baueTabelle() {
     const int ziffer = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const Spaltenmass& mass : spaltenmasse) tabelle_->setColumnWidth(mass.spalte, ziffer * mass.ziffern);
     kopf.setSectionResizeMode(Projektmodell::Offen, QHeaderView::Stretch);
-    kopf.setMinimumSectionSize(ziffer * 8);
+    kopf.setMinimumSectionSize(ziffer * 7);
     tabelle_->setSortingEnabled(true);
     tabelle_->sortByColumn(Projektmodell::Wand, Qt::AscendingOrder);
     tabelle_->setMinimumSize(560, 160);
