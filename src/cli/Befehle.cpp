@@ -25,6 +25,8 @@
 #include "run/Urteil.h"
 #include "run/Zuweisen.h"
 #include "study/Lastfaelle.h"
+#include "study/Preise.h"
+#include "study/Projekt.h"
 #include "trace/Herleitung.h"
 #include "trace/Rechenweg.h"
 
@@ -101,6 +103,7 @@ class Arbeit {
 
     // The verbs that compute many walls. Each file is read on its own, as after program start.
     Rueckgabe studie() {
+        if (schriebeUeberEingabe()) return Rueckgabe::aufruf;
         if (!ladeMaterialien()) return Rueckgabe::dateifehler;
         std::vector<fs::path> dateien = auftrag_.dateien;
         if (auftrag_.vorlage) dateien.push_back(*auftrag_.vorlage);
@@ -113,7 +116,8 @@ class Arbeit {
         const Rueckgabe rueckgabe =
             fuehreStudieAus({auftrag_, ausgaben_, materialien_, programmordner_, std::move(vorlagen),
                              [this](std::string_view text) { gibAus(text); }});
-        return hoehere(rueckgabe, schreibeZieldatei());
+        // Without a result there is nothing that could take the place of an older one.
+        return zieldatei_.empty() ? rueckgabe : hoehere(rueckgabe, schreibeZieldatei());
     }
 
   private:
@@ -275,13 +279,27 @@ class Arbeit {
     // What is read must not be written in the same call.
     bool schriebeUeberEingabe() const {
         if (!auftrag_.nach) return false;
-        std::vector<fs::path> eingaben = auftrag_.dateien;
-        if (auftrag_.material) eingaben.push_back(*auftrag_.material);
+        const std::vector<fs::path> eingaben = gelesene();
         const bool getroffen = std::any_of(eingaben.begin(), eingaben.end(), [&](const fs::path& datei) {
             return sindDieselbeDatei(datei, *auftrag_.nach);
         });
         if (getroffen) melde(*auftrag_.nach, "Eine gelesene Datei kann nicht das Ziel von -o sein.");
         return getroffen;
+    }
+
+    // All files that the command reads.
+    std::vector<fs::path> gelesene() const {
+        std::vector<fs::path> alle = auftrag_.dateien;
+        alle.push_back(programmordner_ / materialdatei);
+        alle.push_back(programmordner_ / preisdatei);
+        const Studienauftrag& studie = auftrag_.studie;
+        for (const auto& datei : {auftrag_.material, auftrag_.vorlage, studie.lastfaelle, studie.preise})
+            if (datei) alle.push_back(*datei);
+        if (auftrag_.befehl == Befehl::projekt) {
+            const std::vector<fs::path> projekt = projekteingaben(studie.ordner);
+            alle.insert(alle.end(), projekt.begin(), projekt.end());
+        }
+        return alle;
     }
 
     // A position is written to a position file only; devices and pipes take anything.

@@ -202,6 +202,15 @@ std::variant<std::vector<Projektdatei>, std::string> projektdateien(const fs::pa
     return dateien;
 }
 
+std::vector<fs::path> projekteingaben(const fs::path& ordner) {
+    std::vector<fs::path> alle;
+    const auto dateien = projektdateien(ordner);
+    if (const auto* liste = std::get_if<std::vector<Projektdatei>>(&dateien))
+        for (const Projektdatei& datei : *liste)
+            alle.insert(alle.end(), {datei.position.datei, datei.lastfaelle.datei});
+    return alle;
+}
+
 std::string ordnername(const fs::path& ordner) {
     std::error_code fehler;
     const fs::path ganz = fs::weakly_canonical(ordner, fehler);

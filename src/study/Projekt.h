@@ -64,6 +64,9 @@ struct Projektdatei {
 // read.
 std::variant<std::vector<Projektdatei>, std::string> projektdateien(const std::filesystem::path& ordner);
 
+// What is read of a folder: its positions and their tables of load cases, there or not.
+std::vector<std::filesystem::path> projekteingaben(const std::filesystem::path& ordner);
+
 // What a folder is called, "." and a slash at the end included.
 std::string ordnername(const std::filesystem::path& ordner);
 

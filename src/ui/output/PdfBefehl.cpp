@@ -9,6 +9,7 @@
 #include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "files/EigeneMaterialienDatei.h"
 #include "files/Einstellungsdatei.h"
@@ -16,6 +17,7 @@
 #include "files/Positionsdatei.h"
 #include "run/Positionslauf.h"
 #include "study/Lastfaelle.h"
+#include "study/Projekt.h"
 #include "study/Tafelblatt.h"
 #include "ui/basics/Programm.h"
 #include "ui/derivation/Rechenwegdruck.h"
@@ -207,6 +209,15 @@ class Ordnerlauf {
     const Pdfausgaben& ausgaben_;
 };
 
+// Whether the PDF would take the place of something that is read for it.
+bool schriebeUeberEingabe(const Pdfauftrag& auftrag, const std::filesystem::path& ordner) {
+    std::vector<std::filesystem::path> eingaben = projekteingaben(auftrag.position);
+    for (const auto& name : {materialdatei, einstellungsdatei, logodatei}) eingaben.push_back(ordner / name);
+    if (auftrag.lastfaelle) eingaben.push_back(*auftrag.lastfaelle);
+    return std::any_of(eingaben.begin(), eingaben.end(),
+                       [&](const auto& datei) { return sindDieselbeDatei(datei, auftrag.ziel); });
+}
+
 // Qt names the program by the path it was called with.
 QString aufrufhilfe(const QCommandLineParser& befehlszeile) {
     const QString aufgerufen = QCoreApplication::arguments().value(0);
@@ -314,6 +325,9 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
     if (sindDieselbeDatei(auftrag.ziel, auftrag.position))
         return falscherAufruf(QStringLiteral("--pdf: \"%1\" ist die Positionsdatei selbst.")
                                   .arg(befehlszeile.value(optionPdf)));
+    if (schriebeUeberEingabe(auftrag, programmordner))
+        return falscherAufruf(
+            QStringLiteral("--pdf: \"%1\" wird gelesen.").arg(befehlszeile.value(optionPdf)));
     std::error_code fehler;
     const bool ordner = std::filesystem::is_directory(auftrag.position, fehler);
     if (ordner && form == formen[2])

@@ -188,6 +188,10 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
          {option, ziel, QStringLiteral("--form"), QStringLiteral("rechenweg"), rsw("windsog")},
          Rueckgabe::erfuellt,
          ""},
+        {"onto what it reads",
+         {option, datei("bild.jpg"), QStringLiteral("--lastfaelle"), datei("bild.jpg"), rsw("windsog")},
+         Rueckgabe::aufruf,
+         "wird gelesen"},
         {"unknown option", {option, ziel, QStringLiteral("--x"), rsw("windsog")}, Rueckgabe::aufruf, "Hilfe"},
     };
     for (const Fall& fall : faelle) {
