@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHashSeed>
 #include <QLibraryInfo>
@@ -22,6 +21,7 @@
 #include "ui/main/Form0_Startbild.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/output/PdfBefehl.h"
+#include "ui/session/Dateiablauf.h"
 
 using namespace rippenscheibe;
 
@@ -110,7 +110,7 @@ int main(int argc, char** argv) {
     if (const auto antwort = beantworteAufruf(befehlszeile, angabenAus(argc, argv), ausgaben))
         return static_cast<int>(*antwort);
     const QString angabe = befehlszeile.positionalArguments().value(0);
-    const QString datei = angabe.isEmpty() ? angabe : QFileInfo(angabe).absoluteFilePath();
+    const QString datei = angabe.isEmpty() ? angabe : ganzerPfad(angabe);
 
     Programm programm(programmordner());
     Plattformmeldungen meldungen;

@@ -1,9 +1,12 @@
 #include "ui/session/Dateiablauf.h"
 
 #include <QFileInfo>
+#include <filesystem>
 #include <functional>
+#include <system_error>
 #include <utility>
 
+#include "files/Pfad.h"
 #include "files/Positionsdatei.h"
 #include "run/Positionslauf.h"
 #include "ui/basics/Meldungen.h"
@@ -218,6 +221,12 @@ void Dateiablauf::setzeNeu() {
     programm_.Dateistand.reset();
     programm_.DialogDateiname.clear();
     if (projektdaten) projektdaten();
+}
+
+QString ganzerPfad(const QString& datei) {
+    std::error_code fehler;
+    const std::filesystem::path ganz = std::filesystem::absolute(pfad(datei), fehler);
+    return fehler ? datei : qtext(pfadtext(ganz.lexically_normal()));
 }
 
 }  // namespace rippenscheibe

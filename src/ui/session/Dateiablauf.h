@@ -12,6 +12,9 @@ namespace rippenscheibe {
 
 class Meldungen;
 
+// The full path of a file that the command line names. QFileInfo would lose the bytes that are no UTF-8.
+QString ganzerPfad(const QString& datei);
+
 // The file flow of the main window: new, open, save, save as, end, with its queries. The pending action
 // stands in the program's state, so that a save can carry on with what was waiting for it.
 class Dateiablauf {

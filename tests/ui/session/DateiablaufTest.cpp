@@ -151,6 +151,8 @@ TEST_F(Ablauf, AFileWhoseNameIsNoUtf8IsOpenedAndSaved) {
     std::filesystem::rename(pfad(gespeicherte("a.rsw", 4)), fremd);
     const QString name = qtext(fremd.string());
     EXPECT_EQ(pfad(name), fremd);
+    const QString kurz = qtext(std::filesystem::relative(fremd).string());  // as a command line names it
+    EXPECT_EQ(pfad(ganzerPfad(kurz)), std::filesystem::absolute(fremd));
     EXPECT_EQ(qtext("ä\xF0\x9F\x8F\xA0"), QString::fromUtf8("ä\xF0\x9F\x8F\xA0"));
     EXPECT_TRUE(ablauf.lade(name));
     EXPECT_EQ(programm.w.Wandlaenge, 4);
