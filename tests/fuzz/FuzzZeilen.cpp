@@ -1,16 +1,35 @@
 #include <algorithm>
 #include <string>
+#include <variant>
+#include <vector>
 
 #include "fuzz/Eingang.h"
+#include "study/Lastfaelle.h"
+#include "study/Preise.h"
 #include "support/Strom.h"
 
-// A stream of walls as JSON lines or as a table, told by its first byte: one line out for each line in.
+// What is read line by line, told by its first byte: load cases, prices, or a stream of walls as JSON lines
+// or as a table, where one line comes out for each line in.
 
 using namespace rippenscheibe;
+
+namespace {
+
+std::string lastfaelleZurueck(std::string_view text) {
+    const auto faelle = lastfaelleAus(text);
+    const auto* gelesen = std::get_if<std::vector<Lastfallzeile>>(&faelle);
+    return gelesen == nullptr ? std::string() : lastfaelletext(*gelesen);
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t laenge) {
     std::string text(fuzz::eingang(bytes, laenge));
     if (text.empty()) return 0;
+    const std::string_view tabelle = std::string_view(text).substr(1);
+    if (text.front() == 'l') fuzz::erwarteFestpunkt(tabelle, lastfaelleZurueck);
+    if (text.front() == 'p') static_cast<void>(Preise::aus(tabelle));
+    if (text.front() == 'l' || text.front() == 'p') return 0;
     Stapelauftrag auftrag;
     auftrag.felder = {"av1", "Rd1", "Ftd", "Position"};
     if (text.front() == 'c') auftrag.eingabe = auftrag.ausgabe = Zeilenform::csv;
