@@ -105,6 +105,9 @@ std::vector<Schreiber> alleSchreiber() {
         werkzeug("bericht.rtf", {"rechne", "--ausgabe", "rtf"}, "alt"),
         werkzeug("werte.json", {"rechne", "--ausgabe", "json"}, "alt"),
         werkzeug("neu.rsw", {"uebertrage"}, positionstext(Wand())),
+        werkzeug("rechenweg.rtf", {"herleite", "--felder", "Rd1", "--ausgabe", "rtf"}, "alt"),
+        werkzeug("mengen.csv", {"stueckliste", "--ausgabe", "csv"}, "alt"),
+        werkzeug("faelle.csv", {"lastfaelle", "neu"}, "alt"),
     };
     // The place of a running program: written again over the copy of a minute ago.
     alle.push_back({"safety copy",
