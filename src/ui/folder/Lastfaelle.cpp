@@ -232,7 +232,7 @@ void Lastfaelle::zeigeUrteil() {
 
 bool Lastfaelle::raeumeAb(const std::filesystem::path& datei) {
     std::error_code fehler;
-    if (!std::filesystem::exists(datei, fehler)) return true;
+    if (!std::filesystem::exists(datei, fehler) && !fehler) return true;
     const Meldung frage{
         Symbol::frage, QStringLiteral("Lastfälle"),
         QStringLiteral("Die Tabelle ist leer. Soll die Datei\n%1\ngelöscht werden ?").arg(pfadtextVon(datei)),
