@@ -2,6 +2,7 @@
 # "v" VERSION, or there is no repository), else with the commit behind it, as "2.0.0+g1a2b3c4".
 #     cmake -DSOURCE=FOLDER -DVERSION=2.0.0 -DOUT=FILE -P Version.cmake
 # Included, it only sets RIPPENSCHEIBE_FASSUNG.
+cmake_minimum_required(VERSION 3.25)
 set(RIPPENSCHEIBE_FASSUNG "${VERSION}")
 execute_process(COMMAND git -C "${SOURCE}" describe --exact-match --match "v${VERSION}" HEAD
                 RESULT_VARIABLE no_release OUTPUT_QUIET ERROR_QUIET)
