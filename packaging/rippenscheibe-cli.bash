@@ -17,6 +17,12 @@ _rippenscheibe_cli() {
         values=$(sed -n 's/^  \(-h,\)\{0,1\}\(--\{0,1\}[a-z-]*\).*/\2/p' <<<"$help")
         mapfile -t COMPREPLY < <(compgen -W "$values" -- "$word")
     else
+        # Words that the command line takes as they stand, "lastfaelle neu", then files.
+        values=$(sed -n '/^Angaben:/,/^$/s/^  \([a-z][a-z-]*\) .*/\1/p' <<<"$help")
+        if [[ $COMP_CWORD -eq 2 && -n $values ]]; then
+            mapfile -t COMPREPLY < <(compgen -W "$values" -- "$word")
+            return
+        fi
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
     fi
