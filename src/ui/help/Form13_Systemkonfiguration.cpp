@@ -16,12 +16,11 @@
 #include <QSysInfo>
 #include <QThread>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cmath>
 
 #ifdef __linux__
 #include <sys/sysinfo.h>
-
-#include <algorithm>
 #endif
 
 namespace rippenscheibe {
