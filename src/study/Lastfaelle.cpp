@@ -121,8 +121,8 @@ std::optional<std::string> ueberschriebenesFeld(const Raster& raster,
             for (const Lastfallzeile& fall : faelle)
                 for (const auto& [gesetzt, wert] : fall.werte)
                     if (gesetzt == feld)
-                        return std::string(eingabefeld(feld).angabe.name) +
-                               " setzt auch der Lastfall \"" + fall.name + "\" und hebt es wieder auf";
+                        return std::string(eingabefeld(feld).angabe.name) + " setzt auch der Lastfall \"" +
+                               fall.name + "\" und hebt es wieder auf";
     return std::nullopt;
 }
 
