@@ -12,6 +12,9 @@ class Hauptfenster : public Programmprobe {
   protected:
     Hauptfenster() {
         fenster.show();
+        aktiviere();
+    }
+    void aktiviere() {
         fenster.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&fenster));
     }
@@ -273,7 +276,7 @@ TEST_F(Hauptfenster, TheFunctionKeysOpenTheSixInputs) {
                                                             {Qt::Key_F6, "Form9"}, {Qt::Key_F7, "Form12"}};
     for (const auto& [taste, name] : fensternamen) {
         QString gesehen;
-        QApplication::setActiveWindow(&fenster);
+        aktiviere();
         mitFenster([&, t = taste] { QTest::keyClick(&fenster, t); },
                    [&](QWidget& form) { gesehen = form.objectName(); });
         EXPECT_EQ(gesehen, QLatin1String(name));
@@ -323,7 +326,7 @@ TEST_F(Hauptfenster, OneVisitIsOneStepOfUndo) {
     EXPECT_EQ(text("mnuWiederholen"), QStringLiteral("&Wiederholen: Verbindungsmittel"));
 
     // Still in the field: what was typed so far is the step.
-    QApplication::setActiveWindow(&fenster);
+    aktiviere();
     tippe(fenster, "Textbox1(1)", "3,1");
     QTest::keyClick(&wert(fenster, "Textbox1(1)"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(programm.w.Wandhoehe, 2.5);
