@@ -139,8 +139,7 @@ class Arbeit {
                 gibAus(herleitungText(graph, auftrag_.herleitung));
                 break;
             case Ausgabeart::rtf: {
-                const Pruefblatt blatt =
-                    pruefblatt(vorher, pfadtext(datei.filename()), liesDatei(datei).bytes);
+                const Pruefblatt blatt = pruefblatt(vorher, pfadtext(datei.filename()), bytes_);
                 gibAus(alsRtf(fliesstext(rechenweg(graph, w, blatt))));
                 break;
             }
@@ -209,7 +208,7 @@ class Arbeit {
     // Opens a position as the window program does; the three fields of its main window come back. Nothing
     // when the file cannot be opened: it is reported and the record is untouched.
     std::optional<Grundmasse> lade(const fs::path& datei, Wand& w) {
-        const Oeffnung oeffnung = oeffnePosition(datei, w, Einlass::nurPositionen);
+        Oeffnung oeffnung = oeffnePosition(datei, w, Einlass::nurPositionen);
         if (oeffnung.gelesen) meldeUnterbrochene(datei);
         if (oeffnung.fehler) {
             ausgaben_.meldungen(*oeffnung.fehler + "\n");
@@ -218,6 +217,7 @@ class Arbeit {
         gelesen_ = true;
         melde(datei, oeffnung.vorbehalte);
         eingaben_ = w;
+        bytes_ = std::move(oeffnung.bytes);
         zuweisen(w, oeffnung.felder);
         if (auftrag_.befehl != Befehl::uebertrage) meldeFehlendesMaterial(datei, w);
         return oeffnung.felder;
@@ -358,6 +358,7 @@ class Arbeit {
     EigeneMaterialien materialien_;
     std::vector<Lastfallzeile> lastfaelle_;
     Eingaben eingaben_;  // of the last position, as they were read
+    std::string bytes_;  // of its file
     std::string zieldatei_;
     bool gelesen_ = false;  // a position could be read
     Fliesstext berichte_;

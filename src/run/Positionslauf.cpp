@@ -1,5 +1,7 @@
 #include "run/Positionslauf.h"
 
+#include <utility>
+
 #include "files/Pfad.h"
 #include "files/Positionsdatei.h"
 #include "files/Zeichensatz.h"
@@ -38,7 +40,7 @@ Positionslauf beurteile(const Wand& w, Laufergebnis ergebnis) {
 Oeffnung oeffnePosition(const std::filesystem::path& datei, Wand& w, Einlass einlass) {
     const bool streng = einlass == Einlass::nurPositionen;
     if (const auto grund = streng ? einwand(datei) : std::nullopt) return abgelehnt(datei, *grund);
-    const Dateiinhalt inhalt = liesDatei(datei);
+    Dateiinhalt inhalt = liesDatei(datei);
     if (inhalt.lage == Dateilage::unlesbar || (streng && inhalt.fehler))
         return {.fehler = inhalt.fehler->text};
     const std::string text = dekodiert(inhalt.bytes);
@@ -51,6 +53,7 @@ Oeffnung oeffnePosition(const std::filesystem::path& datei, Wand& w, Einlass ein
     for (const Uebersprungen& feld : liesPositionstext(text, w))
         oeffnung.vorbehalte.push_back(beschreibung(feld));
     oeffnung.felder = grundmasse(w);
+    oeffnung.bytes = std::move(inhalt.bytes);
     return oeffnung;
 }
 

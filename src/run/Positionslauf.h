@@ -23,6 +23,7 @@ struct Oeffnung {
     bool gelesen = false;                 // there is such a file, and it could be read
     Texte vorbehalte{};                   // fields of the file that kept the value of the record
     Grundmasse felder{};                  // of the main window
+    std::string bytes{};                  // what was read
 };
 // Zuweisen has to follow.
 Oeffnung oeffnePosition(const std::filesystem::path& datei, Wand& w, Einlass einlass);

@@ -126,9 +126,10 @@ class Pdflauf {
         auto materialien = ladeEigeneMaterialien(ordner_);
         if (const auto stoerung = materialien.stoerung()) return scheitere(*stoerung);
         w_->eigeneMaterialien = std::move(materialien.wert);
-        const Oeffnung oeffnung = oeffnePosition(auftrag_.position, *w_, Einlass::nurPositionen);
+        Oeffnung oeffnung = oeffnePosition(auftrag_.position, *w_, Einlass::nurPositionen);
         if (oeffnung.fehler) return scheitere({*oeffnung.fehler});
         for (const std::string& vorbehalt : oeffnung.vorbehalte) melde(vorbehalt);
+        bytes_ = std::move(oeffnung.bytes);
         return true;
     }
 
@@ -148,8 +149,7 @@ class Pdflauf {
 
     std::shared_ptr<const Dokument> dokument() const {
         const std::string name = pfadtext(auftrag_.position.filename());
-        return rechenwegdokument(
-            {*vorher_, felder_, *w_, pruefblatt(*vorher_, name, liesDatei(auftrag_.position).bytes)});
+        return rechenwegdokument({*vorher_, felder_, *w_, pruefblatt(*vorher_, name, bytes_)});
     }
 
     bool scheitere(const Dateifehler& fehler) const {
@@ -167,6 +167,7 @@ class Pdflauf {
     std::unique_ptr<Wand> w_;
     std::unique_ptr<Wand> vorher_;  // before the run
     Grundmasse felder_{};
+    std::string bytes_;  // of the position
 };
 
 // All positions of a folder in one PDF.

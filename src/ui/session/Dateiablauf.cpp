@@ -8,6 +8,7 @@
 
 #include "files/Pfad.h"
 #include "files/Positionsdatei.h"
+#include "files/Zeichensatz.h"
 #include "run/Positionslauf.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Zieldatei.h"
@@ -106,10 +107,9 @@ bool Dateiablauf::fremdGeaendert() const {
     return !inhalt.fehler && std::hash<std::string>{}(inhalt.bytes) != *programm_.Dateistand;
 }
 
-void Dateiablauf::merkeDateistand() {
-    const Dateiinhalt inhalt = liesDatei(pfad(qtext(programm_.Dateiname)));
+void Dateiablauf::merkeDateistand(bool vorhanden, const std::string& bytes) {
     programm_.Dateistand.reset();
-    if (!inhalt.fehler) programm_.Dateistand = std::hash<std::string>{}(inhalt.bytes);
+    if (vorhanden) programm_.Dateistand = std::hash<std::string>{}(bytes);
 }
 
 Dateiablauf::Ausgang Dateiablauf::sichernTrotzFremdem() {
@@ -169,7 +169,7 @@ bool Dateiablauf::saveFile() {
         meldungen_.kritisch(fenster_, QStringLiteral(" Fehler"), qtext(fehler->text));
         return false;
     }
-    merkeDateistand();
+    merkeDateistand(true, kodiert(positionstext(programm_.w)));
     programm_.setzeGesichert(true);
     programm_.setzeTitel(qtext(programm_.Dateiname));
     if (benutzt) benutzt(qtext(programm_.Dateiname));
@@ -200,7 +200,7 @@ bool Dateiablauf::lade(const QString& datei) {
     programm_.Sperre = false;
     Q_EMIT programm_.ersetzt();
     programm_.zuweisen();
-    merkeDateistand();
+    merkeDateistand(oeffnung.gelesen, oeffnung.bytes);
     programm_.leereSchritte();
     if (benutzt && oeffnung.gelesen) benutzt(datei);
     return true;

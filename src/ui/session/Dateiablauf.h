@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "ui/basics/Programm.h"
 
@@ -49,7 +50,8 @@ class Dateiablauf {
     Ausgang dialogUndSichern();
     Ausgang sichernTrotzFremdem();
     bool fremdGeaendert() const;
-    void merkeDateistand();
+    // What the file of the position holds, as far as this program knows.
+    void merkeDateistand(bool vorhanden, const std::string& bytes);
     void naechsterSchritt();
     void oeffnenDialog();
     bool saveFile();

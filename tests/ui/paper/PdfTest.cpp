@@ -1,6 +1,7 @@
 #include <QRegularExpression>
 
 #include "../support/Aufzeichnung.h"
+#include "files/Dateischreiber.h"
 #include "files/EigeneMaterialienDatei.h"
 #include "files/Projektliste.h"
 #include "report/Bericht.h"
@@ -165,6 +166,8 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
     const QString ziel = datei("aus.pdf");
     const auto rsw = [](const char* name) { return QString::fromStdString(beispiel(name).string()); };
     const QString option = QStringLiteral("--pdf");
+    const QString lastfaelle = datei("faelle.csv");
+    EXPECT_FALSE(schreibeDauerhaft(pfad(lastfaelle), "name"));
     const std::vector<Fall> faelle{
         {"passed", {option, ziel, rsw("windsog")}, Rueckgabe::erfuellt, ""},
         {"joined by =", {option + QStringLiteral("=") + ziel, rsw("windsog")}, Rueckgabe::erfuellt, ""},
@@ -189,7 +192,7 @@ TEST_F(Pdfausgabe, TheCommandAnswersEachCallWithItsNumber) {
          Rueckgabe::erfuellt,
          ""},
         {"onto what it reads",
-         {option, datei("bild.jpg"), QStringLiteral("--lastfaelle"), datei("bild.jpg"), rsw("windsog")},
+         {option, lastfaelle, QStringLiteral("--lastfaelle"), lastfaelle, rsw("windsog")},
          Rueckgabe::aufruf,
          "wird gelesen"},
         {"unknown option", {option, ziel, QStringLiteral("--x"), rsw("windsog")}, Rueckgabe::aufruf, "Hilfe"},
