@@ -178,10 +178,10 @@ void Projektmodell::setzeDateien(std::vector<Projektdatei> dateien) {
     endResetModel();
 }
 
-void Projektmodell::nimmAuf(Projektposition position) {
+void Projektmodell::nimmAuf(const Projektposition& position) {
     const std::string name = schluessel(position.datei);
     bilder_.erase(name);
-    gelesen_.insert_or_assign(name, std::move(position));
+    gelesen_.insert_or_assign(name, position);
     const auto zeile = zeilen_.find(name);
     if (zeile == zeilen_.end()) return;
     Q_EMIT dataChanged(index(zeile->second, 0), index(zeile->second, Spaltenzahl - 1));
@@ -304,32 +304,32 @@ void Projektfilter::waehle(Wahl wahl) {
     invalidateFilter();
 }
 
-// Every word has to stand somewhere in the row.
-bool Projektfilter::filterAcceptsRow(int zeile, const QModelIndex& eltern) const {
-    const QModelIndex index = sourceModel()->index(zeile, 0, eltern);
+bool Projektfilter::gewaehlt(const QModelIndex& index) const {
     const QVariant stand = index.data(Projektmodell::Stand);
     const auto ist = [&](Projekturteil urteil) {
         return stand.isValid() && stand.toInt() == static_cast<int>(urteil);
     };
     switch (wahl_) {
         case Wahl::alle:
-            break;
+            return true;
         case Wahl::erfuellt:
-            if (!ist(Projekturteil::erfuellt)) return false;
-            break;
+            return ist(Projekturteil::erfuellt);
         case Wahl::nichtErfuellt:
-            if (!ist(Projekturteil::nichtErfuellt)) return false;
-            break;
+            return ist(Projekturteil::nichtErfuellt);
         case Wahl::luecken:
-            if (!index.data(Projektmodell::MitLuecken).toBool()) return false;
-            break;
+            return index.data(Projektmodell::MitLuecken).toBool();
         case Wahl::hinweise:
-            if (!ist(Projekturteil::hinweise)) return false;
-            break;
+            return ist(Projekturteil::hinweise);
         case Wahl::unlesbar:
-            if (!ist(Projekturteil::unlesbar)) return false;
-            break;
+            return ist(Projekturteil::unlesbar);
     }
+    return true;
+}
+
+// Every word has to stand somewhere in the row.
+bool Projektfilter::filterAcceptsRow(int zeile, const QModelIndex& eltern) const {
+    const QModelIndex index = sourceModel()->index(zeile, 0, eltern);
+    if (!gewaehlt(index)) return false;
     if (worte_.isEmpty()) return true;
     const QString text = index.data(Projektmodell::Suchtext).toString();
     return std::all_of(worte_.begin(), worte_.end(),

@@ -36,7 +36,7 @@ class Projektmodell : public QAbstractTableModel {
     void beginne(const EigeneMaterialien& materialien);
     // The files that are there now. Rows of files that did not change stay as they are.
     void setzeDateien(std::vector<Projektdatei> dateien);
-    void nimmAuf(Projektposition position);
+    void nimmAuf(const Projektposition& position);
     void setzeFarben(const QPalette& palette, double dichte);
 
     const std::vector<Projektdatei>& dateien() const { return dateien_; }
@@ -76,6 +76,8 @@ class Projektfilter : public QSortFilterProxyModel {
     bool filterAcceptsRow(int zeile, const QModelIndex& eltern) const override;
 
   private:
+    bool gewaehlt(const QModelIndex& index) const;
+
     QStringList worte_;
     Wahl wahl_ = Wahl::alle;
 };

@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QFileSystemWatcher>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -11,7 +10,6 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSet>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTableView>
@@ -19,10 +17,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
-#include <map>
-#include <mutex>
-#include <optional>
-#include <utility>
 
 #include "files/Dateischreiber.h"
 #include "files/Pfad.h"
@@ -31,6 +25,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
 #include "ui/folder/Mengenseite.h"
+#include "ui/folder/Projektleser.h"
 #include "ui/folder/Projektmodell.h"
 #include "ui/paper/PdfAusgabe.h"
 #include "ui/paper/Sammelpdf.h"
@@ -38,14 +33,6 @@
 #include "ui/studyparts/Zellen.h"
 
 namespace rippenscheibe {
-
-// Written by the reading threads and emptied by the window.
-struct Projektuebersicht::Eingang {
-    std::mutex sperre;
-    std::optional<std::vector<Projektdatei>> dateien;
-    std::vector<Projektposition> positionen;
-    std::string fehler;
-};
 
 namespace {
 
@@ -64,19 +51,6 @@ constexpr std::array<Spaltenmass, 8> spaltenmasse{{{Projektmodell::Wand, 30},
 
 QString ordnertext(const std::string& pfad) {
     return QDir::cleanPath(QDir::fromNativeSeparators(qtext(pfad)));
-}
-
-// Those of the files that are not read yet, or changed since.
-std::vector<Projektdatei> neueDateien(const std::vector<Projektdatei>& dateien,
-                                      const std::vector<Projektdatei>& gelesene) {
-    std::map<std::filesystem::path, const Projektdatei*> bekannt;
-    for (const Projektdatei& datei : gelesene) bekannt.emplace(datei.position.datei, &datei);
-    std::vector<Projektdatei> neue;
-    for (const Projektdatei& datei : dateien) {
-        const auto schon = bekannt.find(datei.position.datei);
-        if (schon == bekannt.end() || !(*schon->second == datei)) neue.push_back(datei);
-    }
-    return neue;
 }
 
 // The folders a project may lie in: that of the open position first, then those the program knows.
@@ -101,10 +75,8 @@ Projektuebersicht::Projektuebersicht(Programm& programm, Meldungen& meldungen, Q
               QStringLiteral("  Projektübersicht"), Tippen::aendertNichts),
       modell_(new Projektmodell(this)),
       filter_(new Projektfilter(this)),
-      leser_(new Hintergrund(this)),
+      leser_(new Projektleser(this)),
       drucker_(new Hintergrund(this)),
-      waechter_(new QFileSystemWatcher(this)),
-      ruhe_(new QTimer(this)),
       neu_(new QTimer(this)) {
     filter_->setSourceModel(modell_);
     modell_->setzeFarben(palette(), devicePixelRatioF());
@@ -118,22 +90,12 @@ Projektuebersicht::Projektuebersicht(Programm& programm, Meldungen& meldungen, Q
     inhalt()->addWidget(teiler, 1);
     baueKnoepfe();
 
-    constexpr int ruhezeit = 200;  // ms
-    ruhe_->setSingleShot(true);
-    ruhe_->setInterval(ruhezeit);
-    connect(ruhe_, &QTimer::timeout, this, &Projektuebersicht::liesNeu);
     neu_->setSingleShot(true);
     neu_->setInterval(0);
     connect(neu_, &QTimer::timeout, this, &Projektuebersicht::zeigeAuswahl);
-    for (const auto signal : {&QFileSystemWatcher::directoryChanged, &QFileSystemWatcher::fileChanged})
-        connect(waechter_, signal, ruhe_, qOverload<>(&QTimer::start));
-    connect(leser_, &Hintergrund::fortschritt, this, &Projektuebersicht::nimmEntgegen);
-    connect(leser_, &Hintergrund::beendet, this, [this](const QString& fehler) {
-        nimmEntgegen();
-        if (!fehler.isEmpty()) zahlen_->setText(fehler);
-        beobachte();
-        if (std::exchange(nochmal_, false)) ruhe_->start();
-    });
+    connect(leser_, &Projektleser::gefunden, this, &Projektuebersicht::zeigeDateien);
+    connect(leser_, &Projektleser::gelesen, modell_, &Projektmodell::nimmAuf);
+    connect(leser_, &Projektleser::vorangekommen, this, &Projektuebersicht::zeigeZahlen);
     connect(drucker_, &Hintergrund::fortschritt, this, [this](const Fortschritt& stand) {
         balken_->setRange(0, static_cast<int>(stand.gesamt));
         balken_->setValue(static_cast<int>(stand.geprueft));
@@ -152,11 +114,8 @@ Projektuebersicht::Projektuebersicht(Programm& programm, Meldungen& meldungen, Q
     if (!ordner.isEmpty()) waehleOrdner(ordner.constFirst());
 }
 
-// The threads end before what they work on.
-Projektuebersicht::~Projektuebersicht() {
-    leser_->verwirf();
-    drucker_->verwirf();
-}
+// The thread ends before what it works on.
+Projektuebersicht::~Projektuebersicht() { drucker_->verwirf(); }
 
 // ---- Building ----
 
@@ -304,18 +263,15 @@ void Projektuebersicht::baueKnoepfe() {
 
 void Projektuebersicht::waehleOrdner(const QString& ordner) {
     if (ordner.isEmpty()) return;
-    leser_->verwirf();
-    ordner_ = pfad(ordner);
     modell_->beginne(programm_.w.eigeneMaterialien);
-    const QStringList beobachtet = waechter_->files() + waechter_->directories();
-    if (!beobachtet.isEmpty()) waechter_->removePaths(beobachtet);
-    liesNeu();
+    leser_->beginne(pfad(ordner), programm_.w.eigeneMaterialien);
 }
 
 void Projektuebersicht::frageOrdner() {
     const auto datei = meldungen_.oeffnen(
-        this, {QStringLiteral("Ordner über eine Position darin wählen"), qtext(pfadtext(ordner_)), QString(),
-               QStringLiteral("Datei Rippenscheibe 2.0 (*.rsw);;alle Dateien (*.*)"), QStringLiteral("rsw")});
+        this, {QStringLiteral("Ordner über eine Position darin wählen"), qtext(pfadtext(leser_->ordner())),
+               QString(), QStringLiteral("Datei Rippenscheibe 2.0 (*.rsw);;alle Dateien (*.*)"),
+               QStringLiteral("rsw")});
     if (!datei) return;
     const QString ordner = QFileInfo(*datei).absolutePath();
     int stelle = ordnerwahl_->findData(ordner);
@@ -324,83 +280,16 @@ void Projektuebersicht::frageOrdner() {
         stelle = 0;
     }
     ordnerwahl_->setCurrentIndex(stelle);
-    if (pfad(ordner) != ordner_) waehleOrdner(ordner);
+    if (pfad(ordner) != leser_->ordner()) waehleOrdner(ordner);
 }
 
-// Reads what is new or changed; the rest stays.
-void Projektuebersicht::liesNeu() {
-    if (leser_->laeuft()) {
-        nochmal_ = true;
-        return;
-    }
-    eingang_ = std::make_shared<Eingang>();
-    std::vector<Projektdatei> gelesene;
-    for (int zeile = 0; zeile < modell_->rowCount(); ++zeile)
-        if (const Projektposition* position = modell_->position(zeile)) gelesene.push_back(position->datei);
-    leser_->starte(
-        [eingang = eingang_, ordner = ordner_, gelesene = std::move(gelesene),
-         materialien = programm_.w.eigeneMaterialien](const Ausfuehrung& ausfuehrung) {
-            lies(*eingang, ordner, gelesene, materialien, ausfuehrung);
-            return true;
-        },
-        [](bool) {});
-}
-
-void Projektuebersicht::lies(Eingang& eingang, const std::filesystem::path& ordner,
-                             const std::vector<Projektdatei>& gelesene, const EigeneMaterialien& materialien,
-                             const Ausfuehrung& ausfuehrung) {
-    auto gefunden = projektdateien(ordner);
-    if (auto* fehler = std::get_if<std::string>(&gefunden)) {
-        const std::lock_guard schloss(eingang.sperre);
-        eingang.fehler = std::move(*fehler);
-        eingang.dateien.emplace();
-        return;
-    }
-    const auto& dateien = std::get<0>(gefunden);
-    {
-        const std::lock_guard schloss(eingang.sperre);
-        eingang.dateien = dateien;
-    }
-    liesProjekt(neueDateien(dateien, gelesene), materialien, ausfuehrung, [&](Projektposition position) {
-        const std::lock_guard schloss(eingang.sperre);
-        eingang.positionen.push_back(std::move(position));
-        return !ausfuehrung.halt.stop_requested();
-    });
-}
-
-void Projektuebersicht::nimmEntgegen() {
-    std::optional<std::vector<Projektdatei>> dateien;
-    std::vector<Projektposition> positionen;
-    {
-        const std::lock_guard schloss(eingang_->sperre);
-        dateien.swap(eingang_->dateien);
-        positionen.swap(eingang_->positionen);
-        fehler_ = eingang_->fehler;
-    }
-    if (dateien) {
-        const std::vector<const Projektposition*> vorher = gewaehlte();
-        std::vector<std::filesystem::path> namen;
-        namen.reserve(vorher.size() + 1);
-        for (const Projektposition* position : vorher) namen.push_back(position->datei.position.datei);
-        if (namen.empty() && !programm_.Dateiname.empty()) namen.push_back(pfad(qtext(programm_.Dateiname)));
-        modell_->setzeDateien(std::move(*dateien));
-        waehleZeilen(namen);
-    }
-    for (Projektposition& position : positionen) modell_->nimmAuf(std::move(position));
-    zeigeZahlen();
-}
-
-// A folder tells of new and removed files, a file of those written where they stand.
-void Projektuebersicht::beobachte() {
-    QStringList dateien{qtext(pfadtext(ordner_))};
-    for (const Projektdatei& datei : modell_->dateien()) {
-        dateien << qtext(pfadtext(datei.position.datei));
-        if (datei.lastfaelle.groesse > 0) dateien << qtext(pfadtext(datei.lastfaelle.datei));
-    }
-    const QStringList schon = waechter_->files() + waechter_->directories();
-    const QSet<QString> bekannt(schon.begin(), schon.end());
-    dateien.removeIf([&](const QString& datei) { return bekannt.contains(datei); });
-    if (!dateien.isEmpty()) waechter_->addPaths(dateien);
+void Projektuebersicht::zeigeDateien(const std::vector<Projektdatei>& dateien, const QString& fehler) {
+    fehler_ = fehler;
+    std::vector<std::filesystem::path> namen;
+    for (const Projektposition* position : gewaehlte()) namen.push_back(position->datei.position.datei);
+    if (namen.empty() && !programm_.Dateiname.empty()) namen.push_back(pfad(qtext(programm_.Dateiname)));
+    modell_->setzeDateien(dateien);
+    waehleZeilen(namen);
 }
 
 // ---- Showing ----
@@ -433,8 +322,9 @@ std::vector<const Projektposition*> Projektuebersicht::gewaehlte() const {
     return positionen;
 }
 
-// "14 Positionen: 12 erfüllt, 1 nicht erfüllt, 1 nicht lesbar"
-void Projektuebersicht::zeigeZahlen() {
+// "14 Positionen: 12 erfüllt, 1 nicht erfüllt, 1 nicht lesbar", or why nothing more is read.
+void Projektuebersicht::zeigeZahlen(const QString& lesefehler) {
+    if (!lesefehler.isEmpty()) return zahlen_->setText(lesefehler);
     constexpr std::array<const char*, 4> worte{"erfüllt", "nicht erfüllt", "mit Hinweisen", "nicht lesbar"};
     std::array<int, worte.size()> staende{};
     int gelesen = 0;
@@ -449,7 +339,7 @@ void Projektuebersicht::zeigeZahlen() {
         if (staende[i] > 0) teile << QStringLiteral("%1 %2").arg(staende[i]).arg(qtext(worte[i]));
     const int alle = modell_->rowCount();
     QString text = alle == 1 ? QStringLiteral("1 Position") : QStringLiteral("%1 Positionen").arg(alle);
-    if (!fehler_.empty()) text = qtext(fehler_);
+    if (!fehler_.isEmpty()) text = fehler_;
     if (gelesen < alle) text += QStringLiteral(", %1 gelesen").arg(gelesen);
     if (!teile.isEmpty()) text += QStringLiteral(": ") + teile.join(QStringLiteral(", "));
     zahlen_->setText(text);
@@ -486,9 +376,9 @@ void Projektuebersicht::zeigeAuswahl() {
         if (const Projektposition* position = modell_->position(zeile)) zaehle(*position);
     mengen_->zeige(summe,
                    QStringLiteral("%1 (%2)").arg(
-                       projekt ? qtext(ordnername(ordner_)) : QStringLiteral("Auswahl"),
+                       projekt ? qtext(ordnername(leser_->ordner())) : QStringLiteral("Auswahl"),
                        waende == 1 ? QStringLiteral("1 Wand") : QStringLiteral("%1 Wände").arg(waende)),
-                   qtext(pfadtext(ordner_)));
+                   qtext(pfadtext(leser_->ordner())));
 }
 
 void Projektuebersicht::changeEvent(QEvent* event) {
@@ -510,14 +400,15 @@ void Projektuebersicht::oeffne(const QModelIndex& zeile) {
 void Projektuebersicht::drucke(Form form) {
     const auto ziel = waehleZiel(meldungen_, this,
                                  {.titel = QStringLiteral("Alle Positionen drucken"),
-                                  .ordner = qtext(pfadtext(ordner_)),
-                                  .vorschlag = qtext(ordnername(ordner_)) + QStringLiteral(".pdf"),
+                                  .ordner = qtext(pfadtext(leser_->ordner())),
+                                  .vorschlag = qtext(ordnername(leser_->ordner())) + QStringLiteral(".pdf"),
                                   .filter = QStringLiteral("PDF-Datei (*.pdf)"),
                                   .endung = QStringLiteral("pdf")});
     if (!ziel) return;
-    Sammelauftrag auftrag{modell_->dateien(),      ordnername(ordner_),        programm_.w.eigeneMaterialien,
-                          programm_.einstellungen, liesLogo(programm_.ordner), form,
-                          dezimalzeichen()};
+    Sammelauftrag auftrag{
+        modell_->dateien(),      ordnername(leser_->ordner()), programm_.w.eigeneMaterialien,
+        programm_.einstellungen, liesLogo(programm_.ordner),   form,
+        dezimalzeichen()};
     zeigeDruck(true);
     drucker_->starte([auftrag = std::move(auftrag)](
                          const Ausfuehrung& ausfuehrung) { return sammelpdf(auftrag, ausfuehrung); },

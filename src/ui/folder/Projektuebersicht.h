@@ -2,8 +2,6 @@
 
 #include <array>
 #include <filesystem>
-#include <memory>
-#include <string>
 #include <vector>
 
 #include "report/Bericht.h"
@@ -11,7 +9,6 @@
 #include "ui/basics/Fenster.h"
 
 class QComboBox;
-class QFileSystemWatcher;
 class QLabel;
 class QModelIndex;
 class QPlainTextEdit;
@@ -24,6 +21,7 @@ namespace rippenscheibe {
 class Hintergrund;
 class Mengenseite;
 class Projektfilter;
+class Projektleser;
 class Projektmodell;
 struct Sammelpdf;
 
@@ -40,22 +38,15 @@ class Projektuebersicht : public Fenster {
     void changeEvent(QEvent* event) override;
 
   private:
-    struct Eingang;  // what the reading thread hands over
-
     QWidget* baueKopf();
     QWidget* baueTabelle();
     QWidget* baueUnten();
     void baueKnoepfe();
     void waehleOrdner(const QString& ordner);
     void frageOrdner();
-    void liesNeu();
-    void nimmEntgegen();
-    void beobachte();
-    static void lies(Eingang& eingang, const std::filesystem::path& ordner,
-                     const std::vector<Projektdatei>& gelesene, const EigeneMaterialien& materialien,
-                     const Ausfuehrung& ausfuehrung);
+    void zeigeDateien(const std::vector<Projektdatei>& dateien, const QString& fehler);
     void waehleZeilen(const std::vector<std::filesystem::path>& namen);
-    void zeigeZahlen();
+    void zeigeZahlen(const QString& lesefehler);
     void zeigeAuswahl();
     std::vector<const Projektposition*> gewaehlte() const;
     void oeffne(const QModelIndex& zeile);
@@ -63,17 +54,12 @@ class Projektuebersicht : public Fenster {
     void sichere(const Sammelpdf& pdf, const QString& ziel);
     void zeigeDruck(bool laeuft);
 
-    std::filesystem::path ordner_;
     Projektmodell* modell_;
     Projektfilter* filter_;
-    Hintergrund* leser_;
+    Projektleser* leser_;
     Hintergrund* drucker_;
-    QFileSystemWatcher* waechter_;
-    QTimer* ruhe_;  // behind a burst of changes the folder is read once
-    QTimer* neu_;   // so are numbers and quantities formed
-    std::shared_ptr<Eingang> eingang_;
-    std::string fehler_;    // why the folder cannot be read
-    bool nochmal_ = false;  // the folder changed while it was read
+    QTimer* neu_;     // behind a burst of changes quantities are formed once
+    QString fehler_;  // why the folder cannot be read
 
     QComboBox* ordnerwahl_ = nullptr;
     QLabel* zahlen_ = nullptr;
