@@ -15,6 +15,7 @@ Auslegen::Auslegen(Programm& programm, Meldungen& meldungen, QWidget* parent)
     auto* seiten = new QTabWidget(this);
     seiten->setObjectName(QStringLiteral("Seiten"));
     seiten->setAccessibleName(QStringLiteral("Auslegen"));
+    seiten->setDocumentMode(true);  // the ground of the window, on which grey texts can be read
     auto* suche = new Suchseite(programm, this);
     auto* hilft = new WasHilftSeite(programm, this);
     seiten->addTab(suche, QStringLiteral("&Entwürfe suchen"));

@@ -120,7 +120,8 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
       kurven_(new Kurvenansicht),
       ansicht_(new Zeichnungsansicht(Zeichnung::ansicht)) {
     stand_->setObjectName(QStringLiteral("Stand"));
-    stand_->setWordWrap(true);
+    stand_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    stand_->setToolTip(QStringLiteral("Jeder Wert ist frisch und in beiden Richtungen von Fv gerechnet"));
     kurven_->setObjectName(QStringLiteral("Kurven"));
     kurven_->setzeDezimalzeichen(dezimalzeichen());
     kurven_->bieteDateien(programm, meldungen);
@@ -150,6 +151,11 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
     connect(wahl_, &Groessenwahl::geaendert, this, &Einfluss::rechne);
     connect(lastfaelle_, &QCheckBox::clicked, this, &Einfluss::rechne);
     connect(&programm, &Programm::geaendert, this, &Einfluss::rechne);
+    connect(&hintergrund_, &Hintergrund::fortschritt, this, [this](const Fortschritt& stand) {
+        if (stand.geprueft < stand.gesamt)
+            stand_->setText(
+                QStringLiteral("Wird gerechnet: %1 von %2 Werten").arg(stand.geprueft).arg(stand.gesamt));
+    });
     connect(kurven_, &Kurvenansicht::markeBewegt, this, &Einfluss::zeigeMarke);
     connect(bild_, &QPushButton::clicked, this, &Einfluss::oeffneBildmenue);
     connect(uebernehmen_, &QPushButton::clicked, this, [this] {
@@ -225,11 +231,9 @@ void Einfluss::zeige(Verlauf verlauf) {
     const auto bestehen =
         std::count_if(verlauf_.punkte.begin(), verlauf_.punkte.end(),
                       [](const Variationspunkt& p) { return p.bewertung.ausgang == Ausgang::besteht; });
-    stand_->setText(
-        QStringLiteral("%1 von %2 Werten bestehen; jeder ist in beiden Richtungen von Fv gerechnet. "
-                       "Die Marke lässt sich ziehen.")
-            .arg(bestehen)
-            .arg(verlauf_.punkte.size()));
+    stand_->setText(QStringLiteral("%1 von %2 Werten bestehen. Die Marke lässt sich ziehen.")
+                        .arg(bestehen)
+                        .arg(verlauf_.punkte.size()));
     Wand wand = verlauf_.heute;
     const double naechster = verlauf_.istListe ? 0 : Feldzugriff(wand).zahl(verlauf_.achse.felder.front());
     const double marke = std::isfinite(heute) ? heute : naechster;
