@@ -245,6 +245,14 @@ void Bemessungstafel::zeige() {
                         .arg(mitEinheit(t.groesste.felder), mitEinheit(t.zeilen.felder),
                              mitEinheit(t.spalten.felder),
                              faelle == 0 ? QString() : QStringLiteral(" Mit %1 Lastfällen.").arg(faelle)));
+    fuelleTabelle();
+    legende_->setText(farblegende(stand_.tafel, palette()));
+    tabelle_->setCurrentCell(0, 0);
+    zeigeZelle();
+}
+
+void Bemessungstafel::fuelleTabelle() {
+    const Tafelauftrag& t = stand_.auftrag;
     const auto texte = tafelzeilen(t, stand_.tafel, dezimalzeichen());
     const std::vector<std::string> alle = massgebende(stand_.tafel);
     const auto kopf = [](const Achse& achse) {
@@ -252,27 +260,24 @@ void Bemessungstafel::zeige() {
         for (const Achsenwert& wert : achse.werte) namen << werttext(wert);
         return namen;
     };
+    const auto feld = [&](std::size_t zeile, std::size_t spalte) {
+        const std::string& massgebend = stand_.tafel.zellen[zeile][spalte].massgebend;
+        auto* neu = new QTableWidgetItem(qtext(texte[zeile + 1][spalte + 1]));
+        neu->setTextAlignment(Qt::AlignCenter);
+        neu->setToolTip(qtext(massgebend));
+        const auto stelle = std::find(alle.begin(), alle.end(), massgebend);
+        if (stelle != alle.end())
+            neu->setBackground(tafelfarbe(static_cast<std::size_t>(stelle - alle.begin()), palette()));
+        return neu;
+    };
     tabelle_->clear();
     tabelle_->setRowCount(static_cast<int>(t.zeilen.werte.size()));
     tabelle_->setColumnCount(static_cast<int>(t.spalten.werte.size()));
     tabelle_->setVerticalHeaderLabels(kopf(t.zeilen));
     tabelle_->setHorizontalHeaderLabels(kopf(t.spalten));
     for (int i = 0; i < tabelle_->rowCount(); ++i)
-        for (int j = 0; j < tabelle_->columnCount(); ++j) {
-            const auto zeile = static_cast<std::size_t>(i);
-            const auto spalte = static_cast<std::size_t>(j);
-            const Tafelzelle& z = stand_.tafel.zellen[zeile][spalte];
-            auto* neu = new QTableWidgetItem(qtext(texte[zeile + 1][spalte + 1]));
-            neu->setTextAlignment(Qt::AlignCenter);
-            neu->setToolTip(qtext(z.massgebend));
-            const auto stelle = std::find(alle.begin(), alle.end(), z.massgebend);
-            if (stelle != alle.end())
-                neu->setBackground(tafelfarbe(static_cast<std::size_t>(stelle - alle.begin()), palette()));
-            tabelle_->setItem(i, j, neu);
-        }
-    legende_->setText(farblegende(stand_.tafel, palette()));
-    tabelle_->setCurrentCell(0, 0);
-    zeigeZelle();
+        for (int j = 0; j < tabelle_->columnCount(); ++j)
+            tabelle_->setItem(i, j, feld(static_cast<std::size_t>(i), static_cast<std::size_t>(j)));
 }
 
 const Tafelzelle* Bemessungstafel::zelle() const {

@@ -42,6 +42,7 @@ class Bemessungstafel : public Fenster {
     void zeigeUmfang();
     void starte();
     void zeige();
+    void fuelleTabelle();
     void zeigeZelle();
     // The cell that is chosen; nothing without a table.
     const Tafelzelle* zelle() const;

@@ -17,10 +17,10 @@
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Werteingabe.h"
-#include "ui/studyparts/Achsenwahl.h"
+#include "ui/study/Achsenwahl.h"
+#include "ui/study/Wandauswahl.h"
 #include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Laufleiste.h"
-#include "ui/studyparts/Wandauswahl.h"
 
 namespace rippenscheibe {
 

@@ -7,8 +7,8 @@
 
 #include "ui/basics/Fenster.h"
 #include "ui/basics/Programm.h"
+#include "ui/study/Wandauswahl.h"
 #include "ui/studyparts/Lastfallwahl.h"
-#include "ui/studyparts/Wandauswahl.h"
 
 namespace rippenscheibe {
 

@@ -1,4 +1,4 @@
-#include "ui/studyparts/Achsenwahl.h"
+#include "ui/study/Achsenwahl.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

@@ -1,4 +1,4 @@
-#include "ui/studyparts/Wandauswahl.h"
+#include "ui/study/Wandauswahl.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
