@@ -12,9 +12,11 @@ class Kurzzeile : public QLabel {
     explicit Kurzzeile(QWidget* parent = nullptr, int hoechstzeilen = 2);
 
     void setzeText(const QString& text);
+    bool setzeHoechstzeilen(int zeilen);  // whether they changed
     bool gekuerzt() const;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int breite) const override;
+    int hoehe(int breite, int hoechstzeilen) const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -22,7 +24,7 @@ class Kurzzeile : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    QStringList zeilen(int breite) const;
+    QStringList zeilen(int breite, int hoechstzeilen) const;
 
     int hoechstzeilen_;
 };

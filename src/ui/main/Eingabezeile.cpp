@@ -12,7 +12,8 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr int rand = 8;  // px around the contents of a row
+constexpr int rand = 8;  // px beside the contents of a row
+constexpr int oben = 3;  // px above and below them
 constexpr int symbolgroesse = 24;
 constexpr int pfeilbreite = 6;  // px of the chevron
 
@@ -41,6 +42,12 @@ void Eingabezeile::setzeZusammenfassung(const QString& text) {
     ordne();
 }
 
+void Eingabezeile::setzeSummenzeilen(int zeilen) {
+    if (!zusammenfassung_->setzeHoechstzeilen(zeilen)) return;
+    updateGeometry();
+    ordne();
+}
+
 void Eingabezeile::setzeTaste(const QKeySequence& taste) {
     taste_ = taste.toString(QKeySequence::NativeText);
     update();
@@ -50,12 +57,17 @@ int Eingabezeile::beschriftungshoehe() const { return fontMetrics().lineSpacing(
 
 // Right of the icon and left of the chevron.
 QRect Eingabezeile::textflaeche() const {
-    return rect().adjusted(2 * rand + symbolgroesse, rand - 2, -2 * rand - pfeilbreite, 2 - rand);
+    return rect().adjusted(2 * rand + symbolgroesse, oben, -2 * rand - pfeilbreite, -oben);
 }
 
+int Eingabezeile::summenbreite(int breite) const { return breite - 4 * rand - symbolgroesse - pfeilbreite; }
+
 int Eingabezeile::heightForWidth(int breite) const {
-    const int textbreite = breite - 4 * rand - symbolgroesse - pfeilbreite;
-    return beschriftungshoehe() + zusammenfassung_->heightForWidth(textbreite) + 2 * rand - 4;
+    return beschriftungshoehe() + zusammenfassung_->heightForWidth(summenbreite(breite)) + 2 * oben;
+}
+
+int Eingabezeile::hoehe(int breite, int summenzeilen) const {
+    return beschriftungshoehe() + zusammenfassung_->hoehe(summenbreite(breite), summenzeilen) + 2 * oben;
 }
 
 QSize Eingabezeile::sizeHint() const {

@@ -16,10 +16,13 @@ class Eingabezeile : public QPushButton {
 
     void setzeZusammenfassung(const QString& text);
     void setzeTaste(const QKeySequence& taste);  // shown only; the menu entry owns it
+    // The summary wraps into as many lines, then it is cut.
+    void setzeSummenzeilen(int zeilen);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int breite) const override;
+    int hoehe(int breite, int summenzeilen) const;
 
   protected:
     bool event(QEvent* event) override;
@@ -30,6 +33,7 @@ class Eingabezeile : public QPushButton {
     QRect textflaeche() const;
     void ordne();
     int beschriftungshoehe() const;
+    int summenbreite(int breite) const;
 
     Kurzzeile* zusammenfassung_;
     QString taste_;

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolButton>
@@ -17,6 +16,7 @@
 #include "ui/controls/Werteingabe.h"
 #include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/main/Akzentknopf.h"
+#include "ui/main/Eingabespalte.h"
 #include "ui/main/Eingabezeile.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/main/Form1_Zusammenfassung.h"
@@ -74,12 +74,7 @@ QWidget* Form1::baueLinkeSpalte() {
     gruppen->addWidget(baueAbmessungen());
     gruppen->addWidget(baueEingabe());
     gruppen->addStretch(1);
-    auto* rollen = new QScrollArea(spalte);
-    rollen->setWidget(inhalt);
-    rollen->setWidgetResizable(true);
-    rollen->setFrameShape(QFrame::NoFrame);
-    rollen->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    rollen->setFocusPolicy(Qt::NoFocus);
+    auto* rollen = new Eingabespalte(inhalt, spalte);
     rollen->setMinimumWidth(std::max(inhalt->minimumSizeHint().width() + 2 * raster, schmalsteSpalte));
     aussen->addWidget(rollen, 1);
 
@@ -93,7 +88,7 @@ QWidget* Form1::baueLinkeSpalte() {
         QFont schrift = knopf->font();
         schrift.setBold(true);
         knopf->setFont(schrift);
-        knopf->setMinimumHeight(5 * raster);
+        knopf->setMinimumHeight(4 * raster);
         setzeEnter(*knopf, Enter::weiter);  // no key starts a run
         ohneKuerzel(*knopf);
         connect(knopf, &QPushButton::clicked, this, [this, ausgabe] { rechneUndZeige(ausgabe); });
@@ -123,7 +118,8 @@ QGroupBox* Form1::baueAbmessungen() {
     auto* rahmen = new QGroupBox(QStringLiteral("Abmessungen"), this);
     auto* grid = new QGridLayout(rahmen);
     grid->setHorizontalSpacing(raster);
-    grid->setVerticalSpacing(raster);
+    grid->setContentsMargins(raster, raster / 2, raster, raster / 2);
+    grid->setVerticalSpacing(raster / 2);
     grid->setColumnStretch(2, 1);
     int index = 0;
     for (const Masszeile& zeile : zeilen) {
