@@ -23,6 +23,19 @@ QColor gemischt(const QColor& a, const QColor& b, double anteil) {
     return {kanal(a.red(), b.red()), kanal(a.green(), b.green()), kanal(a.blue(), b.blue())};
 }
 
+// The colour, mixed with that of the text until it has this contrast with every ground of the palette.
+QColor bisZu(const QColor& farbe, const QPalette& palette, double wieViel) {
+    const QColor fenster = palette.color(QPalette::Window);
+    const QColor feld = palette.color(QPalette::Base);
+    const QColor schrift = palette.color(QPalette::WindowText);
+    QColor neue = farbe;
+    for (int prozent = 0; prozent <= 100; prozent += 2) {
+        neue = gemischt(farbe, schrift, prozent / 100.0);
+        if (kontrast(neue, fenster) >= wieViel && kontrast(neue, feld) >= wieViel) break;
+    }
+    return neue;
+}
+
 // The ground of what is chosen, brought away from its text until that can be read.
 QColor auswahlgrund(const QPalette& farben) {
     const QColor schrift = farben.color(QPalette::HighlightedText);
@@ -44,11 +57,11 @@ void staerkeFarben() {
     const QColor auswahl = auswahlgrund(farben);
     if (neue == farben.color(QPalette::PlaceholderText) && auswahl == farben.color(QPalette::Highlight))
         return;
-    QPalette nurDiese;  // all other colours stay those of the desktop
-    nurDiese.setColor(QPalette::PlaceholderText, neue);
+    QPalette gestaerkt = farben;  // all other colours stay those of the desktop, or of who chose them
+    gestaerkt.setColor(QPalette::PlaceholderText, neue);
     for (const QPalette::ColorGroup gruppe : {QPalette::Active, QPalette::Inactive})
-        nurDiese.setColor(gruppe, QPalette::Highlight, auswahl);
-    QApplication::setPalette(nurDiese);
+        gestaerkt.setColor(gruppe, QPalette::Highlight, auswahl);
+    QApplication::setPalette(gestaerkt);
 }
 
 }  // namespace
@@ -59,16 +72,10 @@ double kontrast(const QColor& a, const QColor& b) {
     return (std::max(eine, andere) + 0.05) / (std::min(eine, andere) + 0.05);
 }
 
-QColor lesbar(const QColor& farbe, const QPalette& palette) {
-    const QColor fenster = palette.color(QPalette::Window);
-    const QColor feld = palette.color(QPalette::Base);
-    const QColor schrift = palette.color(QPalette::WindowText);
-    QColor neue = farbe;
-    for (int prozent = 0; prozent <= 100; prozent += 2) {
-        neue = gemischt(farbe, schrift, prozent / 100.0);
-        if (kontrast(neue, fenster) >= genug && kontrast(neue, feld) >= genug) break;
-    }
-    return neue;
+QColor lesbar(const QColor& farbe, const QPalette& palette) { return bisZu(farbe, palette, genug); }
+
+QColor abgehoben(const QPalette& palette, double wieViel) {
+    return bisZu(palette.color(QPalette::Window), palette, wieViel);
 }
 
 Zweitfarbe::Zweitfarbe(QObject* parent) : QObject(parent) {

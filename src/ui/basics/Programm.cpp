@@ -1,6 +1,6 @@
 #include "ui/basics/Programm.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QLocale>
 #include <QPrinter>
 #include <system_error>
@@ -12,6 +12,7 @@
 #include "ui/basics/Farben.h"
 #include "ui/basics/Fensteroeffner.h"
 #include "ui/basics/Klartext.h"
+#include "ui/basics/Rahmenstil.h"
 
 // Icons and translations lie in the library; naming them here links them in. The macro wants no namespace.
 static void bindeRessourcenEin() { Q_INIT_RESOURCE(ressourcen); }
@@ -30,6 +31,7 @@ Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {
     verbindeRessourcen();
     new Klartext(this);
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) Rahmenstil::setzeEin();
     new Zweitfarbe(this);
     std::error_code fehler;  // a folder that cannot be made shows when something is saved
     std::filesystem::create_directories(ordner, fehler);
