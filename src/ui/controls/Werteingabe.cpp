@@ -2,8 +2,10 @@
 
 #include <QFocusEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QTimer>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -224,6 +226,15 @@ void Werteingabe::zeigeBereich() {
     bereich_->show();
 }
 
+// As long as a mouse button is held nothing may move: what is clicked would no longer be under the pointer.
+void Werteingabe::zeigeBereichNachDemKlick() {
+    constexpr int gleichWieder = 50;  // ms
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        zeigeBereich();
+    else
+        QTimer::singleShot(gleichWieder, this, &Werteingabe::zeigeBereichNachDemKlick);
+}
+
 // Over the window or what scrolls in it, above the field where there is no room beneath.
 void Werteingabe::lasseBereichSchweben() {
     QWidget* flaeche = parentWidget();
@@ -261,7 +272,7 @@ void Werteingabe::focusInEvent(QFocusEvent* event) {
 void Werteingabe::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-    zeigeBereich();
+    zeigeBereichNachDemKlick();
     if (abgelehnt_) return;
     vorher_ = wert_;
     // A good text is put in order when the format shows all of it; else it stays as it was typed.

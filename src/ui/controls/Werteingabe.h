@@ -100,6 +100,7 @@ class Werteingabe : public QLineEdit {
     void aendere(double wert);
     void setzeAbgelehnt(bool abgelehnt);
     void zeigeBereich();
+    void zeigeBereichNachDemKlick();
     void lasseBereichSchweben();
 
     Wertvorgabe vorgabe_;
