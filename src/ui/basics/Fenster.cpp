@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -134,7 +135,10 @@ bool Tastenregel::eventFilter(QObject* object, QEvent* event) {
 }
 
 bool Tastenregel::taste(QWidget& feld, const QKeyEvent& taste) {
-    if (istZeichen(taste) && taste.key() != Qt::Key_Tab && taste.key() != Qt::Key_Backtab) Q_EMIT getippt();
+    // A key that walks the menu is none of the window.
+    const bool imMenue = qobject_cast<QMenuBar*>(&feld) != nullptr;
+    if (istZeichen(taste) && taste.key() != Qt::Key_Tab && taste.key() != Qt::Key_Backtab && !imMenue)
+        Q_EMIT getippt();
     if (istEnter(taste)) return (enter && enter(feld)) || drueckeEnter(feld, taste.isAutoRepeat());
     if (taste.key() == Qt::Key_Space || taste.key() == Qt::Key_Select) return regelVon(feld) == Enter::weiter;
     if (feld.objectName().startsWith(QStringLiteral("Text3")) &&
@@ -221,6 +225,12 @@ QLabel* Fenster::beschriftung(const QString& text, QWidget* feld) {
     schild->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     schild->setBuddy(feld);
     return schild;
+}
+
+void Fenster::setzeUeberFuss(QWidget* zeile) {
+    auto* aussen = static_cast<QVBoxLayout*>(layout());
+    zeile->setContentsMargins(fusszeile_->contentsMargins());
+    aussen->insertWidget(aussen->count() - 1, zeile);
 }
 
 QPushButton* Fenster::zurueck(const QString& name) {

@@ -85,6 +85,8 @@ class Fenster : public QDialog {
     QLabel* beschriftung(const QString& text, QWidget* feld);
     // The usual "Zurück" of small windows with its tool tip; it closes the window.
     QPushButton* zurueck(const QString& name);
+    // A line above the buttons that stays while the content scrolls.
+    void setzeUeberFuss(QWidget* zeile);
     // The row at the bottom, to put something at its left.
     QHBoxLayout* fusszeile() const { return fusszeile_; }
 

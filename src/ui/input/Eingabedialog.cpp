@@ -51,7 +51,7 @@ Eingabedialog::Eingabedialog(Programm& programm, Meldungen& meldungen, QWidget* 
     spalten->addLayout(skizzen_, 1);
     inhalt()->addLayout(spalten, 1);
     urteil_ = new Urteilszeile(this);
-    inhalt()->addWidget(urteil_);
+    setzeUeberFuss(urteil_);
 }
 
 void Eingabedialog::beginne() {

@@ -214,8 +214,9 @@ bool Form5::weichtAb(const Seitenfelder& s) {
 // The report prints the name of the nail that was chosen, whatever its sizes became. While one side says so,
 // the other keeps the room for it: the rows of the two stay in line.
 void Form5::zeigeAbweichung(Seite n) {
-    seiten_[n].abweichung->setText(QStringLiteral("⚠ d, l oder d - Kopf weichen vom Nagel %1 ab;\n"
-                                                  "der Ausdruck nennt nur dessen Namen.")
+    // Short, so that both sides and the sketch fit a small screen.
+    seiten_[n].abweichung->setText(QStringLiteral("⚠ d, l oder dk nicht wie bei %1;\n"
+                                                  "der Ausdruck nennt nur %1.")
                                        .arg(seiten_[n].nagel->currentText()));
     seiten_[n].abweichung->setVisible(weichtAb(seiten_[n]));
     const bool platz = std::ranges::any_of(beideSeiten, [this](Seite m) { return weichtAb(seiten_[m]); });

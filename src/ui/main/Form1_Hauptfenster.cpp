@@ -64,7 +64,7 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     mitte->setChildrenCollapsible(false);
     mitte->addWidget(baueLinkeSpalte());
     mitte->addWidget(baueRechteSpalte());
-    mitte->setSizes({380, 800});
+    mitte->setSizes({400, 780});
     mitte->setStretchFactor(0, 0);
     mitte->setStretchFactor(1, 1);
     setCentralWidget(mitte);
@@ -76,7 +76,9 @@ Form1::Form1(Programm& programm, Meldungen& meldungen, QWidget* parent)
     connect(regel, &Tastenregel::getippt, this, [this] { programm_.setzeGesichert(false); });
     connect(&programm_, &Programm::geaendert, this, &Form1::zeige);
     connect(&programm_, &Programm::ersetzt, this, [this] {
-        // A refused text does not outlive its position.
+        // The visit of a field ends with its position, and a refused text with it.
+        feldbesuch_ = false;
+        zeigeSchritte();
         for (const Massfeld& feld : felder_) feld.eingabe->setzeWert(programm_.felder.*feld.mass);
     });
     connect(&programm_, &Programm::zustandGeaendert, this, &Form1::zeigeTitel);

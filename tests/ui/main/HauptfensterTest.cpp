@@ -58,6 +58,10 @@ TEST_F(Hauptfenster, ANewPositionIsUnchangedUntilAKeyIsTyped) {
     EXPECT_FALSE(programm.w.Datum.empty());
     EXPECT_FALSE(titel().startsWith(QLatin1Char('*'))) << titel().toStdString();
     EXPECT_TRUE(meldungen.gezeigt.empty());
+    fenster.show();
+    fenster.menuBar()->setFocus();
+    QTest::keyClick(fenster.menuBar(), Qt::Key_Escape);  // leaves the menu, enters nothing
+    EXPECT_FALSE(titel().startsWith(QLatin1Char('*'))) << titel().toStdString();
     auto& laenge = wert(fenster, "Textbox1(0)");
     laenge.setFocus();
     QTest::keyClick(&laenge, Qt::Key_5);
