@@ -117,7 +117,11 @@ void pruefeEnter(QWidget& fenster) {
         }
         Horcher horcher;
         feld->installEventFilter(&horcher);
-        feld->setFocus();
+        // A window manager gives the focus when it comes to it.
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            feld->setFocus();
+            return feld->hasFocus();
+        }));
         QTest::keyClick(feld, Qt::Key_Return);
         // In the calculator Enter is "=" everywhere but on "Zurück".
         const bool rechner = fenster.objectName() == QStringLiteral("Form3");
@@ -205,7 +209,8 @@ TEST_F(Rundgang, EveryWindowNamesItsControlsAndReachesThemByTheTabKey) {
     });
 }
 
-// What a screen reader gets of a control: a role, a name, and for a value its range and a tool tip.
+// What a screen reader gets of a control: a role, a name, a description, and for a value its range and a
+// tool tip.
 void pruefeVorlesen(QWidget& fenster) {
     for (QWidget* feld : fenster.findChildren<QWidget*>()) {
         if (!nimmtEingabe(*feld) || eigenesTeil(*feld)) continue;
@@ -216,6 +221,7 @@ void pruefeVorlesen(QWidget& fenster) {
         EXPECT_NE(leser->role(), QAccessible::Client);
         EXPECT_FALSE(leser->text(QAccessible::Name).trimmed().isEmpty());
         EXPECT_FALSE(leser->text(QAccessible::Name).contains(QLatin1Char('&')));
+        EXPECT_FALSE(leser->text(QAccessible::Description).trimmed().isEmpty());
         const auto* wert = qobject_cast<const Werteingabe*>(feld);
         if (wert == nullptr || !wert->isEnabled() || wert->isReadOnly()) continue;
         EXPECT_TRUE(leser->text(QAccessible::Description).contains(QStringLiteral("zulässig:")));
@@ -224,12 +230,14 @@ void pruefeVorlesen(QWidget& fenster) {
     }
 }
 
-TEST_F(Rundgang, AScreenReaderGetsRoleNameAndRangeOfEveryControl) { jedesFenster(pruefeVorlesen); }
+TEST_F(Rundgang, AScreenReaderGetsRoleNameDescriptionAndRangeOfEveryControl) { jedesFenster(pruefeVorlesen); }
 
 TEST_F(Rundgang, TextsStandOutOnEveryGround) {
     const QPalette vorher = QApplication::palette();
     for (const char* name : {"hell", "dunkel", "kontrast"}) {
-        QApplication::setPalette(kontrastpalette(QLatin1String(name)));
+        const QPalette farben = kontrastpalette(QLatin1String(name));
+        QApplication::setPalette(farben);
+        ASSERT_EQ(QApplication::palette().color(QPalette::Window), farben.color(QPalette::Window)) << name;
         jedesFenster([name](QWidget& fenster) {
             EXPECT_EQ(schwacheTexte(fenster).join(QLatin1Char('\n')).toStdString(), "") << name;
         });

@@ -89,6 +89,21 @@ const QHash<QString, QString>& beschreibungen() {
         {QStringLiteral("keine Dämmung vorhanden"), QStringLiteral("Das Eigengewicht der Wand ohne Dämmung")},
         {QStringLiteral("Dämmung vorhanden >>>"), QStringLiteral("Das Eigengewicht der Wand mit Dämmung")},
         {QStringLiteral("Standardpfad"), QStringLiteral("Ordner, in dem Dateifenster beginnen")},
+        {QStringLiteral("Ecke der Tabelle"), QStringLiteral("Ohne Wirkung")},
+        {QStringLiteral("Ecke der Tafel"), QStringLiteral("Ohne Wirkung")},
+        {QStringLiteral("Mengen"), QStringLiteral("Holz, Platten, Verbindungsmittel und Anker der Wände")},
+        {QStringLiteral("Lastfälle"),
+         QStringLiteral("Je Zeile ein Lastfall mit seinen Lasten und dem Urteil")},
+        {QStringLiteral("Positionen des Projekts"),
+         QStringLiteral("Je Zeile eine Position mit ihrem Urteil, Eingabetaste öffnet sie")},
+        {QStringLiteral("Hinweise und Lücken der gewählten Positionen"), QStringLiteral("Nur Anzeige")},
+        {QStringLiteral("Entwürfe"),
+         QStringLiteral("Je Zeile eine Wand, die besteht; die gewählte wird gezeigt")},
+        {QStringLiteral("Nächste Schritte"),
+         QStringLiteral("Je Zeile eine Änderung und was sie bewirkt; die gewählte wird gezeigt")},
+        {QStringLiteral("Eingabe"), QStringLiteral("Die Eingabe, die verändert wird")},
+        {QStringLiteral("Bemessungstafel"),
+         QStringLiteral("Je Zelle, was eine Wand dieser Zeile und Spalte trägt oder ausnutzt")},
     };
     return alle;
 }

@@ -59,8 +59,10 @@ Variantenvergleich::Variantenvergleich(Programm& programm, Meldungen& meldungen,
     baueMerkzeile();
     baueTabelle();
     speichern_ = schaltflaeche(QStringLiteral("ComSpeichern"), QStringLiteral("Als Position &speichern ..."));
+    speichern_->setToolTip(QStringLiteral("Speichert die gewählte Variante als Positionsdatei"));
     connect(speichern_, &QPushButton::clicked, this, &Variantenvergleich::speichere);
     loeschen_ = schaltflaeche(QStringLiteral("ComLoeschen"), QStringLiteral("Variante &löschen"));
+    loeschen_->setToolTip(QStringLiteral("Vergisst die gewählte Variante"));
     connect(loeschen_, &QPushButton::clicked, this, &Variantenvergleich::loesche);
     zurueck(QStringLiteral("ComEnde"));
     constexpr QSize platzFuerDrei(900, 560);
@@ -74,6 +76,7 @@ void Variantenvergleich::baueMerkzeile() {
     name_ = new QLineEdit(this);
     name_->setObjectName(QStringLiteral("Text1"));
     name_->setAccessibleName(QStringLiteral("Name der Variante"));
+    name_->setToolTip(QStringLiteral("Unter diesem Namen stehen die Eingaben in der Tabelle"));
     schild->setBuddy(name_);
     auto* knopf = new QPushButton(QStringLiteral("Variante &merken"), this);
     knopf->setObjectName(QStringLiteral("ComMerken"));
@@ -91,19 +94,23 @@ void Variantenvergleich::baueTabelle() {
     tabelle_ = new QTableWidget(this);
     tabelle_->setObjectName(QStringLiteral("Variantentabelle"));
     tabelle_->setAccessibleName(windowTitle());
+    tabelle_->setAccessibleDescription(
+        QStringLiteral("Je Spalte eine Variante mit Urteil, Ausnutzungen und abweichenden Eingaben"));
     tabelle_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tabelle_->setSelectionBehavior(QAbstractItemView::SelectColumns);
     tabelle_->setSelectionMode(QAbstractItemView::SingleSelection);
     tabelle_->setTabKeyNavigation(false);
     tabelle_->setCornerButtonEnabled(false);
-    tabelle_->findChild<QAbstractButton*>()->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
+    auto* ecke = tabelle_->findChild<QAbstractButton*>();
+    ecke->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
+    ecke->setAccessibleDescription(QStringLiteral("Ohne Wirkung"));
     tabelle_->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     tabelle_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     constexpr int schmalsteSpalte = 130;
     tabelle_->horizontalHeader()->setMinimumSectionSize(schmalsteSpalte);
     // Texts wrap at the width that the window gives the columns.
     connect(tabelle_->horizontalHeader(), &QHeaderView::sectionResized, tabelle_,
-            &QTableView::resizeRowsToContents);
+            &QTableView::resizeRowsToContents, Qt::QueuedConnection);
     connect(tabelle_, &QTableWidget::itemSelectionChanged, this, &Variantenvergleich::zeigeAuswahl);
     inhalt()->addWidget(tabelle_, 1);
     legende_ = new QLabel(this);

@@ -65,9 +65,10 @@ Kurzzeile* zeile(const char* name, int hoechstzeilen, QVBoxLayout& reihe) {
 }
 
 // A screen reader says the new verdict at once.
-void sageAn(QWidget& schild) {
+QString sageAn(QWidget& schild) {
     QAccessibleEvent gemeldet(&schild, QAccessible::Alert);
     QAccessible::updateAccessibility(&gemeldet);
+    return schild.accessibleName();
 }
 
 // A finding that leads to its dialog: two lines of text that can be pressed.
@@ -137,7 +138,7 @@ void Urteilszeile::zeige(const Sofortergebnis& ergebnis) {
     setAccessibleName(urteil_ + QStringLiteral(" · ") + rest_);
     setToolTip(accessibleName());
     update();
-    if (isVisible() && vorher != urteil_) sageAn(*this);
+    if (isVisible() && vorher != urteil_) Q_EMIT angesagt(sageAn(*this));
 }
 
 QSize Urteilszeile::sizeHint() const { return {0, fontMetrics().height() + 4}; }
@@ -146,16 +147,17 @@ QSize Urteilszeile::minimumSizeHint() const { return sizeHint(); }
 
 void Urteilszeile::paintEvent(QPaintEvent*) {
     QPainter maler(this);
+    const QRect flaeche = contentsRect();
     QFont fett = font();
     fett.setWeight(QFont::Medium);
     maler.setFont(fett);
     maler.setPen(urteilsfarbe(palette(), art_));
-    const QString urteil = maler.fontMetrics().elidedText(urteil_, Qt::ElideRight, width());
+    const QString urteil = maler.fontMetrics().elidedText(urteil_, Qt::ElideRight, flaeche.width());
     const int breite = maler.fontMetrics().horizontalAdvance(urteil + QStringLiteral("   "));
-    maler.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, urteil);
+    maler.drawText(flaeche, Qt::AlignLeft | Qt::AlignVCenter, urteil);
     maler.setFont(font());
     maler.setPen(palette().color(QPalette::WindowText));
-    const QRect platz = rect().adjusted(breite, 0, 0, 0);
+    const QRect platz = flaeche.adjusted(breite, 0, 0, 0);
     maler.drawText(platz, Qt::AlignLeft | Qt::AlignVCenter,
                    fontMetrics().elidedText(rest_, Qt::ElideRight, platz.width()));
 }
@@ -237,7 +239,7 @@ void Urteilsanzeige::zeige(const Sofortergebnis& ergebnis) {
         zeigeHinweise();
     seiten_->setCurrentIndex(ergebnis.urteil.maxEta ? 0 : 1);
     faerbe();
-    if (vorher != urteil_->text()) sageAn(*urteil_);
+    if (vorher != urteil_->text()) Q_EMIT angesagt(sageAn(*urteil_));
 }
 
 void Urteilsanzeige::zeigeLastfaelle(const std::optional<Fallurteil>& massgebend, const QString& fehler) {

@@ -27,6 +27,9 @@ class Urteilszeile : public QLabel {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+  Q_SIGNALS:
+    void angesagt(const QString& text);  // what a screen reader was given to say
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -52,6 +55,7 @@ class Urteilsanzeige : public QWidget {
   Q_SIGNALS:
     void abschnittGewaehlt(int abschnitt);  // 5.x
     void hinweisGewaehlt(Eingabeort ort);
+    void angesagt(const QString& text);  // what a screen reader was given to say
 
   protected:
     void changeEvent(QEvent* event) override;

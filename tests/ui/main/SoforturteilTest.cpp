@@ -128,5 +128,25 @@ TEST_F(Soforturteil, AnInputDialogJudgesWhatStandsInIt) {
     EXPECT_EQ(programm.w.Fvk.value(), 3.0F);
 }
 
+TEST_F(Soforturteil, AScreenReaderSaysAVerdictThatChangesAndNoOther) {
+    QSignalSpy haupt(fenster.findChild<Urteilsanzeige*>(), &Urteilsanzeige::angesagt);
+    programm.felder.Wandlaenge = 6;
+    programm.zuweisen();
+    EXPECT_EQ(haupt.count(), 0);
+    programm.w.Fvk = 400;
+    programm.zuweisen();
+    ASSERT_EQ(haupt.count(), 1);
+    EXPECT_TRUE(haupt[0][0].toString().startsWith(QStringLiteral("✗ ")));
+    mitFenster([this] { klicke(fenster, "Command4"); },
+               [&](QWidget& form) {
+                   QSignalSpy schmal(&finde<Urteilszeile>(form, "SofortUrteil"), &Urteilszeile::angesagt);
+                   tippe(form, "Textbox1(6)", "1");
+                   EXPECT_EQ(schmal.count(), 0);
+                   tippe(form, "Textbox1(0)", "3");
+                   ASSERT_EQ(schmal.count(), 1);
+                   EXPECT_TRUE(schmal[0][0].toString().startsWith(QStringLiteral("✓ ")));
+               });
+}
+
 }  // namespace
 }  // namespace rippenscheibe
