@@ -47,7 +47,8 @@ Form23::Form23(Programm& programm, Meldungen& meldungen, QWidget* parent)
     teiler->addWidget(streifen_);
     teiler->addWidget(mitHerleitung(baueText()));
     teiler->setStretchFactor(1, 1);
-    teiler->setSizes({170, 480});
+    // The tree shows all sections at first.
+    teiler->setSizes({12 * fontMetrics().lineSpacing() + 4, 480});
     inhalt()->addWidget(teiler, 1);
     connect(streifen_->baum(), &Ausnutzungsbaum::zeileGewaehlt, this,
             [this](int zeile) { zeigeZeile(zeilen_, zeile); });
@@ -229,6 +230,8 @@ void Form23::fuegeSystembildEin() {
     const QByteArray papierbild = png(wand, aufloesungBild, stil);
     systembilder_.push_back({fuegeBildEin(marke, papierbild, wand.mm, {}), wand});
     zeichneSystembilder();
+    zeile_ = {};  // a lit line would light the picture too
+    zeigeMarken();
     text_->ensureCursorVisible();
 }
 

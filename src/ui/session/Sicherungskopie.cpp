@@ -94,7 +94,8 @@ bool Sicherungskopie::stelleWiederHer(Meldungen& meldungen, QWidget* fenster) {
         const std::string& name = gelesen.wert.name;
         const QString text =
             QStringLiteral(
-                "Das Programm wurde nicht ordnungsgemäß beendet.\n\nPosition: %1\nzuletzt selbsttätig "
+                "Eine Position war nicht gespeichert, als das Programm endete.\n\nPosition: %1\nzuletzt "
+                "selbsttätig "
                 "gesichert: %2\n\nSoll dieser Stand wiederhergestellt werden?")
                 .arg(name.empty() ? QStringLiteral("<Neue Datei>") : qtext(name), zeitpunkt(platz));
         const Antwort antwort = frageNach(meldungen, fenster, text);
