@@ -115,20 +115,6 @@ TEST_F(Dialog, ARefusedTextRefusesTheAcceptButNoOtherWayOut) {
     }
 }
 
-TEST_F(Dialog, ARefusedTextMovesNoButtonAwayFromTheMouse) {
-    Form5 form(programm, meldungen, nullptr);
-    form.show();
-    tippe(form, "Textbox1(0)", "9999");
-    auto& ende = finde<QPushButton>(form, "ComEnde");
-    const QPoint ort = ende.mapTo(&form, QPoint());
-    const QPoint zeiger = ort + ende.rect().center();
-    QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, zeiger);
-    QTest::qWait(100);
-    EXPECT_EQ(ende.mapTo(&form, QPoint()).y(), ort.y());
-    QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, zeiger);
-    EXPECT_EQ(meldungen.gezeigt.size(), 1U);
-}
-
 TEST_F(Dialog, AnAcceptedChangeByTheMouseAloneCountsAsUnsaved) {
     Form12 form(programm, meldungen, nullptr);
     form.show();
