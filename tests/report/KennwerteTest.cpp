@@ -55,13 +55,13 @@ void holz(Tafel& tafel) {
     }
 }
 
-// Thicknesses in mm that stand for the bands of a material: one inside each, the last outside of all.
+// Thicknesses in mm that stand for the bands of a material: the upper end of each, the last outside of all.
 std::vector<double> dicken(Platte p) {
-    if (istOsb(p)) return {8, 14, 22, 26};
+    if (istOsb(p)) return {10, 18, 25, 26};
     if (istGipskarton(p)) return {12.5, 15, 18, 20};
     if (istGipsfaser(p)) return {10, 12.5, 15, 18, 20};
-    if (istSpanplatte(p)) return {10, 16, 22, 28, 36, 45, 51};
-    return {10, 16, 22, 28, 31};
+    if (istSpanplatte(p)) return {13, 20, 25, 32, 40, 50, 51};
+    return {10, 18, 25, 30, 31};
 }
 
 std::vector<double> plattenwerte(int material, double t, Seite n) {
