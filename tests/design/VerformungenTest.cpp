@@ -122,10 +122,13 @@ TEST(Ankerzugkraft, SimplifiedTakesThePermanentCompressionOfTheTensionEdgeAndRai
     w.FcdStabilitaet(1) = 2.7;
     ankerzugkraft(w);
     EXPECT_NEAR(w.Ftdst.value(), 9 - 0.9 / 1.35 * 2.7, eps);
-    w.Lastfall = 3;
-    ankerzugkraft(w);
-    EXPECT_NEAR(w.FEdge.value(), 10, eps);
-    EXPECT_NEAR(w.Ftdst.value(), 10 - 1.8, eps);
+    for (const int vertikal : {2, 3}) {
+        w.Lastfall = vertikal;
+        w.FEdge = 9;
+        ankerzugkraft(w);
+        EXPECT_NEAR(w.FEdge.value(), 10, eps);
+        EXPECT_NEAR(w.Ftdst.value(), 10 - 1.8, eps);
+    }
     w.FcdStabilitaet(1) = 27;
     ankerzugkraft(w);
     EXPECT_EQ(w.Ftdst.value(), 0);
