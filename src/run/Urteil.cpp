@@ -70,6 +70,11 @@ std::array<Nachweiswert, anzahlNachweise> nachweiswerte(const Wand& w) {
     return werte;
 }
 
+int ueberschritteneNachweise(const Wand& w) {
+    const auto werte = nachweiswerte(w);
+    return static_cast<int>(std::ranges::count_if(werte, [](const Nachweiswert& n) { return n.eta > 1; }));
+}
+
 Urteil urteil(const Wand& w, Laufergebnis ergebnis) {
     if (ergebnis == Laufergebnis::hinweise) return {};
     const auto werte = nachweiswerte(w);

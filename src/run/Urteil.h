@@ -22,6 +22,8 @@ struct Nachweiswert {
 constexpr std::size_t anzahlNachweise = 11;
 // All proofs in the order of the report. The anchorage counts 0 while its proof is switched off.
 std::array<Nachweiswert, anzahlNachweise> nachweiswerte(const Wand& w);
+// How many of them are not met.
+int ueberschritteneNachweise(const Wand& w);
 
 struct Urteil {
     // The largest value of all proofs, unrounded, at least 0: above 1 exactly when not all proofs are met.

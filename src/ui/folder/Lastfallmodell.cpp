@@ -10,7 +10,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
-#include "ui/verdict/Sofortrechnung.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 

@@ -13,7 +13,7 @@
 #include "ui/drawings/Zeichnungen.h"
 #include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
-#include "ui/verdict/Sofortrechnung.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 

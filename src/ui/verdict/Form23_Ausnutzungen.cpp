@@ -3,11 +3,10 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <algorithm>
-#include <cmath>
 
-#include "basis/Zahlenformat.h"
 #include "ui/basics/Programm.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 
@@ -74,7 +73,7 @@ class Balkenzeile : public QStyledItemDelegate {
 QString abschnittswert(const Abschnittsurteil& abschnitt, Balkenurteil urteil, char dezimalzeichen) {
     if (urteil == Balkenurteil::ohneBedarf) return QStringLiteral("–");
     if (urteil == Balkenurteil::ohneNachweis && abschnitt.groesster == 0) return QString();
-    return ausnutzungstext(abschnitt.groesster, dezimalzeichen);
+    return etatext(abschnitt.groesster, dezimalzeichen);
 }
 
 struct Zeileninhalt {
@@ -119,16 +118,6 @@ void beschrifteFalte(QTreeWidgetItem* falte) {
 }
 
 }  // namespace
-
-QString ausnutzungstext(double eta, char dezimalzeichen) {
-    if (!std::isfinite(eta)) return QStringLiteral("∞");
-    constexpr std::string_view maske = "0.000000000000000";
-    std::size_t laenge = std::string_view("0.00").size();
-    while (eta > 1 && laenge < maske.size() &&
-           std::round(eta * std::pow(10, laenge - 2)) == std::pow(10, laenge - 2))
-        ++laenge;
-    return qtext(formatiere(maske.substr(0, laenge), eta, dezimalzeichen));
-}
 
 Ausnutzungsbaum::Ausnutzungsbaum(QWidget* parent) : QTreeWidget(parent) {
     setHeaderHidden(true);
@@ -208,7 +197,7 @@ void Ausnutzungsbaum::baue() {
             fuegeHinzu(eltern, {qtext(z.name),
                                 z.eta,
                                 z.erfuellt ? Balkenurteil::erfuellt : Balkenurteil::ueberschritten,
-                                ausnutzungstext(z.eta, dezimalzeichen_),
+                                etatext(z.eta, dezimalzeichen_),
                                 {}})
                 ->setData(0, Zeilennummer, static_cast<int>(j));
         }

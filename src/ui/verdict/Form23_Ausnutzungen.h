@@ -40,7 +40,4 @@ class Ausnutzungsbaum : public QTreeWidget {
     Reihenfolge reihenfolge_ = Reihenfolge::bericht;
 };
 
-// "0,73"; above 1 as many places as it takes to tell it from 1; "∞" when there is no resistance.
-QString ausnutzungstext(double eta, char dezimalzeichen);
-
 }  // namespace rippenscheibe

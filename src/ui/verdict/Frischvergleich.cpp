@@ -1,13 +1,12 @@
 #include "ui/verdict/Frischvergleich.h"
 
-#include <algorithm>
 #include <string>
 
 #include "report/Bericht.h"
 #include "report/Textausgabe.h"
 #include "run/FrischerLauf.h"
 #include "ui/basics/Programm.h"
-#include "ui/verdict/Form23_Ausnutzungen.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 
@@ -33,23 +32,15 @@ QString ursache(const Wand& w, const std::string& text) {
 }  // namespace
 
 QString urteilssatz(const Wand& w, Laufergebnis ergebnis) {
-    if (ergebnis == Laufergebnis::hinweise)
-        return w.Hinweise.size() == 1 ? QStringLiteral("! 1 Hinweis")
-                                      : QStringLiteral("! %1 Hinweise").arg(w.Hinweise.size());
-    if (urteil(w).erfuellt()) return QStringLiteral("✓ Alle Nachweise erfüllt");
-    const auto werte = nachweiswerte(w);
-    const auto anzahl =
-        std::count_if(werte.begin(), werte.end(), [](const Nachweiswert& n) { return n.eta > 1; });
-    return anzahl == 1 ? QStringLiteral("✗ 1 Nachweis überschritten")
-                       : QStringLiteral("✗ %1 Nachweise überschritten").arg(anzahl);
+    if (ergebnis == Laufergebnis::hinweise) return QStringLiteral("! ") + hinweiszahl(w.Hinweise.size());
+    return nachweissatz(ueberschritteneNachweise(w));
 }
 
 QString massgebendsatz(const Wand& w, Laufergebnis ergebnis) {
     const Urteil u = urteil(w, ergebnis);
     if (!u.maxEta) return w.Hinweise.empty() ? QString() : qtext(w.Hinweise.front().text);
     if (!u.massgebend) return QStringLiteral("keine Beanspruchung");
-    return QStringLiteral("maßgebend %1 · %2")
-        .arg(ausnutzungstext(*u.maxEta, dezimalzeichen()), qtext(*u.massgebend));
+    return QStringLiteral("maßgebend %1 · %2").arg(etatext(*u.maxEta), qtext(*u.massgebend));
 }
 
 std::optional<Frischvergleich> frischvergleich(const Wand& w) {

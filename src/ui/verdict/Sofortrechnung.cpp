@@ -1,12 +1,9 @@
 #include "ui/verdict/Sofortrechnung.h"
 
-#include <algorithm>
-#include <cmath>
-
-#include "basis/Zahlenformat.h"
 #include "run/FrischerLauf.h"
 #include "run/Luecken.h"
 #include "ui/basics/Programm.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 
@@ -23,9 +20,7 @@ Sofortergebnis lies(const Wand& w, Laufergebnis lauf) {
     ergebnis.hinweise = w.Hinweise;
     ergebnis.urteil = urteil(w, lauf);
     if (lauf == Laufergebnis::hinweise) return ergebnis;
-    const auto werte = nachweiswerte(w);
-    ergebnis.ueberschritten = static_cast<int>(
-        std::count_if(werte.begin(), werte.end(), [](const Nachweiswert& wert) { return wert.eta > 1; }));
+    ergebnis.ueberschritten = ueberschritteneNachweise(w);
     ergebnis.abschnitte = abschnittsurteile(w);
     ergebnis.luecken = qtexte(lueckensaetze(w));
     return ergebnis;
@@ -62,15 +57,9 @@ std::optional<Fallurteil> rechneLastfaelle(const Wand& w, const std::vector<Last
 }
 
 QString urteilstext(const Sofortergebnis& ergebnis) {
-    const std::size_t hinweise = ergebnis.hinweise.size();
     if (!ergebnis.urteil.maxEta)
-        return hinweise == 1 ? QStringLiteral("! 1 Hinweis, keine Berechnung")
-                             : QStringLiteral("! %1 Hinweise, keine Berechnung").arg(hinweise);
-    QString text = QStringLiteral("✓ Alle Nachweise erfüllt");
-    if (ergebnis.ueberschritten > 0)
-        text = ergebnis.ueberschritten == 1
-                   ? QStringLiteral("✗ 1 Nachweis überschritten")
-                   : QStringLiteral("✗ %1 Nachweise überschritten").arg(ergebnis.ueberschritten);
+        return QStringLiteral("! %1, keine Berechnung").arg(hinweiszahl(ergebnis.hinweise.size()));
+    QString text = nachweissatz(ergebnis.ueberschritten);
     if (!ergebnis.luecken.isEmpty())
         text += QStringLiteral(" · ! %1 nicht nachgewiesen").arg(ergebnis.luecken.size());
     return text;
@@ -80,16 +69,6 @@ QString massgebendtext(const Urteil& urteil) {
     if (!urteil.maxEta) return {};
     if (!urteil.massgebend) return QStringLiteral("ohne Beanspruchung");
     return QStringLiteral("maßgebend %1 · %2").arg(etatext(*urteil.maxEta), qtext(*urteil.massgebend));
-}
-
-QString etatext(double eta) {
-    if (!std::isfinite(eta)) return QStringLiteral("∞");
-    QString text;
-    for (const char* maske : {"0.00", "0.000", "0.0000", "0.00000000"}) {
-        text = qtext(formatiere(maske, eta, dezimalzeichen()));
-        if (eta <= 1 || text != qtext(formatiere(maske, 1.0, dezimalzeichen()))) break;
-    }
-    return text;
 }
 
 }  // namespace rippenscheibe

@@ -36,7 +36,5 @@ Sofortergebnis rechneFrischFuer(Wand& w, const Grundmasse& felder);
 QString urteilstext(const Sofortergebnis& ergebnis);
 // "maßgebend 0,61 · 5.1 Scheibenschub parallel"; empty without a run.
 QString massgebendtext(const Urteil& urteil);
-// Two decimals; above 1 as many as tell the value from 1.
-QString etatext(double eta);
 
 }  // namespace rippenscheibe

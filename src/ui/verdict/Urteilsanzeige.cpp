@@ -12,6 +12,7 @@
 #include "ui/basics/Programm.h"
 #include "ui/controls/Kurzzeile.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 

@@ -1,9 +1,11 @@
+#include <cmath>
 #include <limits>
 
 #include "support/Gerechnet.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
 #include "ui/verdict/Urteilsanzeige.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 namespace {
@@ -66,8 +68,11 @@ TEST_F(Soforturteil, ThreeThingsLookLikeThree) {
 
 TEST_F(Soforturteil, AValueAboveOneNeverReadsOne) {
     const std::pair<double, const char*> faelle[] = {
-        {0.6149, "0,61"},        {1.0, "1,00"},  {1.004, "1,004"},
-        {1.00002, "1,00002000"}, {1.25, "1,25"}, {std::numeric_limits<double>::infinity(), "∞"}};
+        {0.6149, "0,61"},        {0.999, "1,00"},
+        {1.0, "1,00"},           {1.004, "1,004"},
+        {1.00002, "1,00002"},    {1 + 1e-12, "1,000000000001"},
+        {1.25, "1,25"},          {std::nextafter(1.0, 2), "1,0000000000000002"},
+        {2.125e6, "2125000,00"}, {std::numeric_limits<double>::infinity(), "∞"}};
     for (const auto& [eta, gelesen] : faelle) EXPECT_EQ(etatext(eta), QString::fromUtf8(gelesen));
 }
 

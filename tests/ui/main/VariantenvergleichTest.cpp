@@ -3,6 +3,7 @@
 #include "support/Gerechnet.h"
 #include "ui/main/Form1_Hauptfenster.h"
 #include "ui/main/Variantenvergleich.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 namespace {

@@ -231,15 +231,6 @@ TEST_F(Ergebnisansicht, TheStripTellsWhereAFreshRunSaysSomethingElse) {
     EXPECT_FALSE(ursache().isEmpty());
 }
 
-TEST_F(Ergebnisansicht, AUtilisationWithoutResistanceIsInfinite) {
-    EXPECT_EQ(ausnutzungstext(std::numeric_limits<double>::infinity(), ','), QStringLiteral("∞"));
-    EXPECT_EQ(ausnutzungstext(1.0, ','), QStringLiteral("1,00"));
-    EXPECT_EQ(ausnutzungstext(0.999, ','), QStringLiteral("1,00"));
-    EXPECT_EQ(ausnutzungstext(1.004, ','), QStringLiteral("1,004"));
-    EXPECT_EQ(ausnutzungstext(1.00004, ','), QStringLiteral("1,00004"));
-    EXPECT_EQ(ausnutzungstext(1.2345, ','), QStringLiteral("1,23"));
-}
-
 TEST_F(Ergebnisansicht, SearchGoesRoundAndEscLeavesItFirst) {
     oeffne();
     QTest::keySequence(fenster.get(), QKeySequence::Find);
