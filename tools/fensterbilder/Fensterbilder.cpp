@@ -9,6 +9,7 @@
 #include <QtTest/QtTest>
 #include <cstdio>
 
+#include "Bilder.h"
 #include "fensterbilder/Kontrast.h"
 #include "files/Positionsdatei.h"
 #include "run/Berechnungslauf.h"
@@ -46,7 +47,7 @@ class Aufnahme {
         if (!will(name)) return;
         QTest::qWait(150);
         fuelle(fenster);
-        fenster.grab().save(QDir(ordner_).filePath(name + QStringLiteral(".png")));
+        sichereBild(fenster.grab(), ordner_, name);
         std::printf("%s %d x %d, kleinste %d x %d\n", qPrintable(name), fenster.width(), fenster.height(),
                     fenster.minimumSizeHint().width(), fenster.minimumSizeHint().height());
         const QStringList neue = schwacheTexte(fenster);
@@ -104,10 +105,7 @@ void zeigeMeldungen(Aufnahme& aufnahme, Meldungen& meldungen, QWidget& fenster) 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     if (!qEnvironmentVariableIsSet("QT_STYLE_OVERRIDE")) QApplication::setStyle(QStringLiteral("fusion"));
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QTranslator deutsch;
-    verbindeRessourcen();
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
+    stelleAufDeutsch();
     const QStringList angaben = QApplication::arguments();
     if (angaben.size() < 4) return 64;
     if (angaben[2] != QStringLiteral("hell")) QApplication::setPalette(kontrastpalette(angaben[2]));

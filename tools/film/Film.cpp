@@ -7,6 +7,7 @@
 #include <QtWidgets/QtWidgets>
 #include <cstdio>
 
+#include "Bilder.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/main/Form1_Hauptfenster.h"
@@ -46,16 +47,13 @@ const std::vector<Szene> szenen{
 
 class Film {
   public:
-    Film(QWidget& hauptfenster, QDir ordner) : hauptfenster_(hauptfenster), ordner_(std::move(ordner)) {}
+    Film(QWidget& hauptfenster, QString ordner) : hauptfenster_(hauptfenster), ordner_(std::move(ordner)) {}
 
     void nimmAuf(QWidget& fenster) {
         constexpr int ruhe = 200;  // ms
         QTest::qWait(ruhe);
-        const QString datei = ordner_.filePath(QStringLiteral("film-%1.png").arg(++bilder_));
         constexpr int breite = 800;
-        QPixmap bild = fenster.grab();
-        if (bild.width() > breite) bild = bild.scaledToWidth(breite, Qt::SmoothTransformation);
-        if (!bild.save(datei)) std::fprintf(stderr, "cannot write %s\n", qPrintable(datei));
+        sichereBild(fenster.grab(), ordner_, QStringLiteral("film-%1").arg(++bilder_), breite);
     }
 
     static void bediene(QWidget& fenster, const std::vector<Handgriff>& griffe) {
@@ -91,7 +89,7 @@ class Film {
 
   private:
     QWidget& hauptfenster_;
-    QDir ordner_;
+    QString ordner_;
     int bilder_ = 0;
 };
 
@@ -103,7 +101,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: film BILDERORDNER\n");
         return 64;
     }
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    stelleAufDeutsch();
     const QTemporaryDir programmordner;
     Programm programm(pfad(programmordner.path()));
     Plattformmeldungen meldungen;
@@ -111,7 +109,7 @@ int main(int argc, char** argv) {
     programm.zuweisen();
     hauptfenster.show();
 
-    Film film(hauptfenster, QDir(QString::fromLocal8Bit(argv[1])));
+    Film film(hauptfenster, QString::fromLocal8Bit(argv[1]));
     film.nimmAuf(hauptfenster);
     Film::bediene(hauptfenster, masse);
     film.nimmAuf(hauptfenster);

@@ -2,19 +2,17 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QHash>
-#include <QLocale>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QTranslator>
 #include <QWidget>
 #include <cstdio>
 #include <functional>
 #include <vector>
 
+#include "Bilder.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/controls/Pfadwahl.h"
@@ -92,17 +90,9 @@ void beschrifte(QPixmap& bild, const QWidget& fenster) {
 }
 
 void sichere(QWidget& fenster) {
-    const QString datei =
-        bilderordner + QLatin1Char('/') + fenster.objectName().toLower() + QStringLiteral(".png");
     QPixmap bild = fenster.grab();
     beschrifte(bild, fenster);
-    if (!bild.save(datei)) std::fprintf(stderr, "cannot write %s\n", qPrintable(datei));
-}
-
-void warte(int dauer) {
-    QElapsedTimer uhr;
-    uhr.start();
-    while (uhr.elapsed() < dauer) QApplication::processEvents(QEventLoop::AllEvents, 20);
+    sichereBild(bild, bilderordner, fenster.objectName().toLower());
 }
 
 // The visible window in front of `vorher`, nullptr when none has opened.
@@ -151,9 +141,7 @@ int main(int argc, char** argv) {
     }
     bilderordner = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(bilderordner);
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
+    stelleAufDeutsch();
 
     const QTemporaryDir ordner;
     Programm programm(pfad(ordner.path()));

@@ -1,15 +1,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QListWidget>
-#include <QLocale>
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdio>
 
+#include "Bilder.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/main/Form1_Hauptfenster.h"
@@ -28,8 +26,7 @@ class Bilderreihe {
     explicit Bilderreihe(QString ordner) : ordner_(std::move(ordner)) {}
 
     void sichere(QWidget& fenster) {
-        const QString datei = ordner_ + QStringLiteral("/herleitung-%1.png").arg(++nummer_);
-        if (!fenster.grab().save(datei)) std::fprintf(stderr, "cannot write %s\n", qPrintable(datei));
+        sichereBild(fenster.grab(), ordner_, QStringLiteral("herleitung-%1").arg(++nummer_));
     }
 
     // From the number behind these words down along what it rests on, to the last of them, an input.
@@ -53,12 +50,6 @@ class Bilderreihe {
             gehe(ergebnisse, anfang);
             if (!letzter) sichere(ergebnisse);
         }
-    }
-
-    static void warte(int dauer) {
-        QElapsedTimer uhr;
-        uhr.start();
-        while (uhr.elapsed() < dauer) QApplication::processEvents(QEventLoop::AllEvents, 20);
     }
 
   private:
@@ -86,9 +77,7 @@ int main(int argc, char** argv) {
         return 64;
     }
     QDir().mkpath(QString::fromLocal8Bit(argv[2]));
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
+    stelleAufDeutsch();
 
     const QTemporaryDir ordner;
     Programm programm(pfad(ordner.path()));

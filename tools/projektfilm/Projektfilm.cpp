@@ -8,6 +8,7 @@
 #include <QtWidgets/QtWidgets>
 #include <cstdio>
 
+#include "Bilder.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/main/Form1_Hauptfenster.h"
@@ -32,7 +33,8 @@ void warteBis(const std::function<bool()>& da) {
 
 class Projektfilm {
   public:
-    Projektfilm(Form1& hauptfenster, QDir ordner) : hauptfenster_(hauptfenster), ordner_(std::move(ordner)) {}
+    Projektfilm(Form1& hauptfenster, QString ordner)
+        : hauptfenster_(hauptfenster), ordner_(std::move(ordner)) {}
 
     // "projekt-NAME.png"
     void nimmAuf(QWidget& fenster, const char* name) {
@@ -41,10 +43,7 @@ class Projektfilm {
         QTest::qWait(ruhe);
         if (auto* ordner = fenster.findChild<QComboBox*>(QStringLiteral("Ordner")))
             ordner->setItemText(ordner->currentIndex(), QStringLiteral("/home/planung/haus"));
-        QPixmap bild = fenster.grab();
-        if (bild.width() > breite) bild = bild.scaledToWidth(breite, Qt::SmoothTransformation);
-        const QString datei = ordner_.filePath(QStringLiteral("projekt-%1.png").arg(QLatin1String(name)));
-        if (!bild.save(datei)) std::fprintf(stderr, "cannot write %s\n", qPrintable(datei));
+        sichereBild(fenster.grab(), ordner_, QStringLiteral("projekt-") + QLatin1String(name), breite);
     }
     // Opens a window by its menu entry and closes it behind `bediene`.
     void oeffne(const char* eintrag, const std::function<void(QWidget&)>& bediene) {
@@ -115,7 +114,7 @@ class Projektfilm {
 
   private:
     Form1& hauptfenster_;
-    QDir ordner_;
+    QString ordner_;
 };
 
 // A folder of the same name with the same files.
@@ -136,7 +135,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: projektfilm BILDERORDNER PROJEKTORDNER POSITION\n");
         return 64;
     }
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    stelleAufDeutsch();
     const QTemporaryDir programmordner;
     const QTemporaryDir kopie;
     const QString projekt = kopiere(QString::fromLocal8Bit(argv[2]), kopie.path());
@@ -146,7 +145,7 @@ int main(int argc, char** argv) {
     hauptfenster.show();
     hauptfenster.starte(QDir(projekt).filePath(QString::fromLocal8Bit(argv[3])));
 
-    Projektfilm film(hauptfenster, QDir(QString::fromLocal8Bit(argv[1])));
+    Projektfilm film(hauptfenster, QString::fromLocal8Bit(argv[1]));
     film.uebersicht("uebersicht");
     film.mengen();
     film.nimmAuf(hauptfenster, "wand-vorher");

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QPrinter>
+#include <QTranslator>
 #include <system_error>
 #include <utility>
 
@@ -26,6 +27,12 @@ constexpr char16_t fremdesByte = 0xDC00;
 }  // namespace
 
 void verbindeRessourcen() { bindeRessourcenEin(); }
+
+void ladeDeutscheTexte() {
+    verbindeRessourcen();
+    auto* deutsch = new QTranslator(QCoreApplication::instance());
+    if (deutsch->load(QStringLiteral(":/qtbase_de.qm"))) QCoreApplication::installTranslator(deutsch);
+}
 
 Programm::Programm(std::filesystem::path programmordner, QObject* parent)
     : QObject(parent), ordner(std::move(programmordner)) {

@@ -132,6 +132,9 @@ class Schritt {
 
 // Makes the icons and files delivered inside the program available; may be called more than once.
 void verbindeRessourcen();
+// Qt's own buttons, menus, dialogs and the help of the command line in German, whatever the locale: the
+// program is. Until the application ends.
+void ladeDeutscheTexte();
 
 // All text inside the program is UTF-8. A byte that is none, as file names may hold, passes through both as a
 // lone surrogate, U+DC00 and the byte, so that a path stays the path of the same file.

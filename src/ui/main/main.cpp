@@ -5,7 +5,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTimer>
-#include <QTranslator>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -77,8 +76,7 @@ int laufeOhneFenster(int& argc, char** argv) {
     verzichteAufAnzeige();
     QHashSeed::setDeterministicGlobalSeed();  // the order of a PDF's parts depends on it
     const QGuiApplication application(argc, argv);
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QCoreApplication::installTranslator(&deutsch);
+    ladeDeutscheTexte();
     return static_cast<int>(fuehrePdfBefehlAus(angabenAus(argc, argv), programmordner(), ausgaben));
 }
 
@@ -100,10 +98,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
     waehleSprache();
-    // Qt's own buttons, menus, dialogs and the help of the command line in German, whatever the locale: the
-    // program is.
-    QTranslator deutsch;
-    if (deutsch.load(QStringLiteral(":/qtbase_de.qm"))) QApplication::installTranslator(&deutsch);
+    ladeDeutscheTexte();
 
     QCommandLineParser befehlszeile;
     beschreibeAufruf(befehlszeile);
