@@ -18,10 +18,12 @@
 #include <QSettings>
 #include <QSlider>
 #include <QSplitter>
+#include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "ui/basics/Beschreibungen.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Programm.h"
 
@@ -103,6 +105,12 @@ class Rollbereich : public QScrollArea {
 }  // namespace
 
 void setzeEnter(QWidget& feld, Enter enter) { feld.setProperty(enterregel, static_cast<int>(enter)); }
+
+void fuegeInTabfolge(QTableView& tabelle) {
+    tabelle.setTabKeyNavigation(false);
+    tabelle.setCornerButtonEnabled(false);
+    tabelle.findChild<QAbstractButton*>()->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
+}
 
 Tastenregel::Tastenregel(QWidget* fenster) : QObject(fenster), fenster_(fenster) {
     qApp->installEventFilter(this);
@@ -203,21 +211,12 @@ Fenster::Fenster(Programm& programm, Meldungen& meldungen, QWidget* parent, cons
 }
 
 QPushButton* Fenster::schaltflaeche(const QString& name, const QString& text) {
-    auto* knopf = new QPushButton(text, this);
-    knopf->setObjectName(name);
-    knopf->setAccessibleName(QString(text).remove(QLatin1Char('&')).trimmed());
-    knopf->setAutoDefault(false);
-    fusszeile_->addWidget(knopf);
-    return knopf;
+    QPushButton* neu = knopf(name, text);
+    fusszeile_->addWidget(neu);
+    return neu;
 }
 
-QPushButton* Fenster::knopf(const QString& name, const QString& text) {
-    auto* feld = new QPushButton(text, this);
-    feld->setObjectName(name);
-    feld->setAccessibleName(text.simplified());
-    feld->setAutoDefault(false);
-    return feld;
-}
+QPushButton* Fenster::knopf(const QString& name, const QString& text) { return neuerKnopf(this, name, text); }
 
 QLabel* Fenster::beschriftung(const QString& text, QWidget* feld) {
     auto* schild = new QLabel(text, this);
@@ -234,11 +233,11 @@ void Fenster::setzeUeberFuss(QWidget* zeile) {
 }
 
 QPushButton* Fenster::zurueck(const QString& name) {
-    QPushButton* knopf = schaltflaeche(name, QStringLiteral("&Zurück"));
-    knopf->setToolTip(QStringLiteral("Zurück zum Hauptfenster"));
-    knopf->setDefault(true);
-    connect(knopf, &QPushButton::clicked, this, &QDialog::accept);
-    return knopf;
+    QPushButton* neu = schaltflaeche(name, QStringLiteral("&Zurück"));
+    neu->setToolTip(QStringLiteral("Zurück zum Hauptfenster"));
+    neu->setDefault(true);
+    connect(neu, &QPushButton::clicked, this, &QDialog::accept);
+    return neu;
 }
 
 // The room on the screen, without the frame that the desktop draws about a window.

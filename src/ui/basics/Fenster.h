@@ -9,6 +9,7 @@ class QHBoxLayout;
 class QKeyEvent;
 class QLabel;
 class QPushButton;
+class QTableView;
 class QVBoxLayout;
 
 namespace rippenscheibe {
@@ -24,6 +25,8 @@ enum class Enter {
     eigen,   // the control works with Enter itself
 };
 void setzeEnter(QWidget& feld, Enter enter);
+// Tab leaves a table like any other control; its corner is no button, and yet has a name to read out.
+void fuegeInTabfolge(QTableView& tabelle);
 
 // What keys, focus and wheel do in a window besides their usual work, the same under every desktop theme.
 //

@@ -12,12 +12,13 @@
 #include "files/Dateischreiber.h"
 #include "files/Pfad.h"
 #include "study/Lastfaelle.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/folder/Lastfallmodell.h"
 #include "ui/studyparts/Zellen.h"
 #include "ui/verdict/Ausnutzungsbalken.h"
-#include "ui/verdict/Sofortrechnung.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 
@@ -105,9 +106,7 @@ QWidget* Lastfaelle::baueTabelle() {
     tabelle_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                               QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
     tabelle_->setAlternatingRowColors(true);
-    tabelle_->setTabKeyNavigation(false);
-    tabelle_->setCornerButtonEnabled(false);
-    tabelle_->findChild<QAbstractButton*>()->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
+    fuegeInTabfolge(*tabelle_);
     tabelle_->verticalHeader()->hide();
     tabelle_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2 * raster);
     setzeEnter(*tabelle_, Enter::eigen);
@@ -128,27 +127,23 @@ QWidget* Lastfaelle::baueKnoepfe() {
     auto* leiste = new QWidget(this);
     auto* reihe = new QHBoxLayout(leiste);
     reihe->setContentsMargins(0, 0, 0, 0);
-    const auto knopf = [&](const char* name, const char* text, const char* tip, auto tue) {
-        auto* neu = new QPushButton(qtext(text), leiste);
-        neu->setObjectName(QLatin1String(name));
-        neu->setAccessibleName(qtext(text).remove(QLatin1Char('&')));
-        neu->setToolTip(qtext(tip));
-        neu->setAutoDefault(false);
+    const auto fuegeAn = [&](const char* name, const char* text, const char* tip, auto tue) {
+        QPushButton* neu = neuerKnopf(leiste, QLatin1String(name), qtext(text), qtext(tip));
         connect(neu, &QPushButton::clicked, this, tue);
         reihe->addWidget(neu);
         return neu;
     };
-    knopf("Vorschlagen", "&Vorschlagen",
-          "Lastfälle aus den Lasten der Position: Fv in beiden Richtungen mit voller und kleinster "
-          "Vertikallast, Vertikallast allein, Winddruck und Windsog",
-          [this] { schlageVor(); });
+    fuegeAn("Vorschlagen", "&Vorschlagen",
+            "Lastfälle aus den Lasten der Position: Fv in beiden Richtungen mit voller und kleinster "
+            "Vertikallast, Vertikallast allein, Winddruck und Windsog",
+            [this] { schlageVor(); });
     reihe->addSpacing(2 * raster);
-    knopf("Neu", "&Neuer Lastfall", "Einen Lastfall mit den Lasten der Position anfügen",
-          [this] { tabelle_->selectRow(modell_->fuegeEin(-1)); });
-    QPushButton* kopie = knopf("Verdoppeln", "Ver&doppeln", "Den gewählten Lastfall noch einmal einfügen",
-                               [this] { tabelle_->selectRow(modell_->fuegeEin(zeile())); });
-    QPushButton* weg = knopf("Loeschen", "&Löschen", "Den gewählten Lastfall löschen",
-                             [this] { modell_->loesche(zeile()); });
+    fuegeAn("Neu", "&Neuer Lastfall", "Einen Lastfall mit den Lasten der Position anfügen",
+            [this] { tabelle_->selectRow(modell_->fuegeEin(-1)); });
+    QPushButton* kopie = fuegeAn("Verdoppeln", "Ver&doppeln", "Den gewählten Lastfall noch einmal einfügen",
+                                 [this] { tabelle_->selectRow(modell_->fuegeEin(zeile())); });
+    QPushButton* weg = fuegeAn("Loeschen", "&Löschen", "Den gewählten Lastfall löschen",
+                               [this] { modell_->loesche(zeile()); });
     const auto schalte = [this, kopie, weg] {
         kopie->setEnabled(zeile() >= 0);
         weg->setEnabled(zeile() >= 0);

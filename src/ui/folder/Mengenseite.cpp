@@ -16,6 +16,7 @@
 #include "study/Csv.h"
 #include "study/Felder.h"
 #include "ui/basics/Fenster.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
@@ -101,11 +102,7 @@ QWidget* Mengenseite::baueLeiste() {
     });
     reihe->addStretch(1);
     const auto knopf = [&](const char* name, const char* text, const char* tip, auto tue) {
-        auto* neu = new QPushButton(qtext(text), leiste);
-        neu->setObjectName(QLatin1String(name));
-        neu->setAccessibleName(qtext(text).remove(QLatin1Char('&')));
-        neu->setToolTip(qtext(tip));
-        neu->setAutoDefault(false);
+        QPushButton* neu = neuerKnopf(leiste, QLatin1String(name), qtext(text), qtext(tip));
         connect(neu, &QPushButton::clicked, this, tue);
         reihe->addWidget(neu);
     };

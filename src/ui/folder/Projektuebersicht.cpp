@@ -21,6 +21,7 @@
 #include "files/Dateischreiber.h"
 #include "files/Pfad.h"
 #include "ui/basics/Fensteroeffner.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
@@ -138,11 +139,9 @@ QWidget* Projektuebersicht::baueKopf() {
     ordnerwahl_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     schild("&Ordner :", ordnerwahl_);
     reihe->addWidget(ordnerwahl_, 3);
-    auto* anderer = new QPushButton(QStringLiteral("Andere&r ..."), kopf);
-    anderer->setObjectName(QStringLiteral("AndererOrdner"));
+    QPushButton* anderer = neuerKnopf(kopf, QStringLiteral("AndererOrdner"), QStringLiteral("Andere&r ..."),
+                                      QStringLiteral("Einen anderen Ordner über eine Position darin wählen"));
     anderer->setAccessibleName(QStringLiteral("Anderer Ordner"));
-    anderer->setToolTip(QStringLiteral("Einen anderen Ordner über eine Position darin wählen"));
-    anderer->setAutoDefault(false);
     connect(anderer, &QPushButton::clicked, this, &Projektuebersicht::frageOrdner);
     reihe->addWidget(anderer);
     reihe->addSpacing(raster);
@@ -183,11 +182,9 @@ QWidget* Projektuebersicht::baueTabelle() {
     tabelle_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     tabelle_->setAlternatingRowColors(true);
     tabelle_->setShowGrid(false);
-    tabelle_->setTabKeyNavigation(false);
+    fuegeInTabfolge(*tabelle_);
     tabelle_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     tabelle_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    tabelle_->setCornerButtonEnabled(false);
-    tabelle_->findChild<QAbstractButton*>()->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
     tabelle_->verticalHeader()->hide();
     tabelle_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     tabelle_->verticalHeader()->setDefaultSectionSize(Wandzelle::bildgroesse.height() + raster);

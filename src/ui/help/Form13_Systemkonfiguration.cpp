@@ -111,10 +111,7 @@ Form13::Form13(Programm& programm, Meldungen& meldungen, QWidget* parent)
                            liste_->sizeHintForRow(0) * liste_->count() + 8);
     inhalt()->addWidget(liste_, 1);
 
-    auto* kopieren = new QPushButton(QStringLiteral("Kopieren"), this);
-    kopieren->setObjectName(QStringLiteral("ComKopieren"));
-    kopieren->setAccessibleName(kopieren->text());
-    kopieren->setAutoDefault(false);
+    QPushButton* kopieren = knopf(QStringLiteral("ComKopieren"), QStringLiteral("Kopieren"));
     connect(kopieren, &QPushButton::clicked, this, [this] {
         QStringList zeilen;
         for (int i = 0; i < liste_->count(); ++i) zeilen << liste_->item(i)->text();

@@ -109,15 +109,12 @@ void Form3::baueTasten(QGridLayout* grid) {
 
 QPushButton* Form3::taste(QGridLayout* grid, const QString& name, const QString& text, int zeile,
                           int spalte) {
-    auto* knopf = new QPushButton(text, this);
-    knopf->setObjectName(name);
-    knopf->setAccessibleName(text);
-    knopf->setAccessibleDescription(QStringLiteral("Taste des Rechners"));
-    knopf->setAutoDefault(false);
-    knopf->setMinimumSize(56, 40);
-    knopf->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    grid->addWidget(knopf, zeile, spalte);
-    return knopf;
+    QPushButton* neu = knopf(name, text);
+    neu->setAccessibleDescription(QStringLiteral("Taste des Rechners"));
+    neu->setMinimumSize(56, 40);
+    neu->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    grid->addWidget(neu, zeile, spalte);
+    return neu;
 }
 
 void Form3::zeige() { anzeige_->setText(qtext(rechner_.anzeige())); }

@@ -22,6 +22,8 @@
 #include <utility>
 #include <vector>
 
+#include "ui/basics/Knopf.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -214,9 +216,7 @@ void Handbuch::ordneAn() {
     aussen->addLayout(spalten, 1);
     auto* knoepfe = new QHBoxLayout;
     const auto knopf = [&](const QString& name, const QString& text) {
-        auto* k = new QPushButton(text, this);
-        k->setObjectName(name);
-        k->setAutoDefault(false);
+        QPushButton* k = neuerKnopf(this, name, text);
         knoepfe->addWidget(k);
         return k;
     };

@@ -11,12 +11,14 @@
 #include <algorithm>
 
 #include "files/Positionsdatei.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Kuerzel.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
 #include "ui/main/Eingabetext.h"
 #include "ui/verdict/Urteilsanzeige.h"
+#include "ui/verdict/Urteilsworte.h"
 
 namespace rippenscheibe {
 
@@ -78,15 +80,13 @@ void Variantenvergleich::baueMerkzeile() {
     name_->setAccessibleName(QStringLiteral("Name der Variante"));
     name_->setToolTip(QStringLiteral("Unter diesem Namen stehen die Eingaben in der Tabelle"));
     schild->setBuddy(name_);
-    auto* knopf = new QPushButton(QStringLiteral("Variante &merken"), this);
-    knopf->setObjectName(QStringLiteral("ComMerken"));
-    knopf->setAccessibleName(QStringLiteral("Variante merken"));
-    knopf->setToolTip(QStringLiteral("Merkt die Eingaben unter diesem Namen, bis das Programm endet"));
-    knopf->setAutoDefault(false);
-    connect(knopf, &QPushButton::clicked, this, &Variantenvergleich::merke);
+    QPushButton* merken =
+        neuerKnopf(this, QStringLiteral("ComMerken"), QStringLiteral("Variante &merken"),
+                   QStringLiteral("Merkt die Eingaben unter diesem Namen, bis das Programm endet"));
+    connect(merken, &QPushButton::clicked, this, &Variantenvergleich::merke);
     zeile->addWidget(schild);
     zeile->addWidget(name_, 1);
-    zeile->addWidget(knopf);
+    zeile->addWidget(merken);
     inhalt()->addLayout(zeile);
 }
 
@@ -99,7 +99,7 @@ void Variantenvergleich::baueTabelle() {
     tabelle_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tabelle_->setSelectionBehavior(QAbstractItemView::SelectColumns);
     tabelle_->setSelectionMode(QAbstractItemView::SingleSelection);
-    tabelle_->setTabKeyNavigation(false);
+    fuegeInTabfolge(*tabelle_);
     tabelle_->setCornerButtonEnabled(false);
     auto* ecke = tabelle_->findChild<QAbstractButton*>();
     ecke->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
@@ -182,16 +182,14 @@ void Variantenvergleich::hebeHervor(int zeile, std::size_t spalte) {
 void Variantenvergleich::zeigeUebernehmen() {
     const int zeile = fuegeZeileAn(QString(), {});
     for (std::size_t i = 1; i < spalten_.size(); ++i) {
-        auto* knopf = new QPushButton(QStringLiteral("Übernehmen"), tabelle_);
-        knopf->setObjectName(QStringLiteral("ComUebernehmen(%1)").arg(i));
-        knopf->setAccessibleName(QStringLiteral("%1 übernehmen").arg(spalten_[i].name));
-        knopf->setToolTip(
+        QPushButton* neu = neuerKnopf(
+            tabelle_, QStringLiteral("ComUebernehmen(%1)").arg(i), QStringLiteral("Übernehmen"),
             QStringLiteral("Setzt diese Eingaben an die Stelle der jetzigen; rückgängig zu machen"));
-        knopf->setAutoDefault(false);
+        neu->setAccessibleName(QStringLiteral("%1 übernehmen").arg(spalten_[i].name));
         // Behind the click: the table, and with it the button, is made anew.
         connect(
-            knopf, &QPushButton::clicked, this, [this, i] { uebernimm(i - 1); }, Qt::QueuedConnection);
-        tabelle_->setCellWidget(zeile, static_cast<int>(i), knopf);
+            neu, &QPushButton::clicked, this, [this, i] { uebernimm(i - 1); }, Qt::QueuedConnection);
+        tabelle_->setCellWidget(zeile, static_cast<int>(i), neu);
     }
 }
 

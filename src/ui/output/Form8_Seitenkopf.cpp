@@ -168,10 +168,7 @@ Form8::Form8(Programm& programm, Meldungen& meldungen, QWidget* parent)
 }
 
 QPushButton* Form8::knopf(const QString& name, const QString& text, void (Form8::*tue)()) {
-    auto* k = new QPushButton(text, this);
-    k->setObjectName(name);
-    k->setAccessibleName(text);
-    k->setAutoDefault(false);
+    QPushButton* k = Fenster::knopf(name, text);
     connect(k, &QPushButton::clicked, this, tue);
     return k;
 }

@@ -10,6 +10,7 @@
 #include "files/Positionsdatei.h"
 #include "model/Bemerkungen.h"
 #include "ui/basics/Freitext.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Programm.h"
 #include "ui/paper/Papierschrift.h"
 #include "ui/project/Bemerkungsfeld.h"
@@ -72,11 +73,7 @@ QPlainTextEdit* Form222::textfeld(const QString& name, const QString& titel, con
     zeile->addWidget(breite);
     zeile->addStretch(1);
     const auto knopf = [&](const QString& objekt, const QString& text, const QString& hilfe) {
-        auto* k = new QPushButton(text, rahmen);
-        k->setObjectName(objekt);
-        k->setAccessibleName(text);
-        k->setToolTip(hilfe);
-        k->setAutoDefault(false);
+        QPushButton* k = neuerKnopf(rahmen, objekt, text, hilfe);
         zeile->addWidget(k);
         return k;
     };

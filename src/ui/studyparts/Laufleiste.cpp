@@ -11,6 +11,7 @@
 #include "basis/Zahlenformat.h"
 #include "study/Bewertung.h"
 #include "ui/basics/Fenster.h"
+#include "ui/basics/Knopf.h"
 #include "ui/basics/Programm.h"
 #include "ui/studyparts/Hintergrund.h"
 
@@ -45,19 +46,13 @@ Laufleiste::Laufleiste(Hintergrund& hintergrund, const QString& name, const QStr
       hintergrund_(hintergrund),
       vorbereitung_(vorbereitung),
       umfang_(new QLabel(this)),
-      start_(new QPushButton(text, this)),
-      halt_(new QPushButton(QStringLiteral("An&halten"), this)),
+      start_(neuerKnopf(this, name, text,
+                        QStringLiteral("Rechnet mit allen Kernen; die Position bleibt, wie sie ist"))),
+      halt_(neuerKnopf(this, QStringLiteral("Anhalten"), QStringLiteral("An&halten"),
+                       QStringLiteral("Beendet die Rechnung"))),
       balken_(new QProgressBar(this)),
       stand_(new QLabel(this)) {
     umfang_->setObjectName(QStringLiteral("Umfang"));
-    start_->setObjectName(name);
-    start_->setToolTip(QStringLiteral("Rechnet mit allen Kernen; die Position bleibt, wie sie ist"));
-    halt_->setObjectName(QStringLiteral("Anhalten"));
-    halt_->setToolTip(QStringLiteral("Beendet die Rechnung"));
-    for (QPushButton* knopf : {start_, halt_}) {
-        knopf->setAccessibleName(knopf->text().remove(QLatin1Char('&')));
-        knopf->setAutoDefault(false);
-    }
     balken_->setObjectName(QStringLiteral("Fortschritt"));
     balken_->setAccessibleName(QStringLiteral("Fortschritt"));
     balken_->setTextVisible(false);
