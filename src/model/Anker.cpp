@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "model/Katalognamen.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -35,11 +37,8 @@ constexpr std::array<Kammnagel, 4> kammnaegel{{
 [[maybe_unused]] const std::array<Tabellenangabe, 2> tabellen{
     {{ankertabelle, "Zuganker"}, {kammnaegel, "CNA-Kammnägel"}}};
 
-constexpr auto ankernamen = [] {
-    std::array<std::string_view, ankertabelle.size()> namen{};
-    for (std::size_t i = 0; i < namen.size(); ++i) namen[i] = ankertabelle[i].name;
-    return namen;
-}();
+constexpr auto ankernamen = namenAus(ankertabelle);
+constexpr auto kammnagelnamen = namenAus(kammnaegel);
 
 }  // namespace
 
@@ -49,5 +48,6 @@ const Anker* anker(int typ) {
 
 std::span<const std::string_view> Ankernamen() { return ankernamen; }
 std::span<const Kammnagel> Kammnaegel() { return kammnaegel; }
+std::span<const std::string_view> Kammnagelnamen() { return kammnagelnamen; }
 
 }  // namespace rippenscheibe

@@ -37,5 +37,6 @@ struct Kammnagel {
 };
 
 std::span<const Kammnagel> Kammnaegel();  // 4
+std::span<const std::string_view> Kammnagelnamen();
 
 }  // namespace rippenscheibe

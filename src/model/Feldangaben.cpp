@@ -38,6 +38,13 @@ std::optional<Feldangabe> eingabeangabe(const Wand& w, const void* feld) {
     return sucheEingabe(w, [&](const Feldangabe&, const void* ort) { return ort == feld; });
 }
 
+std::string_view ohneSeite(std::string_view name) {
+    if (name.ends_with('1') || name.ends_with('2')) name.remove_suffix(1);
+    return name;
+}
+
+Seite seiteAus(std::string_view name) { return name.ends_with('2') ? Seite::zwei : Seite::eins; }
+
 std::string bereichstext(const Wertebereich& bereich, std::string_view einheit, char dezimalzeichen,
                          double teiler) {
     if (!bereich.begrenzt()) return "";

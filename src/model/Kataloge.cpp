@@ -2,6 +2,9 @@
 
 #include <array>
 
+#include "model/Feldangaben.h"
+#include "model/Katalognamen.h"
+
 namespace rippenscheibe {
 
 namespace {
@@ -54,21 +57,63 @@ constexpr std::array<Nageltyp, 31> vmTypen{{
 }};
 // clang-format on
 
+constexpr auto nagelnamen = namenAus(vmTypen);
+
+constexpr std::string_view lastfaelle[] = {"horizontal", "vertikal", "horizontal und vertikal"};
+constexpr std::string_view ausnagelungen[] = {"voll ausgenagelt", "teilweise ausgenagelt"};
+constexpr std::string_view verfahren[] = {"vereinfacht", "genau"};
+constexpr std::string_view winkel[] = {"mindestens 30°", "kleiner als 30°"};
+constexpr std::string_view verteilungen[] = {"nur Rippen", "Rippen und Beplankung"};
+constexpr std::string_view lagesicherungen[] = {"Druckkraft über der Randrippe", "Summe der Momente"};
+
+template <const auto& worte>
+std::span<const std::string_view> feste() {
+    return worte;
+}
+
+struct Wahl {
+    std::string_view eingabe;  // without its side
+    std::span<const std::string_view> (*katalog)();
+};
+
+constexpr Wahl wahlen[] = {
+    {"Holzart", Holzarten},
+    {"Material", Plattenmaterialien},
+    {"VMArt", VMArten},
+    {"VMKlasse", VMKlassen},
+    {"VMTyp", Nagelnamen},
+    {"Ankertyp", Ankernamen},
+    {"Teilausnagelung", feste<ausnagelungen>},
+    {"Kammnagel", Kammnagelnamen},
+    {"Lastfall", feste<lastfaelle>},
+    {"KLED", KLEDNamen},
+    {"GenauesVerfahren", feste<verfahren>},
+    {"KlammerWinkelOption", feste<winkel>},
+    {"VertikallastVerteilung", feste<verteilungen>},
+    {"LagesicherungVerfahren", feste<lagesicherungen>},
+};
+
 }  // namespace
 
 std::span<const std::string_view> Holzarten() { return holzarten; }
 std::span<const std::string_view> VMKlassen() { return vmKlassen; }
 std::span<const std::string_view> KLEDNamen() { return kledNamen; }
 std::span<const Nageltyp> VMTypen() { return vmTypen; }
+std::span<const std::string_view> Nagelnamen() { return nagelnamen; }
 
 std::string_view eintrag(std::span<const std::string_view> katalog, int index) {
     if (index < 1 || index > static_cast<int>(katalog.size())) return {};
     return katalog[static_cast<std::size_t>(index) - 1];
 }
 
-std::string_view nagelname(int index) {
-    if (index < 1 || index > static_cast<int>(vmTypen.size())) return {};
-    return vmTypen[static_cast<std::size_t>(index) - 1].name;
+std::string_view nagelname(int index) { return eintrag(nagelnamen, index); }
+
+std::span<const std::string_view> katalog(std::string_view eingabe) {
+    for (const Wahl& wahl : wahlen)
+        if (wahl.eingabe == ohneSeite(eingabe)) return wahl.katalog();
+    return {};
 }
+
+std::string_view katalogwort(std::string_view eingabe, int zahl) { return eintrag(katalog(eingabe), zahl); }
 
 }  // namespace rippenscheibe

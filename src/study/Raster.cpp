@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 
+#include "model/Feldangaben.h"
 #include "model/Kataloge.h"
 
 namespace rippenscheibe {
@@ -60,20 +61,6 @@ std::string dezimaltext(std::int64_t einheiten, int stellen) {
     return (einheiten < 0 ? "-" : "") + ziffern;
 }
 
-struct Katalogfeld {
-    std::string_view name1;  // the fields that take rows of this catalogue
-    std::string_view name2;
-    std::span<const std::string_view> (*eintraege)();
-};
-
-constexpr std::array<Katalogfeld, 5> katalogfelder{{
-    {"Material1", "Material2", Plattenmaterialien},
-    {"Holzart", "", Holzarten},
-    {"VMArt1", "VMArt2", VMArten},
-    {"VMKlasse1", "VMKlasse2", VMKlassen},
-    {"Ankertyp", "", Ankernamen},
-}};
-
 // The last word of a name: "HTT5", "C24".
 std::string_view kurzname(std::string_view name) {
     while (name.ends_with(' ')) name.remove_suffix(1);
@@ -83,19 +70,9 @@ std::string_view kurzname(std::string_view name) {
 // The row of a catalogue by its name, its last word or, 0 for none.
 int katalogzeile(std::string_view feld, std::string_view wert) {
     const auto passt = [&](std::string_view name) { return name == wert || kurzname(name) == wert; };
-    for (const Katalogfeld& katalog : katalogfelder) {
-        if (feld != katalog.name1 && feld != katalog.name2) continue;
-        const auto eintraege = katalog.eintraege();
-        const auto treffer = std::find_if(eintraege.begin(), eintraege.end(), passt);
-        if (treffer != eintraege.end()) return static_cast<int>(treffer - eintraege.begin()) + 1;
-    }
-    return 0;
-}
-
-int nagelzeile(std::string_view wert) {
-    const auto treffer =
-        std::find_if(VMTypen().begin(), VMTypen().end(), [&](const Nageltyp& n) { return n.name == wert; });
-    return treffer == VMTypen().end() ? 0 : static_cast<int>(treffer - VMTypen().begin()) + 1;
+    const auto eintraege = katalog(feld);
+    const auto treffer = std::ranges::find_if(eintraege, passt);
+    return treffer == eintraege.end() ? 0 : static_cast<int>(treffer - eintraege.begin()) + 1;
 }
 
 int vmKatalogzeile(std::string_view wert) {
@@ -119,7 +96,7 @@ struct Achsenfeld {
 };
 
 std::optional<Achsenfeld> achsenfeld(std::string_view name) {
-    const Seite seite = name.ends_with('2') ? Seite::zwei : Seite::eins;
+    const Seite seite = seiteAus(name);
     if (name == mitSeite(vmKatalogachse, seite)) return Achsenfeld{-1, seite};
     const int feld = eingabeindex(name);
     return feld < 0 ? std::nullopt : std::optional(Achsenfeld{feld, seite});
@@ -135,10 +112,10 @@ std::variant<std::vector<std::pair<int, Feldwert>>, std::string> zuweisungen(con
         return setztKatalogzeile(achse.seite, zeile);
     }
     const Feldeintrag& feld = eingabefeld(achse.feld);
-    if (feld.angabe.name.starts_with("VMTyp"))
-        if (const int typ = nagelzeile(wert); typ > 0) return setztNagel(achse.seite, typ);
-    if (const int zeile = katalogzeile(feld.angabe.name, wert); zeile > 0)
+    if (const int zeile = katalogzeile(feld.angabe.name, wert); zeile > 0) {
+        if (feld.angabe.name.starts_with("VMTyp")) return setztNagel(achse.seite, zeile);
         return std::vector{std::pair(achse.feld, Feldwert(static_cast<double>(zeile)))};
+    }
     const std::optional<Feldwert> gelesen = feldwertAus(feld, wert);
     const std::string geschrieben = gelesen ? std::string(wert) : "\"" + std::string(wert) + "\"";
     if (const auto satz = einwand(feld, gelesen.value_or(Feldwert(std::string(wert))), geschrieben, grenzen))
@@ -148,8 +125,7 @@ std::variant<std::vector<std::pair<int, Feldwert>>, std::string> zuweisungen(con
 
 bool istKatalogname(const Achsenfeld& achse, std::string_view wert) {
     if (achse.feld < 0) return vmKatalogzeile(wert) > 0;
-    const std::string_view name = eingabefeld(achse.feld).angabe.name;
-    return (name.starts_with("VMTyp") && nagelzeile(wert) > 0) || katalogzeile(name, wert) > 0;
+    return katalogzeile(eingabefeld(achse.feld).angabe.name, wert) > 0;
 }
 
 // Values between commas; a name of the catalogue may hold one itself ("2,7x60").

@@ -54,16 +54,11 @@ Vergleich gegenteil(Vergleich v) {
 }
 
 // What a stored choice stands for: "OSB/3" of Material1 = 1.
-std::string_view katalogname(std::string_view feld, double wert) {
+std::string_view wahlwort(std::string_view feld, double wert) {
     constexpr double jenseits = 100;  // no catalogue is that long, and not every value fits an index
     if (!(wert >= 0 && wert < jenseits)) return {};
-    const auto index = static_cast<int>(wert);
-    if (feld.starts_with("Material")) return eintrag(Plattenmaterialien(), index);
-    if (feld.starts_with("VMArt")) return eintrag(VMArten(), index);
-    if (feld.starts_with("VMKlasse")) return eintrag(VMKlassen(), index);
-    if (feld == "Holzart") return eintrag(Holzarten(), index);
-    if (feld == "KLED") return eintrag(KLEDNamen(), index);
-    return {};
+    const std::string_view wort = katalogwort(feld, static_cast<int>(wert));
+    return wort.substr(0, wort.find_last_not_of(" :") + 1);  // one name leads to a field beside it
 }
 
 }  // namespace
@@ -162,7 +157,7 @@ std::string Darstellung::wertMitEinheit(const Stand& s) const {
     const Feldeintrag& f = feld(s);
     if (f.typ == Typ::wahrheit) return s.wert != 0 ? "ja" : "nein";
     std::string text = lesbar(s.wert);
-    if (const std::string_view name = katalogname(f.name, s.wert); !name.empty())
+    if (const std::string_view name = wahlwort(f.name, s.wert); !name.empty())
         text.append(" (").append(name).append(")");
     if (!f.einheit.empty() && f.einheit != "-") text.append(" ").append(f.einheit);
     return text;
@@ -231,7 +226,9 @@ std::string Darstellung::bedingung(const Bedingung& b) const {
     const Op rechts = knoten(b.rechts).op;
     if (s != nullptr && v == Vergleich::gleich && (rechts == Op::zahl || rechts == Op::tabelle))
         return seite(b.links);
-    return seite(b.links) + std::string(zeichenVon(v)) + seite(b.rechts);
+    // Of two that are equal the value is told once.
+    const std::string links = v == Vergleich::gleich && s == nullptr ? symbolisch(b.links) : seite(b.links);
+    return links + std::string(zeichenVon(v)) + seite(b.rechts);
 }
 
 std::vector<std::string> Darstellung::bedingungen(const Schritt& s) const {
@@ -295,8 +292,6 @@ std::vector<std::string> Darstellung::anmerkungen(const Schritt& s) const {
     for (const std::string_view satz : s.vorgaben) texte.push_back("so vorgegeben: " + std::string(satz));
     return texte;
 }
-
-Ort Darstellung::schrittVon(const Schritt& s) const { return static_cast<Ort>(&s - graph_.schritte.data()); }
 
 std::vector<Ort> Darstellung::grundlagen(const std::vector<Ort>& schritte) const {
     std::vector<bool> noetig(graph_.schritte.size(), false);

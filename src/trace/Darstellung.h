@@ -48,8 +48,6 @@ class Darstellung {
 
     // The steps that these rest on, themselves included, in the order of the run.
     std::vector<herleitung::Ort> grundlagen(const std::vector<herleitung::Ort>& schritte) const;
-    // The step and the stand of an expression that is nothing but a field.
-    herleitung::Ort schrittVon(const herleitung::Schritt& s) const;
 
   private:
     int durchgang(const herleitung::Schritt& s) const;

@@ -48,6 +48,8 @@ TEST(Raster, NamesOfTheCataloguesSetWhatChoosingThemSets) {
     };
     setze("Material1=1,OSB/4", 1);
     EXPECT_EQ(w.Material[S1].value(), 2);
+    setze("KLED=ständig,sehr kurz", 1);
+    EXPECT_EQ(w.KLED.value(), 5);
     setze("Ankertyp=HTT5", 0);
     EXPECT_EQ(w.Ankertyp.value(), 6);
     setze("VMTyp1,VMTyp2=2,7x60,3,4x90", 1);

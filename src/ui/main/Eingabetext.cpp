@@ -2,9 +2,9 @@
 
 #include <QLocale>
 #include <algorithm>
-#include <array>
 #include <type_traits>
 
+#include "model/Feldangaben.h"
 #include "model/Kataloge.h"
 #include "ui/basics/Programm.h"
 
@@ -12,50 +12,20 @@ namespace rippenscheibe {
 
 namespace {
 
-using Worte = std::span<const std::string_view>;
-
-constexpr std::string_view lastfaelle[] = {"horizontal", "vertikal", "horizontal und vertikal"};
-constexpr std::string_view ausnagelungen[] = {"voll ausgenagelt", "teilweise ausgenagelt"};
-constexpr std::string_view verfahren[] = {"vereinfacht", "genau"};
-constexpr std::string_view winkel[] = {"mindestens 30°", "kleiner als 30°"};
-constexpr std::string_view verteilungen[] = {"nur Rippen", "Rippen und Beplankung"};
-constexpr std::string_view lagesicherungen[] = {"Druckkraft über der Randrippe", "Summe der Momente"};
-
-template <const auto& worte>
-std::string_view wort(int index) {
-    return eintrag(worte, index);
-}
-template <Worte (*katalog)()>
-std::string_view ausKatalog(int index) {
-    return eintrag(katalog(), index);
-}
-std::string_view kammnagelname(int index) {
-    const auto naegel = Kammnaegel();
-    const bool vorhanden = index >= 1 && index <= static_cast<int>(naegel.size());
-    return vorhanden ? naegel[static_cast<std::size_t>(index) - 1].name : std::string_view();
-}
-
-// A choice: what it is called in short, and its words by their number.
+// A choice whose description lists its numbers.
 struct Wahl {
     std::string_view feld;
     std::string_view name;
-    std::string_view (*wort)(int);
 };
 constexpr Wahl wahlen[] = {
-    {"Holzart", "Festigkeitsklasse der Rippen", ausKatalog<Holzarten>},
-    {"Material", "Plattenmaterial", ausKatalog<Plattenmaterialien>},
-    {"VMArt", "Art des Verbindungsmittels", ausKatalog<VMArten>},
-    {"VMKlasse", "Tragfähigkeitsklasse", ausKatalog<VMKlassen>},
-    {"VMTyp", "Zeile der Nageltabelle", nagelname},
-    {"Ankertyp", "Anker", ausKatalog<Ankernamen>},
-    {"Teilausnagelung", "Nägel im Anker", wort<ausnagelungen>},
-    {"Kammnagel", "CNA-Kammnagel", kammnagelname},
-    {"Lastfall", "Scheibenbeanspruchung", wort<lastfaelle>},
-    {"KLED", "Lasteinwirkungsdauer", ausKatalog<KLEDNamen>},
-    {"GenauesVerfahren", "Berechnungsverfahren", wort<verfahren>},
-    {"KlammerWinkelOption", "Winkel der Klammern", wort<winkel>},
-    {"VertikallastVerteilung", "Verteilung der Vertikallasten", wort<verteilungen>},
-    {"LagesicherungVerfahren", "Lagesicherung", wort<lagesicherungen>},
+    {"VMKlasse", "Tragfähigkeitsklasse"},
+    {"Teilausnagelung", "Nägel im Anker"},
+    {"Lastfall", "Scheibenbeanspruchung"},
+    {"KLED", "Lasteinwirkungsdauer"},
+    {"GenauesVerfahren", "Berechnungsverfahren"},
+    {"KlammerWinkelOption", "Winkel der Klammern"},
+    {"VertikallastVerteilung", "Verteilung der Vertikallasten"},
+    {"LagesicherungVerfahren", "Lagesicherung"},
 };
 
 // Lengths that are entered in another unit than the record's mm.
@@ -72,15 +42,6 @@ constexpr Dialogeinheit dialogeinheiten[] = {
 // The height of the inner ribs is that of the others, the remarks count themselves.
 constexpr std::string_view wiederholungen[] = {"hInnenrippe", "AnzahlZusatzbemerkungen"};
 
-bool istSeitenfeld(const Feldangabe& angabe) {
-    return angabe.name.back() == '1' || angabe.name.back() == '2';
-}
-
-// The name of the field without its side.
-std::string_view stamm(const Feldangabe& angabe) {
-    return angabe.name.substr(0, angabe.name.size() - (istSeitenfeld(angabe) ? 1 : 0));
-}
-
 template <class Tabelle>
 const auto* gesucht(const Tabelle& tabelle, std::string_view feld) {
     const auto* const stelle = std::find_if(std::begin(tabelle), std::end(tabelle),
@@ -89,20 +50,20 @@ const auto* gesucht(const Tabelle& tabelle, std::string_view feld) {
 }
 
 QString name(const Feldangabe& angabe) {
-    const Wahl* wahl = gesucht(wahlen, stamm(angabe));
+    const std::string_view stamm = ohneSeite(angabe.name);
+    const Wahl* wahl = gesucht(wahlen, stamm);
     // Behind a colon or semicolon stands what a value means.
     QString text = wahl != nullptr ? qtext(wahl->name)
                                    : qtext(angabe.bedeutung.substr(0, angabe.bedeutung.find_first_of(":;")));
-    if (istSeitenfeld(angabe) && !text.endsWith(QLatin1Char(angabe.name.back())))
+    if (stamm != angabe.name && !text.endsWith(QLatin1Char(angabe.name.back())))
         text += QStringLiteral(", Seite %1").arg(QLatin1Char(angabe.name.back()));
     return text;
 }
 
 QString zahl(const Feldangabe& angabe, double wert) {
-    if (const Wahl* wahl = gesucht(wahlen, stamm(angabe))) {
-        const std::string_view inWorten = wahl->wort(static_cast<int>(wert));
-        return inWorten.empty() ? QString::number(wert) : qtext(inWorten);
-    }
+    if (!katalog(angabe.name).empty())
+        if (const std::string_view wort = katalogwort(angabe.name, static_cast<int>(wert)); !wort.empty())
+            return qtext(wort);
     const Dialogeinheit* dialog = gesucht(dialogeinheiten, angabe.name);
     const QString einheit = dialog != nullptr ? qtext(dialog->einheit) : qtext(angabe.einheit);
     QLocale sprache;

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "model/Feldangaben.h"
 #include "model/Kataloge.h"
 #include "study/Mengen.h"
 #include "ui/basics/Programm.h"
@@ -15,38 +16,14 @@ namespace {
 
 const Feldangabe& angabe(int feld) { return eingabefeld(feld).angabe; }
 
-// "av" of "av1" and "av2"; the name itself for a field of the whole wall.
-std::string_view stamm(std::string_view name) {
-    if (!name.ends_with('1') && !name.ends_with('2')) return name;
-    const std::string_view vorn = name.substr(0, name.size() - 1);
-    return eingabeindex(std::string(vorn) + "1") >= 0 && eingabeindex(std::string(vorn) + "2") >= 0 ? vorn
-                                                                                                    : name;
-}
-
-bool hatSeite(std::string_view name) { return stamm(name) != name; }
-
-struct Liste {
-    std::string_view stamm;
-    std::span<const std::string_view> (*eintraege)();
-};
-constexpr std::array<Liste, 6> listen{{{"Material", Plattenmaterialien},
-                                       {"Holzart", Holzarten},
-                                       {"VMArt", VMArten},
-                                       {"VMKlasse", VMKlassen},
-                                       {"Ankertyp", Ankernamen},
-                                       {"KLED", KLEDNamen}}};
+bool hatSeite(std::string_view name) { return ohneSeite(name) != name; }
 
 // The entry of a list, "" for a field that is none.
-QString listeneintrag(std::string_view name, int wert) {
-    if (stamm(name) == "VMTyp") return qtext(nagelname(wert));
-    for (const Liste& liste : listen)
-        if (liste.stamm == stamm(name)) return qtext(eintrag(liste.eintraege(), wert)).simplified();
-    return {};
-}
+QString listeneintrag(std::string_view name, int wert) { return qtext(katalogwort(name, wert)).simplified(); }
 
 bool gehoertZumVerbindungsmittel(std::string_view name) {
     constexpr std::array<std::string_view, 4> masse{"VMTyp", "d", "ln", "dk"};
-    return hatSeite(name) && std::find(masse.begin(), masse.end(), stamm(name)) != masse.end();
+    return hatSeite(name) && std::find(masse.begin(), masse.end(), ohneSeite(name)) != masse.end();
 }
 
 // What a field means, without its side.
@@ -72,6 +49,13 @@ QString benannt(const std::vector<int>& felder) {
             namen << mitSeite;
     }
     return namen.join(QStringLiteral(" und "));
+}
+
+// The value of the wall; of a part of the fastener the whole fastener.
+QString ganzerText(int feld, const Wand& w) {
+    const std::string_view name = angabe(feld).name;
+    return gehoertZumVerbindungsmittel(name) ? qtext(verbindungsmitteltext(w, seiteAus(name)))
+                                             : werttext(feld, w);
 }
 
 struct Aenderung {
@@ -126,10 +110,7 @@ QString werttext(const Achsenwert& wert) {
 QString achsentext(const Achse& achse, const Wand& w) {
     QStringList texte;
     for (const int feld : achse.felder) {
-        const std::string_view name = angabe(feld).name;
-        const Seite n = name.ends_with('2') ? Seite::zwei : Seite::eins;
-        const QString text =
-            gehoertZumVerbindungsmittel(name) ? qtext(verbindungsmitteltext(w, n)) : werttext(feld, w);
+        const QString text = ganzerText(feld, w);
         if (!texte.contains(text)) texte << text;
     }
     return texte.join(QStringLiteral(" / "));
@@ -139,13 +120,10 @@ QString aenderungstext(const Wand& heute, const Zuweisungen& setzt) {
     const Wand neu = mitZuweisungen(heute, setzt);
     std::vector<Aenderung> aenderungen;
     for (const auto& [feld, wert] : setzt) {
-        const std::string_view name = angabe(feld).name;
-        const Seite n = name.ends_with('2') ? Seite::zwei : Seite::eins;
-        const auto text = [&, feld = feld](const Wand& w) {
-            return gehoertZumVerbindungsmittel(name) ? qtext(verbindungsmitteltext(w, n)) : werttext(feld, w);
-        };
-        const QString wechsel = QStringLiteral("%1 → %2").arg(text(heute), text(neu));
-        if (text(heute) == text(neu)) continue;
+        const QString vorher = ganzerText(feld, heute);
+        const QString nachher = ganzerText(feld, neu);
+        if (vorher == nachher) continue;
+        const QString wechsel = QStringLiteral("%1 → %2").arg(vorher, nachher);
         const auto gleich = std::find_if(aenderungen.begin(), aenderungen.end(),
                                          [&](const Aenderung& a) { return a.wechsel == wechsel; });
         if (gleich == aenderungen.end())
