@@ -315,15 +315,9 @@ class Rechenwegbau {
     }
 
     void gibFrueheren(const Stand& s) {
-        const std::string text = d_.zeichen(s) + " = " + d_.wertMitEinheit(s);
-        if (satz_ != nullptr) {
-            b_.neu(Seitenpruefung{seitenende - 3 * zeileText});
-            b_.zeile(rest_ + luft, {text});
-            rest_ = zeileText;
-            anmerkung("nicht zugewiesen, Stand vor dem Lauf");
-        } else {
-            gib(Formelzeile{.text = text}, {"nicht zugewiesen, Stand vor dem Lauf"});
-        }
+        gib(satz_ != nullptr ? satz_->stand(d_, s)
+                             : Formelzeile{.text = d_.zeichen(s) + " = " + d_.wertMitEinheit(s)},
+            {"nicht zugewiesen, Stand vor dem Lauf"});
     }
 
     // A formula with what stands under it, on one page.

@@ -33,6 +33,8 @@ class Formelsatz {
     virtual Formelzeile schritt(const Darstellung& d, const herleitung::Schritt& s) = 0;
     // The formula of a value that the report itself forms.
     virtual Formelzeile ausdruck(const Darstellung& d, herleitung::Ort ort) = 0;
+    // A value from before the run.
+    virtual Formelzeile stand(const Darstellung& d, const herleitung::Stand& s) = 0;
 };
 
 // What the results were before a run tells which run it is: the first one, a later one of the same inputs,

@@ -82,6 +82,7 @@ class Satz : public Formelsatz {
     static constexpr double hoehe = 15;
     Formelzeile schritt(const Darstellung&, const herleitung::Schritt&) override { return {.hoehe = hoehe}; }
     Formelzeile ausdruck(const Darstellung&, herleitung::Ort) override { return {.hoehe = hoehe}; }
+    Formelzeile stand(const Darstellung&, const herleitung::Stand&) override { return {.hoehe = hoehe}; }
 };
 class Flaeche : public tests::Aufzeichnung {
   public:

@@ -103,13 +103,13 @@ class Formelsetzer {
         const Knoten& x = d_.knoten(ort);
         switch (x.op) {
             case Op::plus:
-                return zwei(x, QStringLiteral(" + "), stil, false, [](Op op) { return op == Op::negativ; });
+                return summe(x, QStringLiteral(" + "), stil, [](Op op) { return op == Op::negativ; });
             case Op::minus:
-                return zwei(x, QStringLiteral(" − "), stil, false, istStrich);
+                return summe(x, QStringLiteral(" − "), stil, istStrich);
             case Op::mal:
-                return zwei(x, QStringLiteral(" · "), stil, true, istStrich);
+                return produkt(x, stil);
             case Op::durch:
-                return bruch(setze(x.a, stil), setze(x.b, stil));
+                return imBruch_ ? schraegerBruch(x, stil) : bruch(x, stil);
             case Op::negativ:
                 return nebeneinander({wort(QStringLiteral("−")), geklammertWenn(x.a, stil, istStrich)});
             case Op::hoch:
@@ -240,14 +240,34 @@ class Formelsetzer {
     }
 
     template <class Bedingung>
-    Index zwei(const Knoten& x, const QString& zeichen, Formelstil stil, bool linksAuch,
-               Bedingung&& bedingung) {
-        const Index links = linksAuch ? geklammertWenn(x.a, stil, bedingung) : setze(x.a, stil);
+    Index summe(const Knoten& x, const QString& zeichen, Formelstil stil, Bedingung&& bedingung) {
+        const Index links = setze(x.a, stil);
         const Index mitte = wort(zeichen);
         return nebeneinander({links, mitte, geklammertWenn(x.b, stil, bedingung)});
     }
 
-    Index bruch(Index zaehler, Index nenner) {
+    Index produkt(const Knoten& x, Formelstil stil) {
+        // "(E / γ) · A": behind an oblique stroke a factor would seem to stand below it.
+        const Index links =
+            geklammertWenn(x.a, stil, [&](Op op) { return istStrich(op) || (imBruch_ && op == Op::durch); });
+        const Index mitte = wort(QStringLiteral(" · "));
+        return nebeneinander({links, mitte, geklammertWenn(x.b, stil, istStrich)});
+    }
+
+    // A quotient within another one stays in its line: "a / b".
+    Index schraegerBruch(const Knoten& x, Formelstil stil) {
+        const Index zaehler = geklammertWenn(x.a, stil, istStrich);
+        const Index mitte = wort(QStringLiteral(" / "));
+        const Index nenner = geklammertWenn(
+            x.b, stil, [](Op op) { return istStrich(op) || op == Op::mal || op == Op::durch; });
+        return nebeneinander({zaehler, mitte, nenner});
+    }
+
+    Index bruch(const Knoten& x, Formelstil stil) {
+        imBruch_ = true;
+        const Index zaehler = setze(x.a, stil);
+        const Index nenner = setze(x.b, stil);
+        imBruch_ = false;
         Formelkasten kasten;
         kasten.art = Formelkasten::Art::bruch;
         const double achse = 0.3 * groesse_;
@@ -366,6 +386,7 @@ class Formelsetzer {
     const Formelmass& mass_;
     double groesse_;
     double unterkante_ = 0;
+    bool imBruch_ = false;
 };
 
 void zeichneStift(QPainter& maler, const QRectF& r) {
@@ -396,6 +417,13 @@ Formelbild Formelbild::gleichung(const Darstellung& d, const herleitung::Schritt
     const Op op = d.knoten(schritt.ausdruck).op;
     const bool nurWert = op == Op::zahl || op == Op::tabelle;
     s.gleichung(s.zeichen(stand), nurWert ? keiner : schritt.ausdruck, wert);
+    return bild;
+}
+
+Formelbild Formelbild::stand(const Darstellung& d, const Stand& stand, const Formelmass& mass) {
+    Formelbild bild;
+    Formelsetzer s(d, bild, mass);
+    s.gleichung(s.zeichen(stand), keiner, qtext(d.wertMitEinheit(stand)));
     return bild;
 }
 

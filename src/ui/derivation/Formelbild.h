@@ -62,6 +62,8 @@ class Formelbild {
                                 const Formelmass& mass);
     // The same for a value that the report itself forms.
     static Formelbild ausdruck(const Darstellung& d, herleitung::Ort ort, const Formelmass& mass);
+    // "σ_{c,90,d} = 0 N/mm²" of a value from before the run.
+    static Formelbild stand(const Darstellung& d, const herleitung::Stand& stand, const Formelmass& mass);
 
     QSizeF groesse() const;
     double breiteErsteZeile() const;

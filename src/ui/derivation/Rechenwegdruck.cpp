@@ -45,6 +45,9 @@ class Papierformeln final : public Formelsatz {
     Formelzeile ausdruck(const Darstellung& d, herleitung::Ort ort) override {
         return neu(Formelbild::ausdruck(d, ort, mass_), {}, d.symbolisch(ort));
     }
+    Formelzeile stand(const Darstellung& d, const herleitung::Stand& s) override {
+        return neu(Formelbild::stand(d, s, mass_), {}, d.zeichen(s) + " = " + d.wertMitEinheit(s));
+    }
 
     void male(QPainter& maler, double mm, int nummer, QPointF ort) const {
         const Formel& formel = formeln_[static_cast<std::size_t>(nummer)];
