@@ -289,6 +289,11 @@ void Befehlszeile::herleite() {
         ->option_text("NAME,...");
     verb.add_flag_callback(
         "--tief", [this] { auftrag_.herleitung.tief = true; }, "mit allen Schritten, auf denen sie beruhen");
+    verb.parse_complete_callback([this] {
+        const Herleitungswahl& wahl = auftrag_.herleitung;
+        if (auftrag_.ausgabe == Ausgabeart::rtf && (wahl.tief || !wahl.felder.empty()))
+            throw CLI::ValidationError("--felder, --tief", "nicht mit --ausgabe rtf, dem ganzen Rechenweg");
+    });
     material(verb);
     laeufe(verb);
     ausgabe(verb, ausgabearten);

@@ -71,6 +71,8 @@ TEST_F(Befehle, AWrongCallIsToldInGermanWithCode64) {
         {{"uebertrage", "a.rsw"}, "Die Option -o DATEI fehlt."},
         {{"uebertrage", "a.rsw", "b.rsw", "-o", "c.rsw"}, "DATEI darf nur einmal stehen."},
         {{"felder", "--ausgabe", "rtf"}, "--ausgabe: „rtf“ ist nicht zulässig; erlaubt: text, json"},
+        {{"herleite", "a.rsw", "--ausgabe", "rtf", "--tief"},
+         "--felder, --tief: nicht mit --ausgabe rtf, dem ganzen Rechenweg"},
     };
     for (const Fall& f : faelle) {
         const Ergebnis e = tool(f.angaben);
