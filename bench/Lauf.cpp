@@ -25,25 +25,16 @@ Wand wand(double laenge) {
     return w;
 }
 
-void laufNeunRippen(benchmark::State& state) {
-    Wand w = wand(5);
+void lauf(benchmark::State& state, double laenge) {
+    Wand w = wand(laenge);
     const Grundmasse felder = grundmasse(w);
     for (auto _ : state) {
         zuweisen(w, felder);
         benchmark::DoNotOptimize(starte(w, Hinweisbehandlung::uebergehen));
     }
 }
-BENCHMARK(laufNeunRippen)->Unit(benchmark::kMicrosecond);
-
-void laufZweihundertRippen(benchmark::State& state) {
-    Wand w = wand(124);
-    const Grundmasse felder = grundmasse(w);
-    for (auto _ : state) {
-        zuweisen(w, felder);
-        benchmark::DoNotOptimize(starte(w, Hinweisbehandlung::uebergehen));
-    }
-}
-BENCHMARK(laufZweihundertRippen)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(lauf, neunRippen, 5)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(lauf, zweihundertRippen, 124)->Unit(benchmark::kMicrosecond);
 
 // A run of its own: the results of program start, then the run.
 void frischerLaufNeunRippen(benchmark::State& state) {

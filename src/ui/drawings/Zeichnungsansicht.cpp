@@ -45,7 +45,10 @@ Zeichnungsansicht::Zeichnungsansicht(Zeichnung was, QWidget* parent) : Wandansic
     setzeVorgaben(wand_);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true);
-    benenne();
+    setAccessibleName(titel(was_));
+    if (beweglich())
+        setAccessibleDescription(QStringLiteral(
+            "Mausrad vergrößert, Ziehen verschiebt, Doppelklick auf freie Fläche zeigt wieder alles"));
 }
 
 bool Zeichnungsansicht::beweglich() const {
@@ -64,24 +67,10 @@ bool Zeichnungsansicht::beweglich() const {
     }
 }
 
-void Zeichnungsansicht::benenne() {
-    setAccessibleName(titel(was_));
-    if (!beweglich()) return;
-    setAccessibleDescription(QStringLiteral(
-        "Mausrad vergrößert, Ziehen verschiebt, Doppelklick auf freie Fläche zeigt wieder alles"));
-}
-
 void Zeichnungsansicht::setzeWand(const Wand& w) {
     wand_ = w;
     hervor_.reset();
     update();
-}
-
-void Zeichnungsansicht::setzeZeichnung(Zeichnung was) {
-    was_ = was;
-    benenne();
-    passeEin();
-    updateGeometry();
 }
 
 void Zeichnungsansicht::setzeDezimalzeichen(char zeichen) {

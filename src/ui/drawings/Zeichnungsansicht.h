@@ -25,7 +25,6 @@ class Zeichnungsansicht : public Wandansicht {
     explicit Zeichnungsansicht(Zeichnung was, QWidget* parent = nullptr);
 
     void setzeWand(const Wand& w) override;
-    void setzeZeichnung(Zeichnung was);
     const Wand& wand() const { return wand_; }
     void setzeDezimalzeichen(char zeichen) override;
     // Offers a context menu that copies and saves the drawing.
@@ -53,14 +52,13 @@ class Zeichnungsansicht : public Wandansicht {
   private:
     // The drawing of a wall at hand, not of a rule.
     bool beweglich() const;
-    void benenne();
     Zeichenstil stil() const;
     const Bauteil* teilAn(QPointF ort) const;  // where one can be clicked
     void hebeHervor(const Bauteil* teil);
     void zeigeZeiger();
     void passeEin();
 
-    Zeichnung was_;
+    const Zeichnung was_;
     Wand wand_;
     char dezimalzeichen_ = ',';
     Sicht sicht_;
