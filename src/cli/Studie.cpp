@@ -401,8 +401,8 @@ class Studie {
     }
 
     void pruefeFelder() const {
-        if (const std::string fremd = fremdesFeld(auftrag_.felder); !fremd.empty())
-            throw Abbruch{"Unbekanntes Feld: " + fremd + "\nAlle Felder: rippenscheibe-cli felder"};
+        if (const auto satz = einwandGegenFelder(auftrag_.felder))
+            throw Abbruch{*satz + "\nAlle Felder: rippenscheibe-cli felder"};
     }
 
     static void pruefeLastfaelle(const Raster& r, const Bewertungsregel& regel) {

@@ -58,12 +58,17 @@ void fuegeZahlHinzu(CLI::App& befehl, const std::string& option, T mindestens, c
         ->option_text("N");
 }
 
-// Names between commas.
+// Names between commas; empty ones do not count.
 void fuegeNamenHinzu(CLI::App& befehl, const std::string& option, std::vector<std::string>& ziel,
                      const std::string& erklaerung) {
     befehl
         .add_option_function<std::string>(
-            option, [&ziel](const std::string& wert) { ziel = CLI::detail::split(wert, ','); }, erklaerung)
+            option,
+            [&ziel](const std::string& wert) {
+                ziel = CLI::detail::split(wert, ',');
+                std::erase(ziel, "");
+            },
+            erklaerung)
         ->option_text("NAME,...");
 }
 

@@ -64,7 +64,11 @@ class Leser {
         const std::size_t gelesen = strom_.lies(rest_.data() + alt, lesegroesse);
         rest_.resize(alt + gelesen);
         zuEnde_ = gelesen == 0;
-        if (std::exchange(anfang_, false) && rest_.starts_with("\xEF\xBB\xBF")) rest_.erase(0, 3);
+        // The byte order mark may come in pieces.
+        constexpr std::string_view marke = "\xEF\xBB\xBF";
+        if (!anfang_ || (rest_.size() < marke.size() && !zuEnde_)) return;
+        anfang_ = false;
+        if (zeile_ == 1 && rest_.starts_with(marke)) rest_.erase(0, marke.size());
     }
 
     Block nimm(std::size_t laenge) {
@@ -103,7 +107,7 @@ Feldwert wertVon(simdjson::dom::element element) {
     if (element.get(wahr) == simdjson::SUCCESS) return wahr;
     if (element.get(zahl) == simdjson::SUCCESS) return zahl;
     if (element.get(text) == simdjson::SUCCESS) return std::string(text);
-    return {};  // null, an array or an object: `passend` refuses it
+    return {};  // null, an array or an object: `einwand` refuses it
 }
 
 bool istWert(simdjson::dom::element element) {
@@ -112,11 +116,12 @@ bool istWert(simdjson::dom::element element) {
 
 }  // namespace
 
-std::string fremdesFeld(std::span<const std::string> felder) {
-    const auto fremd = std::find_if(felder.begin(), felder.end(), [](const std::string& name) {
-        return eingabeindex(name) < 0 && ergebnisindex(name) < 0;
-    });
-    return fremd == felder.end() ? std::string{} : *fremd;
+std::optional<std::string> einwandGegenFelder(std::span<const std::string> felder) {
+    for (const std::string& name : felder) {
+        if (eingabeindex(name) < 0 && ergebnisindex(name) < 0) return "Unbekanntes Feld: " + name;
+        if (std::count(felder.begin(), felder.end(), name) > 1) return name + " steht zweimal";
+    }
+    return std::nullopt;
 }
 
 struct Zeilenrechner::Innen {
@@ -354,15 +359,22 @@ Stapelergebnis stapel(const Stapelauftrag& auftrag, const Strom& strom, const Au
     };
     const auto rechne = [](Zeilenrechner& rechner, const Block& block) {
         Antwort antwort;
-        if (block.zuLang)
-            rechner.verwirf("länger als 1 MiB", block.ersteZeile, antwort.text, antwort.zaehler);
+        const auto verwirf = [&](std::size_t nummer) {
+            rechner.verwirf("länger als 1 MiB", nummer, antwort.text, antwort.zaehler);
+        };
+        if (block.zuLang) verwirf(block.ersteZeile);
         std::string_view rest = std::string_view(block.text).substr(0, block.laenge);
         for (std::size_t nummer = block.ersteZeile; !rest.empty(); ++nummer) {
             const std::size_t ende = std::min(rest.find('\n'), rest.size());
             std::string_view zeile = rest.substr(0, ende);
+            rest.remove_prefix(std::min(ende + 1, rest.size()));
+            // However the stream came in pieces.
+            if (zeile.size() > laengsteZeile) {
+                verwirf(nummer);
+                continue;
+            }
             if (zeile.ends_with('\r')) zeile.remove_suffix(1);
             rechner.rechne(zeile, nummer, antwort.text, antwort.zaehler);
-            rest.remove_prefix(std::min(ende + 1, rest.size()));
         }
         return antwort;
     };

@@ -45,8 +45,8 @@ struct Stapelergebnis {
     std::size_t mitHinweisen = 0;
 };
 
-// The first of `felder` that is no field; empty when all are.
-std::string fremdesFeld(std::span<const std::string> felder);
+// What is wrong with the names of fields to give back: one is unknown or stands twice.
+std::optional<std::string> einwandGegenFelder(std::span<const std::string> felder);
 
 // Reads, computes and writes until the input ends. Holds a few blocks of lines a thread, however long the
 // stream is; a line above 1 MiB is an error line.

@@ -307,6 +307,7 @@ TEST_F(Befehle, VerbsOverManyWallsAnswerWithCodeAndSentence) {
          "gk wirkt nicht bei Lastfall 1 (nur horizontal); --trotzdem lässt es zu"},
         {{"variiere", wand, "--feld", "gk=1,2", "--trotzdem"}, 0, ""},
         {{"variiere", wand, "--feld", "av1=60", "--felder", "quatsch"}, 64, "Unbekanntes Feld: quatsch"},
+        {{"variiere", wand, "--feld", "av1=60", "--felder", "Rd1,,Rd1"}, 64, "Rd1 steht zweimal"},
         {{"lege-aus", wand, "--feld", "KLED=1,2", "--preise", preise},
          64,
          "KLED wird beim Auslegen nicht verändert"},

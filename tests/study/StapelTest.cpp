@@ -114,8 +114,12 @@ TEST(Stapel, TellsWhatIsWrongWithALineAndGoesOn) {
 
     const std::string weit = antworten({.grenzen = Grenzen::uebergehen}, "{\"Fvk\":2000}");
     EXPECT_TRUE(weit.starts_with(R"({"ok":true)"));
-    const std::string lang = antworten({}, std::string(3U << 20U, ' ') + "\n{}\n");
-    EXPECT_TRUE(lang.starts_with("{\"ok\":false,\"error\":\"Zeile 1: länger als 1 MiB\"}\n{\"ok\":true"));
+    for (const std::size_t laenge : {(1U << 20U) + 1, 3U << 20U}) {
+        const std::string lang = antworten({}, std::string(laenge, ' ') + "\n{}\n");
+        EXPECT_TRUE(lang.starts_with("{\"ok\":false,\"error\":\"Zeile 1: länger als 1 MiB\"}\n{\"ok\":true"));
+    }
+    Textstrom einzeln("\xEF\xBB\xBF{}", 1);
+    EXPECT_EQ(stapel({}, einzeln.strom(), {}).fehlerhaft, 0U);
 }
 
 TEST(Stapel, ReadsAndWritesTablesWithToldMarks) {
