@@ -113,11 +113,11 @@ class Arbeit {
             if (!lade(datei, *wand)) return Rueckgabe::dateifehler;
             vorlagen.push_back({pfadtext(datei), eingaben_});
         }
-        const Rueckgabe rueckgabe =
+        const Studienende ende =
             fuehreStudieAus({auftrag_, ausgaben_, materialien_, programmordner_, std::move(vorlagen),
                              [this](std::string_view text) { gibAus(text); }});
-        // Without a result there is nothing that could take the place of an older one.
-        return zieldatei_.empty() ? rueckgabe : hoehere(rueckgabe, schreibeZieldatei());
+        // What did not become whole takes the place of no older output.
+        return ende.ganz ? hoehere(ende.rueckgabe, schreibeZieldatei()) : ende.rueckgabe;
     }
 
   private:

@@ -56,33 +56,37 @@ class Studie {
           wache_(umgebung.auftrag.befehl == Befehl::stapel ? std::function<bool()>{}
                                                            : umgebung.ausgaben.abgebrochen) {}
 
-    Rueckgabe fuehreAus() {
+    Studienende fuehreAus() {
         try {
-            switch (u_.auftrag.befehl) {
-                case Befehl::stapel:
-                    return stapel();
-                case Befehl::variiere:
-                    return variiere();
-                case Befehl::legeAus:
-                    return legeAus();
-                case Befehl::hilft:
-                    return hilft();
-                case Befehl::tafel:
-                    return tafel();
-                case Befehl::stueckliste:
-                    return stueckliste();
-                case Befehl::projekt:
-                    return projekt();
-                default:
-                    return lastfaelle();
-            }
+            return {verb(), true};
         } catch (const Abbruch& abbruch) {
             melde(abbruch.satz);
-            return abbruch.rueckgabe;
+            return {abbruch.rueckgabe, false};
         }
     }
 
   private:
+    Rueckgabe verb() {
+        switch (u_.auftrag.befehl) {
+            case Befehl::stapel:
+                return stapel();
+            case Befehl::variiere:
+                return variiere();
+            case Befehl::legeAus:
+                return legeAus();
+            case Befehl::hilft:
+                return hilft();
+            case Befehl::tafel:
+                return tafel();
+            case Befehl::stueckliste:
+                return stueckliste();
+            case Befehl::projekt:
+                return projekt();
+            default:
+                return lastfaelle();
+        }
+    }
+
     // Rows and messages take the place of the line of progress.
     void schreibe(std::string_view text) {
         loescheFortschritt();
@@ -236,6 +240,7 @@ class Studie {
     Rueckgabe hilft() {
         const Bewertungsregel r = regel();
         const Hilfe hilfe = wasHilft(eingaben(), u_.materialien, r, ausfuehrung());
+        pruefeAbbruch();
         Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
         const auto gib = [&](const std::string& schritt, const Bewertung& bewertung,
                              const std::vector<std::pair<int, Feldwert>>& setzt) {
@@ -364,6 +369,7 @@ class Studie {
             ausgabe.gib(position);
             return true;
         });
+        pruefeAbbruch();
         loescheFortschritt();
         ausgabe.schliesse();
         return static_cast<Rueckgabe>(hoechster);
@@ -474,6 +480,6 @@ class Studie {
 
 }  // namespace
 
-Rueckgabe fuehreStudieAus(const Studienumgebung& umgebung) { return Studie(umgebung).fuehreAus(); }
+Studienende fuehreStudieAus(const Studienumgebung& umgebung) { return Studie(umgebung).fuehreAus(); }
 
 }  // namespace rippenscheibe

@@ -82,6 +82,11 @@ struct Studienumgebung {
     std::vector<Vorlage> vorlagen;
     std::function<void(std::string_view)> gibAus;
 };
-Rueckgabe fuehreStudieAus(const Studienumgebung& umgebung);
+// How a verb ended. What did not become whole takes the place of no file.
+struct Studienende {
+    Rueckgabe rueckgabe;
+    bool ganz;
+};
+Studienende fuehreStudieAus(const Studienumgebung& umgebung);
 
 }  // namespace rippenscheibe
