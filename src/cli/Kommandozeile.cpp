@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <limits>
 #include <memory>
 #include <numeric>
 #include <sstream>
@@ -13,6 +13,7 @@
 
 #include "basis/Version.h"
 #include "cli/Hilfeform.h"
+#include "cli/Optionen.h"
 #include "files/Pfad.h"
 
 namespace rippenscheibe {
@@ -23,76 +24,18 @@ constexpr std::string_view rueckgabewerte =
     "Rückgabewert: 0 alle Nachweise erfüllt, 1 ein Nachweis nicht erfüllt, 2 Hinweise, 3 Datei fehlt oder\n"
     "ist nicht lesbar oder nicht schreibbar, 64 falscher Aufruf; bei mehreren Dateien der höchste.";
 
-// The word of an option and what it stands for.
-template <class T>
-struct Wort {
-    std::string_view wort;
-    T wert;
-};
-
 constexpr std::array<Wort<Ausgabeart>, 3> ausgabearten{
     {{"text", Ausgabeart::text}, {"rtf", Ausgabeart::rtf}, {"json", Ausgabeart::json}}};
 constexpr std::array<Wort<Ausgabeart>, 2> feldausgabearten{
     {{"text", Ausgabeart::text}, {"json", Ausgabeart::json}}};
 constexpr std::array<Wort<Form>, 3> formen{
     {{"ansicht", Form::ansicht}, {"lang", Form::lang}, {"kurz", Form::kurz}}};
-constexpr std::array<Wort<char>, 2> dezimalzeichen{{{"komma", ','}, {"punkt", '.'}}};
-
-template <class T, std::size_t N>
-std::string aufzaehlung(const std::array<Wort<T>, N>& woerter) {
-    std::string text;
-    for (std::size_t i = 0; i < N; ++i) {
-        if (i > 0) text += "|";
-        text += woerter[i].wort;
-    }
-    return text;
-}
-
-[[noreturn]] void weiseZurueck(const std::string& option, const std::string& wert,
-                               const std::string& erlaubt) {
-    throw CLI::ValidationError(option, nichtZulaessig(wert, erlaubt));
-}
-
-template <class T, std::size_t N>
-void fuegeWahlHinzu(CLI::App& befehl, const std::string& option, const std::array<Wort<T>, N>& woerter,
-                    T& ziel, const std::string& erklaerung) {
-    const std::string erlaubt = aufzaehlung(woerter);
-    befehl
-        .add_option_function<std::string>(
-            option,
-            [&woerter, &ziel, option, erlaubt](const std::string& wert) {
-                const auto treffer = std::find_if(woerter.begin(), woerter.end(),
-                                                  [&](const Wort<T>& w) { return w.wort == wert; });
-                if (treffer == woerter.end()) weiseZurueck(option, wert, erlaubt);
-                ziel = treffer->wert;
-            },
-            erklaerung)
-        ->option_text(erlaubt);
-}
 
 void fuegeLaeufeHinzu(CLI::App& befehl, int& laeufe) {
-    befehl
-        .add_option_function<std::string>(
-            "--laeufe",
-            [&laeufe](const std::string& wert) {
-                int zahl = 0;
-                const char* const ende = wert.data() + wert.size();
-                const auto [stelle, fehler] = std::from_chars(wert.data(), ende, zahl);
-                if (fehler != std::errc{} || stelle != ende || zahl < 1) {
-                    weiseZurueck("--laeufe", wert, "eine ganze Zahl ab 1");
-                }
-                laeufe = zahl;
-            },
-            "so viele Läufe im selben Zustand, als würde so oft gestartet (sonst 1)")
-        ->option_text("N");
-}
-
-CLI::Option* fuegeDateiHinzu(CLI::App& befehl, const std::string& option,
-                             std::optional<std::filesystem::path>& ziel, const std::string& erklaerung) {
-    return befehl
-        .add_option_function<std::string>(
-            option, [&ziel](const std::string& wert) { ziel = pfadAus(wert); }, erklaerung)
-        ->option_text("DATEI");
+    fuegeZahlHinzu<int>(
+        befehl, "--laeufe", {1, std::numeric_limits<int>::max(), "eine ganze Zahl ab 1"},
+        [&laeufe](int zahl) { laeufe = zahl; },
+        "so viele Läufe im selben Zustand, als würde so oft gestartet (sonst 1)");
 }
 
 void fuegeDateienHinzu(CLI::App& befehl, std::vector<std::filesystem::path>& dateien, bool mehrere) {

@@ -1,62 +1,14 @@
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <array>
-#include <charconv>
 #include <utility>
 
 #include "cli/Befehle.h"
-#include "cli/Kommandozeile.h"
+#include "cli/Optionen.h"
 #include "cli/Studie.h"
-#include "files/Pfad.h"
 
 namespace rippenscheibe {
 
 namespace {
-
-template <class T>
-struct Wort {
-    std::string_view wort;
-    T wert;
-};
-
-// An option of which one word is chosen.
-template <class T, std::size_t N>
-void fuegeWahlHinzu(CLI::App& befehl, const std::string& option, const std::array<Wort<T>, N>& woerter,
-                    T& ziel, const std::string& erklaerung) {
-    std::string erlaubt;
-    for (const Wort<T>& wort : woerter) erlaubt.append(erlaubt.empty() ? "" : "|").append(wort.wort);
-    befehl
-        .add_option_function<std::string>(
-            option,
-            [woerter, &ziel, option, erlaubt](const std::string& wert) {
-                const auto treffer = std::find_if(woerter.begin(), woerter.end(),
-                                                  [&](const Wort<T>& w) { return w.wort == wert; });
-                if (treffer == woerter.end())
-                    throw CLI::ValidationError(option, nichtZulaessig(wert, erlaubt));
-                ziel = treffer->wert;
-            },
-            erklaerung)
-        ->option_text(erlaubt);
-}
-
-// A number of at least `mindestens`.
-template <class T>
-void fuegeZahlHinzu(CLI::App& befehl, const std::string& option, T mindestens, const std::string& erlaubt,
-                    std::function<void(T)> setze, const std::string& erklaerung) {
-    befehl
-        .add_option_function<std::string>(
-            option,
-            [=](const std::string& wert) {
-                T zahl{};
-                const char* const ende = wert.data() + wert.size();
-                const auto [stelle, fehler] = std::from_chars(wert.data(), ende, zahl);
-                if (fehler != std::errc{} || stelle != ende || !(zahl >= mindestens))
-                    throw CLI::ValidationError(option, nichtZulaessig(wert, erlaubt));
-                setze(zahl);
-            },
-            erklaerung)
-        ->option_text("N");
-}
 
 // Names between commas; empty ones do not count.
 void fuegeNamenHinzu(CLI::App& befehl, const std::string& option, std::vector<std::string>& ziel,
@@ -76,7 +28,6 @@ constexpr std::array<Wort<Grenzen>, 2> grenzwahl{{{"an", Grenzen::beachten}, {"a
 constexpr std::array<Wort<Zeilenform>, 2> zeilenformen{
     {{"json", Zeilenform::json}, {"csv", Zeilenform::csv}}};
 constexpr std::array<Wort<char>, 3> trenner{{{"semikolon", ';'}, {"komma", ','}, {"tab", '\t'}}};
-constexpr std::array<Wort<char>, 2> dezimalzeichen{{{"punkt", '.'}, {"komma", ','}}};
 constexpr std::array<Wort<Studienausgabe>, 2> stapelausgaben{
     {{"json", Studienausgabe::json}, {"csv", Studienausgabe::csv}}};
 
@@ -89,7 +40,8 @@ void fuegeCsvHinzu(CLI::App& befehl, Studienauftrag& auftrag) {
 
 void fuegeFaedenHinzu(CLI::App& befehl, Studienauftrag& auftrag) {
     fuegeZahlHinzu<int>(
-        befehl, "--faeden", 1, "eine ganze Zahl ab 1", [&](int zahl) { auftrag.faeden = zahl; },
+        befehl, "--faeden", {1, 1024, "eine ganze Zahl von 1 bis 1024"},
+        [&](int zahl) { auftrag.faeden = zahl; },
         "so viele Kerne nutzen (sonst alle); das Ergebnis hängt nicht davon ab");
 }
 
@@ -103,14 +55,6 @@ constexpr std::array<Wort<bool>, 2> richtungen{{{"beide", true}, {"plus", false}
 constexpr std::array<Wort<Auslegungsziel>, 3> ziele{{{"kosten", Auslegungsziel::kosten},
                                                      {"verbindungsmittel", Auslegungsziel::verbindungsmittel},
                                                      {"gewicht", Auslegungsziel::gewicht}}};
-
-void fuegeDateiHinzu(CLI::App& befehl, const std::string& option, std::optional<std::filesystem::path>& ziel,
-                     const std::string& erklaerung) {
-    befehl
-        .add_option_function<std::string>(
-            option, [&ziel](const std::string& wert) { ziel = pfadAus(wert); }, erklaerung)
-        ->option_text("DATEI");
-}
 
 void fuegeTextHinzu(CLI::App& befehl, const std::string& option, std::string& ziel, const std::string& muster,
                     const std::string& erklaerung) {
@@ -155,7 +99,8 @@ CLI::App& fuegeVerbHinzu(const Studienverben& verben, Studienauftrag& auftrag, c
 
 void fuegeZwischenrippenHinzu(CLI::App& befehl, Studienauftrag& auftrag) {
     fuegeZahlHinzu<double>(
-        befehl, "--zwischenrippen", 1, "eine Zahl ab 1", [&](double zahl) { auftrag.zwischenrippen = zahl; },
+        befehl, "--zwischenrippen", {1, 10, "eine Zahl von 1 bis 10"},
+        [&](double zahl) { auftrag.zwischenrippen = zahl; },
         "Abstand der Verbindungsmittel an Innenrippen ohne Stoß als Vielfaches von av (sonst 1)");
 }
 
@@ -174,12 +119,12 @@ void fuegeRasterverbenHinzu(const Studienverben& verben, Studienauftrag& auftrag
         "statt --feld: abstand, verbindungsmittel, platte, rippenbreite, rippenhoehe, holz, anker (sonst "
         "abstand,verbindungsmittel)");
     fuegeZahlHinzu<std::size_t>(
-        legeAus, "--zahl", 1, "eine ganze Zahl ab 1", [&](std::size_t zahl) { auftrag.zahl = zahl; },
-        "so viele Entwürfe (sonst 5)");
+        legeAus, "--zahl", {1, 1'000'000, "eine ganze Zahl von 1 bis 1000000"},
+        [&](std::size_t zahl) { auftrag.zahl = zahl; }, "so viele Entwürfe (sonst 5)");
     fuegeWahlHinzu(legeAus, "--ziel", ziele, auftrag.ziel, "was klein sein soll (sonst kosten)");
     fuegeZahlHinzu<double>(
-        legeAus, "--hoechstens", 0.01, "eine Zahl bis 1",
-        [&](double zahl) { auftrag.hoechstens = std::min(zahl, 1.0); }, "größte Ausnutzung (sonst 1)");
+        legeAus, "--hoechstens", {0.01, 1, "eine Zahl von 0.01 bis 1"},
+        [&](double zahl) { auftrag.hoechstens = zahl; }, "größte Ausnutzung (sonst 1)");
     fuegeDateiHinzu(legeAus, "--preise", auftrag.preise,
                     "Preise (sonst Preise.csv im Ordner des Programms, ohne sie die mitgelieferten)");
     legeAus.add_flag("--eigengewicht", auftrag.eigengewicht, "das Eigengewicht gkWand folgt der Wand");
