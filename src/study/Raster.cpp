@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <span>
 
 #include "model/Feldangaben.h"
@@ -35,17 +36,15 @@ std::optional<Dezimal> dezimal(std::string_view text) {
     if (negativ) text.remove_prefix(1);
     const std::size_t punkt = text.find('.');
     std::string ziffern(text.substr(0, punkt));
-    int stellen = 0;
-    if (punkt != std::string_view::npos) {
-        ziffern += text.substr(punkt + 1);
-        stellen = static_cast<int>(text.size() - punkt - 1);
-    }
+    const std::string_view nachkomma = punkt == std::string_view::npos ? "" : text.substr(punkt + 1);
+    constexpr std::size_t hoechstens = 9;
+    if (ziffern.size() > hoechstens || nachkomma.size() > hoechstens) return std::nullopt;
+    ziffern += nachkomma;
     std::int64_t einheiten = 0;
     const char* const ende = ziffern.data() + ziffern.size();
     const auto [stelle, fehler] = std::from_chars(ziffern.data(), ende, einheiten);
-    if (fehler != std::errc{} || stelle != ende || ziffern.starts_with('-') || ziffern.size() > 15)
-        return std::nullopt;
-    return Dezimal{negativ ? -einheiten : einheiten, stellen};
+    if (fehler != std::errc{} || stelle != ende || ziffern.starts_with('-')) return std::nullopt;
+    return Dezimal{negativ ? -einheiten : einheiten, static_cast<int>(nachkomma.size())};
 }
 
 std::int64_t hochgezogen(Dezimal d, int stellen) {
@@ -123,6 +122,10 @@ std::variant<std::vector<std::pair<int, Feldwert>>, std::string> zuweisungen(con
     return std::vector{std::pair(achse.feld, *gelesen)};
 }
 
+bool setztFeld(const std::vector<std::pair<int, Feldwert>>& setzt, int feld) {
+    return std::any_of(setzt.begin(), setzt.end(), [&](const auto& eine) { return eine.first == feld; });
+}
+
 bool istKatalogname(const Achsenfeld& achse, std::string_view wert) {
     if (achse.feld < 0) return vmKatalogzeile(wert) > 0;
     return katalogzeile(eingabefeld(achse.feld).angabe.name, wert) > 0;
@@ -155,11 +158,10 @@ std::optional<std::vector<std::string>> dezimalreihe(std::string_view von, std::
     const auto s = dezimal(schritt);
     if (!a || !b || !s || s->einheiten <= 0) return std::nullopt;
     const int stellen = std::max({a->stellen, b->stellen, s->stellen});
-    if (stellen > 9) return std::nullopt;
     const std::int64_t erster = hochgezogen(*a, stellen);
     const std::int64_t letzter = hochgezogen(*b, stellen);
     const std::int64_t weite = hochgezogen(*s, stellen);
-    constexpr std::int64_t hoechstens = 10'000'000;
+    constexpr std::int64_t hoechstens = 1'000'000;
     if ((letzter - erster) / weite >= hoechstens) return std::nullopt;
     std::vector<std::string> texte;
     for (std::int64_t wert = erster; wert <= letzter; wert += weite)
@@ -224,7 +226,8 @@ std::variant<Achse, std::string> achseAus(std::string_view text, Grenzen grenzen
         const auto reihe =
             grenzwerte.size() == 3 ? dezimalreihe(grenzwerte[0], grenzwerte[1], grenzwerte[2]) : std::nullopt;
         if (!reihe || reihe->empty())
-            return achse.name + ": \"" + teil + "\" ist kein Bereich VON:BIS:SCHRITT";
+            return achse.name + ": \"" + teil +
+                   "\" ist kein Bereich VON:BIS:SCHRITT (Dezimalpunkt, höchstens 1000000 Werte)";
         werte.insert(werte.end(), reihe->begin(), reihe->end());
     }
     for (const std::string& wert : werte) {
@@ -232,18 +235,26 @@ std::variant<Achse, std::string> achseAus(std::string_view text, Grenzen grenzen
         for (const Achsenfeld& feld : felder) {
             auto setzt = zuweisungen(feld, wert, grenzen);
             if (auto* satz = std::get_if<std::string>(&setzt)) return *satz;
-            for (auto& eine : std::get<0>(setzt)) eintrag.setzt.push_back(std::move(eine));
+            for (auto& eine : std::get<0>(setzt)) {
+                if (setztFeld(eintrag.setzt, eine.first))
+                    return std::string(eingabefeld(eine.first).angabe.name) + " steht zweimal";
+                eintrag.setzt.push_back(std::move(eine));
+            }
         }
+        for (const auto& [feld, gesetzt] : eintrag.setzt)
+            if (std::find(achse.felder.begin(), achse.felder.end(), feld) == achse.felder.end())
+                achse.felder.push_back(feld);
         achse.werte.push_back(std::move(eintrag));
     }
-    for (const auto& [feld, wert] : achse.werte.front().setzt) achse.felder.push_back(feld);
     return achse;
 }
 
 Raster::Raster(std::vector<Achse> achsen) : achsen_(std::move(achsen)), weiten_(achsen_.size()) {
     for (std::size_t i = achsen_.size(); i-- > 0;) {
         weiten_[i] = anzahl_;
-        anzahl_ *= achsen_[i].werte.size();
+        const std::size_t werte = achsen_[i].werte.size();
+        constexpr std::size_t groesste = std::numeric_limits<std::size_t>::max();
+        anzahl_ = anzahl_ > groesste / werte ? groesste : anzahl_ * werte;
     }
 }
 
@@ -258,6 +269,17 @@ const Achsenwert& Raster::wert(std::size_t nummer, std::size_t achse) const {
 void Raster::setze(std::size_t nummer, Feldzugriff& felder) const {
     for (std::size_t achse = 0; achse < achsen_.size(); ++achse)
         for (const auto& [feld, wert] : wert(nummer, achse).setzt) felder.setze(feld, wert);
+}
+
+std::optional<std::string> doppeltesFeld(const Raster& raster) {
+    std::vector<int> gesehen;
+    for (const Achse& achse : raster.achsen())
+        for (const int feld : achse.felder) {
+            if (std::find(gesehen.begin(), gesehen.end(), feld) != gesehen.end())
+                return "zwei Achsen setzen " + std::string(eingabefeld(feld).angabe.name);
+            gesehen.push_back(feld);
+        }
+    return std::nullopt;
 }
 
 std::optional<std::string> geloeschteLast(const Raster& raster, const Eingaben& w) {

@@ -23,19 +23,20 @@ struct Achsenwert {
 };
 
 struct Achse {
-    std::vector<int> felder;  // the inputs that move together
+    std::vector<int> felder;  // all inputs that some value sets
     std::string name;         // their names, joined by commas
     std::vector<Achsenwert> werte;
 };
 
 // An axis from a text such as "av1,av2=50:150:5", "Material1=1,2,7", "Material1=OSB/3,OSB/4",
 // "VMTyp1=2,7x60" (a nail: d, ln, dk with it), "VMKatalog1=Klammern 1,53x50" (a row of the catalogue of
-// fasteners: kind, fuk, d, ln, dk), "Ankertyp=HTT5". Ranges are from:to:step; each of their values is the
+// fasteners: d, ln, dk), "Ankertyp=HTT5". Ranges are from:to:step; each of their values is the
 // double nearest to its decimal text. A German sentence when it cannot be read.
 std::variant<Achse, std::string> achseAus(std::string_view text, Grenzen grenzen);
 
 // The decimal texts from `von` by `schritt` up to `bis`, all with as many places as the step needs; nothing
-// when one of them is no decimal number, the step is not above 0 or there are more than ten million.
+// when one of them is no decimal number of at most nine places before and behind the point, the step is not
+// above 0 or there are more than a million.
 std::optional<std::vector<std::string>> dezimalreihe(std::string_view von, std::string_view bis,
                                                      std::string_view schritt);
 
@@ -48,7 +49,8 @@ const VMKataloggruppe& kataloggruppe(int art);
 // "Klammern 1,53x50", as an axis names it.
 std::string katalogzeilenname(int zeile);
 
-// All combinations, the first axis slowest. Combination 0 has the first value of each.
+// All combinations, the first axis slowest. Combination 0 has the first value of each. More than a number
+// holds count as the largest number.
 class Raster {
   public:
     Raster() = default;
@@ -65,6 +67,9 @@ class Raster {
     std::vector<std::size_t> weiten_;  // combinations between two values of an axis
     std::size_t anzahl_ = 1;
 };
+
+// A field that two axes set, so that one would undo the other: a sentence that names it.
+std::optional<std::string> doppeltesFeld(const Raster& raster);
 
 // A load of the axes that the load dialog would clear: a sentence that names it. `w` holds the other inputs.
 std::optional<std::string> geloeschteLast(const Raster& raster, const Eingaben& w);

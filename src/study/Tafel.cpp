@@ -51,9 +51,16 @@ std::variant<Tafelauftrag, std::string> tafelauftrag(const Tafelwunsch& wunsch, 
         if (text.empty()) return std::string("Es fehlt ") + option + ".";
     const int feld = eingabeindex(wunsch.groesste.substr(0, wunsch.groesste.find(',')));
     if (feld < 0) return "unbekanntes Feld \"" + wunsch.groesste + "\"";
+    const Feldart typ = eingabefeld(feld).typ;
+    if (typ != Feldart::f64 && typ != Feldart::f32 && typ != Feldart::i16)
+        return wunsch.groesste + " ist keine Zahl, die wachsen kann";
     const auto& bereich = eingabefeld(feld).bereich;
     if (wunsch.bis.empty() && !bereich) return std::string("Es fehlt --bis.");
     const std::string bis = wunsch.bis.empty() ? zahltext(bereich->bis) : wunsch.bis;
+    for (const auto& [option, text] :
+         {std::pair("--von", wunsch.von), {"--bis", bis}, {"--stufe", wunsch.stufe}})
+        if (!dezimalreihe(text, text, "1"))
+            return std::string(option) + ": \"" + text + "\" ist keine Zahl mit Dezimalpunkt";
     const std::string suche = wunsch.groesste + "=" + wunsch.von + ":" + bis + ":" + wunsch.stufe;
     for (auto& [achse, text] : {std::pair(&rahmen.groesste, suche),
                                 {&rahmen.zeilen, wunsch.zeilen},
@@ -62,7 +69,11 @@ std::variant<Tafelauftrag, std::string> tafelauftrag(const Tafelwunsch& wunsch, 
         if (auto* fehler = std::get_if<std::string>(&gelesen)) return std::move(*fehler);
         *achse = std::get<Achse>(std::move(gelesen));
     }
+    constexpr std::size_t hoechstens = 1'000'000;
+    if (rahmen.zeilen.werte.size() > hoechstens / rahmen.spalten.werte.size())
+        return "die Tafel hat mehr als " + std::to_string(hoechstens) + " Zellen";
     const Raster raster({rahmen.groesste, rahmen.zeilen, rahmen.spalten});
+    if (auto satz = doppeltesFeld(raster)) return std::move(*satz);
     if (auto satz = ueberschriebenesFeld(raster, rahmen.regel.lastfaelle)) return std::move(*satz);
     if (auto satz = geloeschteLast(raster, rahmen.vorlage); satz && !wunsch.trotzdem) return std::move(*satz);
     return rahmen;
