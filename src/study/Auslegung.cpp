@@ -176,10 +176,6 @@ class Auslese {
     Auslegungsergebnis& ergebnis_;
 };
 
-double getippt(const Eingaben& e, Seite n) {
-    return n == Seite::eins ? e.Plattendicke1.value() : wieGetippt(e.Plattendicke2.value());
-}
-
 Achse achse(const std::string& name, const std::vector<std::string>& werte) {
     std::string text = name + "=";
     for (const std::string& wert : werte) text += (text.back() == '=' ? "" : ",") + wert;
@@ -325,7 +321,7 @@ std::vector<Standardachse> standardachsen(const Eingaben& e) {
         {"abstand", achse(beideSeitenNamen(e, "av"), *dezimalreihe("20", schrauben ? "200" : "150", "5"))});
     achsen.push_back({"verbindungsmittel", katalogachse(e)});
     std::vector<std::string> t = ueblicheDicken(e.Material[Seite::eins].value());
-    const std::string heute = zahltext(getippt(e, Seite::eins));
+    const std::string heute = zahltext(plattendicke(e, Seite::eins));
     if (std::find(t.begin(), t.end(), heute) == t.end()) t.push_back(heute);
     const bool gleichePlatte = e.Material[Seite::eins] == e.Material[Seite::zwei];
     achsen.push_back({"platte", achse(beideSeitenNamen(e, "Plattendicke", gleichePlatte), t)});

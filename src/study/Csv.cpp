@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "basis/Utf8.h"
+#include "files/Zeichensatz.h"
 
 namespace rippenscheibe {
 
@@ -83,6 +84,15 @@ std::string zelleAusJson(std::string_view json, const Csvform& form) {
     return text;
 }
 
+std::string tabellentext(std::string_view bytes) {
+    for (std::string_view rest = bytes; !rest.empty();) {
+        const auto zeichen = erstesZeichen(rest);
+        if (!zeichen) return dekodiert(bytes);
+        rest.remove_prefix(zeichen->laenge);
+    }
+    return std::string(bytes);
+}
+
 std::vector<std::string_view> zeilenVon(std::string_view text) {
     if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
     std::vector<std::string_view> zeilen;
@@ -97,7 +107,7 @@ std::vector<std::string_view> zeilenVon(std::string_view text) {
     return zeilen;
 }
 
-std::string alsTabelle(std::span<const std::vector<std::string>> zeilen) {
+std::string alsTabelle(std::span<const std::vector<std::string>> zeilen, Buendigkeit buendigkeit) {
     std::vector<std::size_t> breiten;
     for (const auto& zeile : zeilen) {
         breiten.resize(std::max(breiten.size(), zeile.size()));
@@ -109,7 +119,8 @@ std::string alsTabelle(std::span<const std::vector<std::string>> zeilen) {
         std::string ausgabe;
         for (std::size_t i = 0; i < zeile.size(); ++i) {
             const std::string luft(breiten[i] - zeichenzahl(zeile[i]), ' ');
-            ausgabe += istZahl(zeile[i]) ? luft + zeile[i] : zeile[i] + luft;
+            const bool rechts = buendigkeit == Buendigkeit::rechts || istZahl(zeile[i]);
+            ausgabe += rechts ? luft + zeile[i] : zeile[i] + luft;
             ausgabe += "  ";
         }
         ausgabe.erase(ausgabe.find_last_not_of(' ') + 1);

@@ -28,10 +28,15 @@ std::string mitDezimalzeichen(std::string zahl, const Csvform& form);
 // A JSON value as a cell: texts bare, lists joined by " | ", null empty.
 std::string zelleAusJson(std::string_view json, const Csvform& form);
 
+// The text of a table file: UTF-8, or Windows-1252 where it is none, as spreadsheets write it.
+std::string tabellentext(std::string_view bytes);
+
 // The lines of a text without their ends (LF or CR LF), a byte order mark left out.
 std::vector<std::string_view> zeilenVon(std::string_view text);
 
-// Columns set under each other for reading: the first row is the head. Numbers stand at the right.
-std::string alsTabelle(std::span<const std::vector<std::string>> zeilen);
+// Columns set under each other for reading: the first row is the head. Numbers stand at the right, or all.
+enum class Buendigkeit { nachInhalt, rechts };
+std::string alsTabelle(std::span<const std::vector<std::string>> zeilen,
+                       Buendigkeit buendigkeit = Buendigkeit::nachInhalt);
 
 }  // namespace rippenscheibe

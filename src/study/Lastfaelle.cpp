@@ -81,10 +81,13 @@ std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAus(std::string_
         if (!zellen) return ort(nummer) + "Anführungszeichen nicht geschlossen";
         if (kopf.empty()) {
             kopf = *zellen;
-            for (const std::string& spalte : kopf)
+            for (const std::string& spalte : kopf) {
                 if (spalte != namensspalte &&
                     std::find(spalten.begin(), spalten.end(), spalte) == spalten.end())
                     return ort(nummer) + "unbekannte Spalte \"" + spalte + "\"";
+                if (std::count(kopf.begin(), kopf.end(), spalte) > 1)
+                    return ort(nummer) + "die Spalte " + spalte + " steht zweimal";
+            }
             continue;
         }
         if (zellen->size() != kopf.size())
@@ -109,7 +112,7 @@ std::variant<std::vector<Lastfallzeile>, std::string> lastfaelleAusDatei(const s
                                                                          const Csvform& form) {
     const Dateiinhalt inhalt = liesDatei(datei);
     if (inhalt.fehler) return inhalt.fehler->text;
-    auto faelle = lastfaelleAus(inhalt.bytes, form);
+    auto faelle = lastfaelleAus(tabellentext(inhalt.bytes), form);
     if (auto* fehler = std::get_if<std::string>(&faelle)) return pfadtext(datei) + ": " + *fehler;
     return faelle;
 }

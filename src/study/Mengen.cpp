@@ -13,8 +13,6 @@ namespace rippenscheibe {
 
 namespace {
 
-bool beplankt(const Wand& w, Seite n) { return n == Seite::eins || !w.Einseitig; }
-
 // Calls the visitor with each item of timber: name, section, length of one piece, pieces.
 template <class Besucher>
 void jederHolzposten(const Wand& w, Besucher besucher) {
@@ -82,12 +80,6 @@ void sammle(std::vector<Posten>& summe, const std::vector<Posten>& posten, Gleic
     }
 }
 
-std::string mitKomma(double wert) {
-    std::string text = zahltext(wert);
-    std::replace(text.begin(), text.end(), '.', ',');
-    return text;
-}
-
 }  // namespace
 
 Mengen mengen(const Wand& w, const Reihenregel& regel) {
@@ -98,12 +90,12 @@ Mengen mengen(const Wand& w, const Reihenregel& regel) {
     for (const Seite n : beideSeiten) {
         if (!beplankt(w, n)) continue;
         Mengen seite;
-        const double dicke = n == Seite::eins ? w.Plattendicke1.value() : wieGetippt(w.Plattendicke2.value());
-        seite.platten.push_back({plattentext(w, n), dicke, flaeche(w), plattenstueck(w, n)});
+        seite.platten.push_back(
+            {std::string(plattenname(w, n)), plattendicke(w, n), flaeche(w), plattenstueck(w, n)});
         seite.verbindungsmittel.push_back({verbindungsmitteltext(w, n), vmStueck(w, n, regel)});
         addiere(m, seite);
     }
-    if (ankerStueck(w) > 0) m.anker.push_back({ankertext(w), ankerStueck(w)});
+    if (ankerStueck(w) > 0) m.anker.push_back({std::string(ankername(w)), ankerStueck(w)});
     return m;
 }
 
@@ -142,11 +134,11 @@ std::vector<Mengenzeile> mengenzeilen(const Mengen& m) {
     for (const Holzposten& p : m.holz)
         zeilen.push_back(
             {"Holz", p.bezeichnung,
-             mitKomma(p.b) + "x" + mitKomma(p.h) + ", l = " + mitKomma(std::round(p.laenge * 10) / 10),
+             kommatext(p.b) + "x" + kommatext(p.h) + ", l = " + kommatext(std::round(p.laenge * 10) / 10),
              p.stueck, gerundet(p.b * p.h * p.laenge * p.stueck * 1e-9), "m³"});
     for (const Plattenposten& p : m.platten)
         zeilen.push_back(
-            {"Platte", p.material, mitKomma(p.dicke) + " mm", p.stueck, gerundet(p.flaeche), "m²"});
+            {"Platte", p.material, kommatext(p.dicke) + " mm", p.stueck, gerundet(p.flaeche), "m²"});
     for (const Stueckposten& p : m.verbindungsmittel)
         zeilen.push_back({"Verbindungsmittel", p.name, "", p.stueck, gerundet(p.stueck), "Stück"});
     for (const Stueckposten& p : m.anker)
@@ -168,24 +160,30 @@ Mengensummen mengensummen(const Wand& w, const Reihenregel& regel) {
     return m;
 }
 
-std::string plattentext(const Wand& w, Seite n) {
+std::string_view plattenname(const Wand& w, Seite n) {
     constexpr int eigenes = 13;
-    if (w.Material[n].value() < eigenes)
-        return std::string(eintrag(Plattenmaterialien(), w.Material[n].value()));
+    if (w.Material[n].value() < eigenes) return eintrag(Plattenmaterialien(), w.Material[n].value());
     const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);
-    return name != nullptr && !name->empty() ? *name : "freies Material";
+    return name != nullptr && !name->empty() ? std::string_view(*name) : "freies Material";
 }
 
 std::string verbindungsmitteltext(const Wand& w, Seite n) {
-    return std::string(eintrag(VMArten(), w.VMArt[n].value())) + " " + mitKomma(w.d[n].value()) + "x" +
-           mitKomma(w.ln[n].value());
+    return std::string(eintrag(VMArten(), w.VMArt[n].value())) + " " + kommatext(w.d[n].value()) + "x" +
+           kommatext(w.ln[n].value());
 }
 
-std::string ankertext(const Wand& w) {
-    const std::string_view name = eintrag(Ankernamen(), w.Ankertyp.value());
+std::string_view ankername(const Wand& w) {
     constexpr int frei = 13;
-    if (w.Ankertyp == frei) return w.FreierAnkerName.empty() ? "freier Anker" : w.FreierAnkerName;
-    return std::string(name.substr(name.rfind(' ') + 1));
+    if (w.Ankertyp == frei)
+        return w.FreierAnkerName.empty() ? "freier Anker" : std::string_view(w.FreierAnkerName);
+    const std::string_view name = eintrag(Ankernamen(), w.Ankertyp.value());
+    return name.substr(name.rfind(' ') + 1);
+}
+
+bool beplankt(const Eingaben& w, Seite n) { return n == Seite::eins || !w.Einseitig; }
+
+double plattendicke(const Eingaben& w, Seite n) {
+    return n == Seite::eins ? w.Plattendicke1.value() : wieGetippt(w.Plattendicke2.value());
 }
 
 double wandgewicht(Wand& w) {

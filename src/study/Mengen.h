@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/VMReihen.h"
@@ -65,10 +66,15 @@ struct Mengensummen {
 };
 Mengensummen mengensummen(const Wand& w, const Reihenregel& regel = {});
 
-// Names as the report and the drawings have them: the board or own material, "Nägel 2,7x50", "HTT5".
-std::string plattentext(const Wand& w, Seite n);
+// Names as the report and the drawings have them: the board or own material, "Nägel 2,7x50", "HTT5". The
+// views last as long as the inputs.
+std::string_view plattenname(const Wand& w, Seite n);
 std::string verbindungsmitteltext(const Wand& w, Seite n);
-std::string ankertext(const Wand& w);
+std::string_view ankername(const Wand& w);
+
+bool beplankt(const Eingaben& w, Seite n);
+// Thickness of the sheathing in mm as it was typed.
+double plattendicke(const Eingaben& w, Seite n);
 
 // Self-weight of the wall without insulation in kN, as the calculation forms it, from the inputs alone: the
 // derived values of the record and the values of its sheathing are formed anew.

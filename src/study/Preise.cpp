@@ -13,27 +13,8 @@ namespace rippenscheibe {
 
 namespace {
 
-std::string_view plattenname(const Wand& w, Seite n) {
-    constexpr int eigenes = 13;
-    if (w.Material[n].value() < eigenes) return eintrag(Plattenmaterialien(), w.Material[n].value());
-    const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);
-    return name != nullptr ? std::string_view(*name) : std::string_view("freies Material");
-}
-
-double dicke(const Wand& w, Seite n) {
-    return n == Seite::eins ? w.Plattendicke1.value() : static_cast<double>(w.Plattendicke2.value());
-}
-
 std::string_view holzname(const Wand& w) { return eintrag(Holzarten(), w.Holzart.value()); }
 std::string_view vmName(const Wand& w, Seite n) { return eintrag(VMArten(), w.VMArt[n].value()); }
-std::string_view ankername(const Wand& w) {
-    constexpr int frei = 13;
-    if (w.Ankertyp == frei) return w.FreierAnkerName;
-    const std::string_view name = eintrag(Ankernamen(), w.Ankertyp.value());
-    return name.substr(name.rfind(' ') + 1);
-}
-
-bool beplankt(const Wand& w, Seite n) { return n == Seite::eins || !w.Einseitig; }
 
 }  // namespace
 
@@ -57,19 +38,19 @@ std::variant<Preise, std::string> Preise::aus(std::string_view text, const Csvfo
         if (!preis || !(*preis > 0)) return ort + "\"" + (*zellen)[3] + "\" ist kein Preis";
         const std::string& art = zellen->front();
         const std::string& name = (*zellen)[1];
+        bool neu = true;
         if (art == "Platte") {
             const auto mm = zahl(2);
             if (!mm) return ort + "\"" + (*zellen)[2] + "\" ist keine Dicke";
+            neu = preise.platte(name, *mm) == nullptr;
             preise.platten_.push_back({name, *mm, *preis});
-        } else if (art == "Holz") {
-            preise.holz_.push_back({name, *preis});
-        } else if (art == "Verbindungsmittel") {
-            preise.verbindungsmittel_.push_back({name, *preis});
-        } else if (art == "Anker") {
-            preise.anker_.push_back({name, *preis});
+        } else if (auto* liste = preise.liste(art)) {
+            neu = suche(*liste, name) == nullptr;
+            liste->push_back({name, *preis});
         } else {
             return ort + "\"" + art + "\" ist keine Art (Platte, Holz, Verbindungsmittel, Anker)";
         }
+        if (!neu) return ort + art + " \"" + name + "\" steht zweimal";
     }
     return preise;
 }
@@ -77,7 +58,7 @@ std::variant<Preise, std::string> Preise::aus(std::string_view text, const Csvfo
 std::variant<Preise, std::string> Preise::ausDatei(const std::filesystem::path& datei, const Csvform& form) {
     const Dateiinhalt inhalt = liesDatei(datei);
     if (inhalt.fehler) return inhalt.fehler->text;
-    auto preise = aus(inhalt.bytes, form);
+    auto preise = aus(tabellentext(inhalt.bytes), form);
     if (auto* fehler = std::get_if<std::string>(&preise)) return pfadtext(datei) + ": " + *fehler;
     return preise;
 }
@@ -98,9 +79,16 @@ const Preise::Preis* Preise::suche(const std::vector<Preis>& preise, std::string
     return treffer == preise.end() ? nullptr : &*treffer;
 }
 
-const Preise::Plattenpreis* Preise::platte(const Wand& w, Seite n) const {
+std::vector<Preise::Preis>* Preise::liste(std::string_view art) {
+    if (art == "Holz") return &holz_;
+    if (art == "Verbindungsmittel") return &verbindungsmittel_;
+    if (art == "Anker") return &anker_;
+    return nullptr;
+}
+
+const Preise::Plattenpreis* Preise::platte(std::string_view material, double dicke) const {
     const auto treffer = std::find_if(platten_.begin(), platten_.end(), [&](const Plattenpreis& p) {
-        return p.material == plattenname(w, n) && std::fabs(p.dicke - dicke(w, n)) < 1e-4;
+        return p.material == material && p.dicke == dicke;
     });
     return treffer == platten_.end() ? nullptr : &*treffer;
 }
@@ -112,7 +100,7 @@ std::optional<double> Preise::kosten(const Wand& w, const Reihenregel& regel) co
     double summe = m.holz * holz->preis;
     for (const Seite n : beideSeiten) {
         if (!beplankt(w, n)) continue;
-        const Plattenpreis* const tafel = platte(w, n);
+        const Plattenpreis* const tafel = platte(plattenname(w, n), plattendicke(w, n));
         const Preis* const vm = suche(verbindungsmittel_, vmName(w, n));
         if (tafel == nullptr || vm == nullptr) return std::nullopt;
         summe += m.platten[n] * tafel->preis + m.verbindungsmittel[n] * vm->preis;
@@ -132,8 +120,8 @@ std::string Preise::fehlenderPreis(const Wand& w) const {
     if (suche(holz_, holzname(w)) == nullptr) return satz("Holz", holzname(w));
     for (const Seite n : beideSeiten) {
         if (!beplankt(w, n)) continue;
-        if (platte(w, n) == nullptr)
-            return satz("Platte", plattenname(w, n)) + " mit " + zahltext(dicke(w, n)) + " mm";
+        if (platte(plattenname(w, n), plattendicke(w, n)) == nullptr)
+            return satz("Platte", plattenname(w, n)) + " mit " + kommatext(plattendicke(w, n)) + " mm";
         if (suche(verbindungsmittel_, vmName(w, n)) == nullptr)
             return satz("Verbindungsmittel", vmName(w, n));
     }

@@ -48,7 +48,9 @@ class Preise {
         double preis;
     };
     static const Preis* suche(const std::vector<Preis>& preise, std::string_view name);
-    const Plattenpreis* platte(const Wand& w, Seite n) const;
+    const Plattenpreis* platte(std::string_view material, double dicke) const;
+    // The prices by name of a kind of line; boards have theirs by thickness too.
+    std::vector<Preis>* liste(std::string_view art);
 
     std::vector<Plattenpreis> platten_;
     std::vector<Preis> holz_;               // a m³ by strength class

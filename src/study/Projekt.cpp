@@ -20,12 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string mitKomma(double wert) {
-    std::string text = zahltext(wert);
-    std::replace(text.begin(), text.end(), '.', ',');
-    return text;
-}
-
 char klein(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 bool istZiffer(char c) { return c >= '0' && c <= '9'; }
 
@@ -72,12 +66,11 @@ std::string ohneNamen(std::string grund, const fs::path& datei) {
 }
 
 std::string plattenangabe(const Wand& w, Seite n) {
-    const double dicke = n == Seite::eins ? w.Plattendicke1.value() : wieGetippt(w.Plattendicke2.value());
-    return plattentext(w, n) + " " + mitKomma(dicke) + " mm";
+    return std::string(plattenname(w, n)) + " " + kommatext(plattendicke(w, n)) + " mm";
 }
 
 std::string befestigungsangabe(const Wand& w, Seite n) {
-    return verbindungsmitteltext(w, n) + ", av " + mitKomma(w.av[n].value()) + " mm";
+    return verbindungsmitteltext(w, n) + ", av " + kommatext(w.av[n].value()) + " mm";
 }
 
 std::string beideOderEine(const Wand& w, std::string (*text)(const Wand&, Seite)) {
@@ -88,10 +81,11 @@ std::string beideOderEine(const Wand& w, std::string (*text)(const Wand&, Seite)
 }
 
 void beschreibe(Projektposition& p, const Wand& w) {
-    p.masse = mitKomma(w.Wandlaenge.value()) + " × " + mitKomma(w.Wandhoehe.value()) + " m";
+    p.masse = kommatext(w.Wandlaenge.value()) + " × " + kommatext(w.Wandhoehe.value()) + " m";
     p.beplankung = beideOderEine(w, plattenangabe) + (w.Einseitig ? ", einseitig" : "");
     p.befestigung = beideOderEine(w, befestigungsangabe);
-    if (w.NachweisVerankerung) p.verankerung = mitKomma(w.AnzahlAnker.value()) + " × " + ankertext(w);
+    if (w.NachweisVerankerung)
+        p.verankerung = kommatext(w.AnzahlAnker.value()).append(" × ").append(ankername(w));
 }
 
 // What the rules of every search say of a wall that passes its run.
@@ -179,7 +173,7 @@ std::variant<std::vector<Lastfallzeile>, std::string> liesLastfaelle(const fs::p
     Dateiinhalt inhalt = liesDatei(datei);
     if (inhalt.lage == Dateilage::fehlt) return std::vector<Lastfallzeile>{};
     if (inhalt.fehler) return inhalt.fehler->text;
-    auto faelle = lastfaelleAus(inhalt.bytes);
+    auto faelle = lastfaelleAus(tabellentext(inhalt.bytes));
     if (auto* fehler = std::get_if<std::string>(&faelle)) return pfadtext(datei.filename()) + ", " + *fehler;
     return faelle;
 }
