@@ -187,7 +187,8 @@ class Arbeit {
     // The load cases of the command; false when they cannot be read.
     bool ladeLastfaelle() {
         if (!auftrag_.studie.lastfaelle) return true;
-        auto gelesen = lastfaelleAusDatei(*auftrag_.studie.lastfaelle, auftrag_.studie.csv);
+        // Told to read commas, it takes points too.
+        auto gelesen = lastfaelleAusDatei(*auftrag_.studie.lastfaelle, {.dezimal = ','});
         if (const auto* fehler = std::get_if<std::string>(&gelesen)) {
             ausgaben_.meldungen(*fehler + "\n");
             return false;

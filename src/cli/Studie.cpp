@@ -127,10 +127,12 @@ class Studie {
         pruefeLastfaelle(v.raster, v.regel);
         pruefeLasten(v.raster);
         Zeilenausgabe ausgabe(auftrag_.ausgabe, auftrag_.csv);
+        Pruefstand stelle(v.vorlage, v.materialien);
         rippenscheibe::variiere(v, ausfuehrung(), [&](const Variationspunkt& punkt) {
             Studienzeile zeile{.vorn = {}, .gruppe = "felder", .innen = {}, .hinten = {}};
-            for (std::size_t i = 0; i < v.raster.achsen().size(); ++i)
-                anfuegeZuweisungen(zeile.innen, v.raster.wert(punkt.nummer, i).setzt);
+            stelle.beginne();
+            v.raster.setze(punkt.nummer, stelle.felder());
+            anfuegeAchsenfelder(zeile.innen, v.raster, stelle.felder());
             const bool besteht = punkt.bewertung.ausgang == Ausgang::besteht;
             zeile.hinten.emplace_back("besteht", besteht ? "true" : "false");
             anfuegeUrteil(zeile.hinten, punkt.bewertung, v.regel);
@@ -152,6 +154,8 @@ class Studie {
         a.vorlage = eingaben();
         a.materialien = u_.materialien;
         a.regel = regel();
+        if (!auftrag_.achsen.empty() && !auftrag_.gebiete.empty())
+            throw Abbruch{"Entweder --feld oder --variiere."};
         a.raster = auftrag_.achsen.empty() ? standardraster() : raster(auftrag_.achsen);
         a.ziel = auftrag_.ziel;
         a.reihen.zwischenrippen = auftrag_.zwischenrippen;
@@ -192,17 +196,15 @@ class Studie {
         zeile.vorn.emplace_back("rang", rang > 0 ? std::to_string(rang) : "null");
         zeile.vorn.emplace_back(namen[static_cast<std::size_t>(a.ziel)], jsonWert(entwurf.wert));
         anfuegeUrteil(zeile.vorn, entwurf.bewertung, a.regel);
-        for (std::size_t i = 0; i < a.raster.achsen().size(); ++i)
-            anfuegeZuweisungen(zeile.innen, a.raster.wert(entwurf.nummer, i).setzt);
         setzeEntwurf(a, entwurf.nummer, stand);
+        anfuegeAchsenfelder(zeile.innen, a.raster, stand.felder());
         if (a.eigengewicht) {
             std::string gkWand;
             stand.felder().anfuegeEingabe(gkWand, eingabeindex("gkWand"));
             zeile.innen.emplace_back("gkWand", gkWand);
         }
         anfuegeRichtung(zeile.hinten, entwurf.bewertung);
-        if (!entwurf.bewertung.luecken.leer())
-            zeile.hinten.emplace_back("luecken", jsonListe(stand.lueckensaetze()));
+        zeile.hinten.emplace_back("luecken", jsonListe(stand.lueckensaetze(entwurf.bewertung)));
         if (auftrag_.ausgabe == Studienausgabe::json) zeile.hinten.emplace_back("fest", festesObjekt(stand));
         return zeile;
     }
@@ -223,7 +225,7 @@ class Studie {
         for (const int feld : festeFelder()) {
             if (!text.empty()) text += ", ";
             text.append(eingabefeld(feld).angabe.name).append(" = ");
-            stand.felder().anfuegeEingabe(text, feld);
+            text += eingabetext(stand.felder(), feld);
         }
         return text;
     }
@@ -319,13 +321,19 @@ class Studie {
         }
     }
 
+    static std::string inEinheit(const Achse& achse) {
+        const std::string_view einheit = eingabefeld(achse.felder.front()).angabe.einheit;
+        return einheit.empty() || einheit == "-" ? "" : " in " + std::string(einheit);
+    }
+
     // The table itself, then what its signs mean.
     void gibTafelAus(const Tafelauftrag& t, const Tafel& tafel) {
         const bool csv = auftrag_.ausgabe == Studienausgabe::csv;
         std::vector<std::vector<std::string>> zeilen =
             tafelzeilen(t, tafel, csv ? auftrag_.csv.dezimal : ',');
         if (!csv) {
-            schreibe(t.groesste.name + ", größter Wert\n" + alsTabelle(zeilen) + tafellegende(tafel));
+            schreibe(t.groesste.name + ", größter Wert" + inEinheit(t.groesste) + "\n" +
+                     alsTabelle(zeilen, Buendigkeit::rechts) + tafellegende(tafel));
             return;
         }
         for (const auto& zeile : zeilen) schreibe(csvZeile(zeile, auftrag_.csv));
@@ -446,7 +454,9 @@ class Studie {
     Raster raster(const std::vector<std::string>& texte) const {
         std::vector<Achse> achsen;
         for (const std::string& text : texte) achsen.push_back(achse(text));
-        return Raster(std::move(achsen));
+        Raster raster(std::move(achsen));
+        if (const auto satz = doppeltesFeld(raster)) throw Abbruch{*satz};
+        return raster;
     }
 
     Raster standardraster() const {
@@ -461,6 +471,16 @@ class Studie {
             achsen.push_back(treffer->achse);
         }
         return Raster(std::move(achsen));
+    }
+
+    // The fields of all axes as they stand in a record.
+    static void anfuegeAchsenfelder(Glieder& glieder, const Raster& raster, const Feldzugriff& felder) {
+        for (const Achse& achse : raster.achsen())
+            for (const int feld : achse.felder) {
+                std::string wert;
+                felder.anfuegeEingabe(wert, feld);
+                glieder.emplace_back(eingabefeld(feld).angabe.name, std::move(wert));
+            }
     }
 
     // The direction of Fv that governs; nothing without horizontal load or run.

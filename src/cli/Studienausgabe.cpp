@@ -12,7 +12,7 @@ namespace rippenscheibe {
 namespace {
 
 // A number for reading: at most four places, a comma, and as many digits as tell it from 1.
-std::string lesbar(std::string zelle) {
+std::string lesbareZahl(std::string zelle) {
     double zahl = 0;
     const char* const ende = zelle.data() + zelle.size();
     const auto [stelle, fehler] = std::from_chars(zelle.data(), ende, zahl);
@@ -25,6 +25,21 @@ std::string lesbar(std::string zelle) {
     }
     std::replace(zelle.begin(), zelle.end(), '.', ',');
     return zelle;
+}
+
+// Truth and numbers of a cell, also those of a list.
+std::string lesbar(const std::string& zelle) {
+    if (zelle == "true") return "ja";
+    if (zelle == "false") return "nein";
+    constexpr std::string_view trenner = " | ";
+    std::string text;
+    for (std::size_t von = 0;; von += trenner.size()) {
+        const std::size_t bis = std::min(zelle.find(trenner, von), zelle.size());
+        text += lesbareZahl(zelle.substr(von, bis - von));
+        if (bis == zelle.size()) return text;
+        text += trenner;
+        von = bis;
+    }
 }
 
 template <class Besucher>

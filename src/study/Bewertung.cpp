@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "run/Zuweisen.h"
 #include "study/Mengen.h"
 
 namespace rippenscheibe {
@@ -59,17 +58,18 @@ void Pruefstand::jederFall(Besucher besucher) {
     }
 }
 
+// The first run is a fresh one; the second starts from what it left.
+Laufergebnis Pruefstand::starteLauf(const Grundmasse& felder, int lauf) {
+    if (lauf == 1) return rechneFrisch(wand_);
+    zuweisen(wand_, felder);
+    return starte(wand_);
+}
+
 bool Pruefstand::bewerteFall(Bewertung& bewertung, int lastfall) {
     const Grundmasse felder = grundmasse(wand_);
     const bool nachLinks = wand_.Fvk < 0;
     for (int lauf = 1; lauf <= 2; ++lauf) {
-        if (lauf == 1) {
-            rechneFrisch(wand_);
-        } else {
-            zuweisen(wand_, felder);
-            starte(wand_);
-        }
-        if (!wand_.Hinweise.empty()) {
+        if (starteLauf(felder, lauf) == Laufergebnis::hinweise) {
             bewertung.ausgang = Ausgang::hinweis;
             bewertung.hinweis = wand_.Hinweise.front().text;
             return false;
@@ -122,14 +122,23 @@ Bewertung Pruefstand::bewerteBis(bool zumEnde) {
     return bewertung;
 }
 
-std::vector<std::string> Pruefstand::lueckensaetze() {
+std::vector<std::string> Pruefstand::lueckensaetze(const Bewertung& bewertung) {
+    if (bewertung.luecken.leer()) return {};
     uebernimmBemessungseingaben(wand_, stand_);
     std::vector<std::string> saetze;
     jederFall([&](int) {
-        if (rechneFrisch(wand_) == Laufergebnis::hinweise) return true;
-        for (std::string& satz : rippenscheibe::lueckensaetze(wand_))
-            if (std::find(saetze.begin(), saetze.end(), satz) == saetze.end())
-                saetze.push_back(std::move(satz));
+        const Grundmasse felder = grundmasse(wand_);
+        Lueckenmenge genannt;
+        for (int lauf = 1; lauf <= 2; ++lauf) {
+            if (starteLauf(felder, lauf) == Laufergebnis::hinweise) break;
+            for (const Lueckenart art : luecken(wand_).arten()) {
+                if (!bewertung.luecken.enthaelt(art) || genannt.enthaelt(art)) continue;
+                genannt.nimmAuf(art);
+                std::string satz = lueckensatz(wand_, art);
+                if (std::find(saetze.begin(), saetze.end(), satz) == saetze.end())
+                    saetze.push_back(std::move(satz));
+            }
+        }
         return true;
     });
     uebernimmBemessungseingaben(stand_, wand_);

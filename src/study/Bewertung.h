@@ -10,6 +10,7 @@
 #include "run/FrischerLauf.h"
 #include "run/Luecken.h"
 #include "run/Urteil.h"
+#include "run/Zuweisen.h"
 #include "study/Felder.h"
 
 // Whether a wall passes, as every search, sweep and table means it: first and second fresh run without
@@ -71,8 +72,8 @@ class Pruefstand {
     Bewertung bewerte();
     // Whether `bewerte` would pass them; ends with the first run that does not.
     bool besteht();
-    // The gaps of all runs as sentences, each once. Costs a run for each.
-    std::vector<std::string> lueckensaetze();
+    // The gaps of `bewertung` as sentences, each once. Costs the runs again where there are gaps.
+    std::vector<std::string> lueckensaetze(const Bewertung& bewertung);
 
     // The sections of the proofs, each with its largest value of all directions and cases. Empty where
     // findings stop one of them.
@@ -90,6 +91,7 @@ class Pruefstand {
     template <class Besucher>
     void jederFall(Besucher besucher);
     void setzeFall(int lastfall, bool gewendet);
+    Laufergebnis starteLauf(const Grundmasse& felder, int lauf);
     Bewertung bewerteBis(bool zumEnde);
     bool bewerteFall(Bewertung& bewertung, int lastfall);
     bool bestehtNachRechts(int lastfall);

@@ -222,6 +222,18 @@ void Feldzugriff::anfuegeErgebnis(std::string& json, int ergebnis) const {
     anfuege(json, ergebnisse_[static_cast<std::size_t>(ergebnis)]);
 }
 
+std::string eingabetext(const Feldzugriff& felder, int eingabe) {
+    const Feldeintrag& feld = eingabefeld(eingabe);
+    std::string wert;
+    felder.anfuegeEingabe(wert, eingabe);
+    if (feld.typ == Feldart::wahr) return wert == "true" ? "ja" : "nein";
+    if (feld.typ == Feldart::text) return wert;
+    std::replace(wert.begin(), wert.end(), '.', ',');
+    const std::string_view einheit = feld.angabe.einheit;
+    if (!einheit.empty() && einheit != "-") wert.append(" ").append(einheit);
+    return wert;
+}
+
 void uebernimmBemessungseingaben(const Eingaben& von, Eingaben& nach) {
     static_cast<System&>(nach) = von;
     static_cast<Beplankung&>(nach) = von;
@@ -237,6 +249,12 @@ void anfuegeZahl(std::string& text, float wert) { anfuegeKuerzeste(text, wert); 
 std::string zahltext(double wert) {
     std::string text;
     anfuegeZahl(text, wert);
+    return text;
+}
+
+std::string kommatext(double wert) {
+    std::string text = zahltext(wert);
+    std::replace(text.begin(), text.end(), '.', ',');
     return text;
 }
 

@@ -70,6 +70,9 @@ class Feldzugriff {
     std::vector<Zeiger> ergebnisse_;
 };
 
+// The value of an input for reading: "ja", decimal comma, unit.
+std::string eingabetext(const Feldzugriff& felder, int eingabe);
+
 // Assigns what the calculation reads of the inputs: all groups but the head of the position. Allocates
 // nothing when the name of the free anchor fits.
 void uebernimmBemessungseingaben(const Eingaben& von, Eingaben& nach);
@@ -78,6 +81,8 @@ void uebernimmBemessungseingaben(const Eingaben& von, Eingaben& nach);
 void anfuegeZahl(std::string& text, double wert);
 void anfuegeZahl(std::string& text, float wert);
 std::string zahltext(double wert);
+// The same for reading, with a comma.
+std::string kommatext(double wert);
 // The number of such a text whatever the locale, 0 when it is none.
 double zahlAus(std::string_view text);
 // The double of the shortest decimal text of a single-precision value: 0.35 as it was typed.

@@ -14,20 +14,24 @@ namespace {
 // A page of paragraphs and one table in rich text: A4, margins of 2 cm, pure ASCII.
 class Rtfseite {
   public:
-    void absatz(const std::string& text, bool fett = false) {
-        rtf_ +=
-            std::string("\\pard ") + (fett ? "\\b " : "") + escaped(text) + (fett ? "\\b0" : "") + "\\par\n";
+    void absatz(const std::string& text) { rtf_ += "\\pard\\keep " + escaped(text) + "\\par\n"; }
+    // Never stands alone at the end of a page.
+    void ueberschrift(const std::string& text) {
+        rtf_ += "\\pard\\keepn\\b " + escaped(text) + "\\b0\\par\n";
     }
+    // Rows under a head that stands again on each page, together on one page where they fit.
     void tabelle(const std::vector<std::vector<std::string>>& zeilen) {
         constexpr std::size_t breite = 9638;  // twips between the margins
         for (const auto& zeile : zeilen) {
-            rtf_ += "\\trowd\\trgaph70";
+            const bool kopf = &zeile == zeilen.data();
+            const bool letzte = &zeile == &zeilen.back();
+            rtf_ += std::string("\\trowd\\trgaph70\\trkeep") + (kopf ? "\\trhdr" : "");
             for (std::size_t i = 1; i <= zeile.size(); ++i)
                 rtf_ += "\\clbrdrb\\brdrs\\brdrw10\\cellx" + std::to_string(breite * i / zeile.size());
             rtf_ += '\n';
             for (const std::string& zelle : zeile)
-                rtf_ += "\\pard\\intbl" + std::string(&zelle == zeile.data() ? "" : "\\qr") + " " +
-                        escaped(zelle) + "\\cell ";
+                rtf_ += std::string("\\pard\\intbl") + (letzte ? "" : "\\keepn") +
+                        (&zelle == zeile.data() ? "" : "\\qr") + " " + escaped(zelle) + "\\cell ";
             rtf_ += "\\row\n";
         }
         rtf_ += "\\pard\\par\n";
@@ -77,18 +81,9 @@ Angaben festeEingaben(const Tafelauftrag& auftrag) {
     for (int feld = eingabeindex("Wandlaenge"); feld < static_cast<int>(eingabefelder().size()); ++feld) {
         if (std::any_of(achsen.begin(), achsen.end(), [&](const Achse* a) { return setzt(*a, feld); }))
             continue;
-        const Feldeintrag& eintrag = eingabefeld(feld);
-        std::string wert;
-        felder.anfuegeEingabe(wert, feld);
-        if (eintrag.typ == Feldart::wahr) {
-            wert = wert == "true" ? "ja" : "nein";
-        } else if (eintrag.typ != Feldart::text) {
-            std::replace(wert.begin(), wert.end(), '.', ',');
-            const std::string_view einheit = eintrag.angabe.einheit;
-            if (!einheit.empty() && einheit != "-") wert.append(" ").append(einheit);
-        }
-        if (setzenLastfaelle(auftrag.regel, feld)) wert = "je Lastfall";
-        angaben.emplace_back(eintrag.angabe.name, wert);
+        angaben.emplace_back(eingabefeld(feld).angabe.name, setzenLastfaelle(auftrag.regel, feld)
+                                                                ? "je Lastfall"
+                                                                : eingabetext(felder, feld));
     }
     return angaben;
 }
@@ -98,7 +93,7 @@ std::string mitBedeutung(const Achse& achse) {
     if (achse.felder.empty()) return achse.name;
     const Feldangabe& angabe = eingabefeld(achse.felder.front()).angabe;
     std::string text = achse.name + " (" + std::string(angabe.bedeutung);
-    if (!angabe.einheit.empty()) text.append(", ").append(angabe.einheit);
+    if (!angabe.einheit.empty() && angabe.einheit != "-") text.append(", ").append(angabe.einheit);
     return text + ")";
 }
 
@@ -139,12 +134,12 @@ Tafelblatt tafelblatt(const Tafelauftrag& auftrag, const Tafel& tafel) {
 
 std::string tafelRtf(const Tafelblatt& blatt) {
     Rtfseite seite;
-    seite.absatz(blatt.titel, true);
+    seite.ueberschrift(blatt.titel);
     for (const auto& [name, wert] : blatt.kopf) seite.absatz(name + ": " + wert);
     for (const std::string& satz : blatt.gegenstand) seite.absatz(satz);
     seite.tabelle(blatt.zellen);
     for (const std::string& zeile : blatt.legende) seite.absatz(zeile);
-    seite.absatz("Feste Eingaben", true);
+    seite.ueberschrift("Feste Eingaben");
     std::string feste;
     for (const auto& [name, wert] : blatt.feste)
         feste.append(feste.empty() ? "" : ", ").append(name).append(" = ").append(wert);

@@ -18,7 +18,7 @@ Variationspunkt punkt(const Variationsauftrag& auftrag, Pruefstand& stand, std::
     setze();
     p.bewertung = stand.bewerte();
     const bool gerechnet = p.bewertung.ausgang != Ausgang::hinweis;
-    if (!p.bewertung.luecken.leer()) p.luecken = stand.lueckensaetze();
+    p.luecken = stand.lueckensaetze(p.bewertung);
     if (auftrag.mitAbschnitten && gerechnet) p.abschnitte = stand.abschnitte();
     if (auftrag.felder.empty()) return p;
     stand.rechneMassgebend(p.bewertung);

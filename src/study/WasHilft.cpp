@@ -34,15 +34,15 @@ class Schrittliste {
         if (!bekannt) schritte_.push_back(std::move(schritt));
     }
 
-    // The same value in the fields of side 1, of side 2 and of both; `wert` yields it from today's, nothing
-    // for none.
+    // A step in the field of side 1, of side 2 and of both; `wert` yields the new value from side and
+    // today's, nothing for none.
     template <class Wert>
     void jeSeite(std::string_view name, Wert wert) {
         Zuweisungen beide;
         for (const Seite n : beideSeiten) {
             if (n == Seite::zwei && wand_.Einseitig) continue;
             const int feld = eingabeindex(std::string(name) + std::to_string(nummer(n)));
-            const std::optional<double> neu = wert(zahlAus(heute(feld)));
+            const std::optional<double> neu = wert(n, zahlAus(heute(feld)));
             if (!neu) continue;
             nimmAuf({{feld, *neu}});
             beide.emplace_back(feld, *neu);
@@ -89,8 +89,10 @@ class Schrittliste {
             }
         }
         std::string alles;
-        for (const auto& [namen, wechsel] : gruppen)
+        for (auto& [namen, wechsel] : gruppen) {
+            std::replace(wechsel.begin(), wechsel.end(), '.', ',');
             alles.append(alles.empty() ? "" : "; ").append(namen).append(" ").append(wechsel);
+        }
         return alles;
     }
 
@@ -134,7 +136,7 @@ std::vector<Hilfeschritt> naechsteSchritte(const Eingaben& e) {
     constexpr std::array hoehen{100.0, 120.0, 140.0, 160.0, 180.0, 200.0, 220.0, 240.0};
     Schrittliste liste(e);
     for (const double schritt : {-5.0, 5.0})
-        liste.jeSeite("av", [&](double av) { return std::optional(av + schritt); });
+        liste.jeSeite("av", [&](Seite, double av) { return std::optional(av + schritt); });
 
     Zuweisungen alleZeilen;
     for (const Seite n : beideSeiten) {
@@ -145,8 +147,8 @@ std::vector<Hilfeschritt> naechsteSchritte(const Eingaben& e) {
     }
     liste.nimmAuf(std::move(alleZeilen));
 
-    const std::vector<double> dicken = dickenVon(e.Material[Seite::eins].value());
-    liste.jeSeite("Plattendicke", naechster(dicken));
+    liste.jeSeite("Plattendicke",
+                  [&](Seite n, double heute) { return naechster(dickenVon(e.Material[n].value()))(heute); });
     liste.gemeinsam({"bRandrippe"}, naechster(breiten));
     liste.gemeinsam({"bRandrippe", "bInnenrippe"}, naechster(breiten));
     liste.gemeinsam({"hRandrippe", "hInnenrippe"}, naechster(hoehen));

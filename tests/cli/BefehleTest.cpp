@@ -311,6 +311,16 @@ TEST_F(Befehle, VerbsOverManyWallsAnswerWithCodeAndSentence) {
         {{"lege-aus", wand, "--feld", "KLED=1,2", "--preise", preise},
          64,
          "KLED wird beim Auslegen nicht verändert"},
+        {{"lege-aus", wand, "--feld", "av1=60", "--variiere", "platte"},
+         64,
+         "Entweder --feld oder --variiere."},
+        {{"lege-aus", wand, "--hoechstens", "1.2"}, 64, "erlaubt: eine Zahl von 0.01 bis 1"},
+        {{"lege-aus", wand, "--faeden", "100000"}, 64, "erlaubt: eine ganze Zahl von 1 bis 1024"},
+        {{"variiere", wand, "--feld", "av1=60", "--feld", "av2,av1=70"}, 64, "zwei Achsen setzen av1"},
+        {{"variiere", wand, "--feld", "VMTyp1=3,2,7x60", "--ausgabe", "csv"}, 0, "\n3;2.7;60;6.1;true"},
+        {{"tafel", wand, "--groesste", "Fvk", "--zeilen", "gk=0", "--spalten", "av1=60", "--stufe", "0,5"},
+         64,
+         "--stufe: \"0,5\" ist keine Zahl mit Dezimalpunkt"},
         {{"lege-aus", wand, "--preise", datei("fehlt.csv")}, 3, "fehlt.csv\" kann nicht gelesen werden"},
         {{"lege-aus", wand, "--feld", "Plattendicke1=14", "--preise", preise}, 3, "kein Preis für Platte"},
         {{"lege-aus", wand, "--feld", "av1=150", "--preise", preise}, 1, "1 von 1 Kandidaten geprüft"},
@@ -327,7 +337,7 @@ TEST_F(Befehle, VerbsOverManyWallsAnswerWithCodeAndSentence) {
           "--lastfaelle", schreibe("f.csv", "name;Fvk\nA;3\n")},
          64,
          "Fvk setzt auch der Lastfall \"A\" und hebt es wieder auf"},
-        {{"rechne", wand, "--lastfaelle", schreibe("f.csv", "name;Fvk\nA;3\nB;7\n")}, 0, "maßgebend B: 5."},
+        {{"rechne", wand, "--lastfaelle", schreibe("g.csv", "name;Fvk\nA;3\nB;7,5\n")}, 0, "maßgebend B: 5."},
     };
     for (const Fall& fall : faelle) {
         const Ergebnis e = tool(fall.angaben);

@@ -129,7 +129,7 @@ TEST(Auslegung, NothingPassesNamesTheNearestAndAMissingPriceIsAnError) {
     ASSERT_EQ(e.knappVerfehlt.size(), 5U);
     EXPECT_LE(e.knappVerfehlt[0].bewertung.maxEta, e.knappVerfehlt[4].bewertung.maxEta);
     a.raster = Raster({achse("Plattendicke1=15,14.5")});
-    EXPECT_EQ(std::get<std::string>(legeAus(a, {})), "kein Preis für Platte \"OSB/3\" mit 14.5 mm");
+    EXPECT_EQ(std::get<std::string>(legeAus(a, {})), "kein Preis für Platte \"OSB/3\" mit 14,5 mm");
     EXPECT_EQ(festesFeld(Raster({achse("av1=50"), achse("KLED=1,2")})), "KLED");
 }
 
@@ -150,6 +150,8 @@ TEST(Preise, TheDeliveredTableHasAPriceForEveryRowOfEveryCatalogue) {
     pruefe("VMArt1", 8, heutige);
     pruefe("Ankertyp", 12, heutige);
     pruefe("Material1", 12, ueblicheDicken);
+    EXPECT_EQ(std::get<std::string>(Preise::aus("Art\nHolz;C24;;9\nHolz;C24;;8\n")),
+              "Zeile 3: Holz \"C24\" steht zweimal");
     EXPECT_EQ(std::get<Preise>(Preise::lade("kein/ordner")).herkunft(),
               "Preise: mitgelieferte Beispielpreise, ohne Gewähr");
 }
@@ -184,6 +186,13 @@ TEST(WasHilft, ANearerSpacingOnOneOfTwoEqualSidesMakesTheWallWeaker) {
         EXPECT_EQ(besteht, einzeln(neu, {}).besteht) << s.text;
         EXPECT_EQ(besteht ? s.bewertung.maxEta : 0, besteht ? einzeln(neu, {}).maxEta : 0) << s.text;
     }
+    Wand zweierlei = w;  // boards of side 2 have thicknesses of their own
+    zweierlei.Material[S2] = 3;
+    zweierlei.Plattendicke2 = 12.5;
+    const Hilfe je = wasHilft(zweierlei, {}, {}, {});
+    EXPECT_TRUE(std::any_of(je.schritte.begin(), je.schritte.end(), [](const Hilfeschritt& s) {
+        return s.text == "Plattendicke1 15 -> 18; Plattendicke2 12,5 -> 15";
+    }));
     EXPECT_TRUE(std::is_sorted(
         hilfe.schritte.begin(), hilfe.schritte.end(), [](const Hilfeschritt& a, const Hilfeschritt& b) {
             return b.bewertung.ausgang != Ausgang::hinweis && a.bewertung.ausgang != Ausgang::hinweis &&
@@ -267,6 +276,9 @@ TEST(Lastfaelle, AWallThatPassesUnderWindMayFailUnderItsPermanentLoad) {
     EXPECT_EQ(std::get<std::string>(lastfaelleAus("name;Fvk\nA;viel\n")),
               "Zeile 2: Fvk = \"viel\" ist keine Zahl");
     EXPECT_EQ(std::get<std::string>(lastfaelleAus("name;Rd1\n")), "Zeile 1: unbekannte Spalte \"Rd1\"");
+    EXPECT_EQ(std::get<std::string>(lastfaelleAus("name;gk;gk\n")), "Zeile 1: die Spalte gk steht zweimal");
+    EXPECT_EQ(tabellentext("W\xE4nde"), "Wände");
+    EXPECT_EQ(tabellentext("Wände"), "Wände");
 }
 
 // The default wall by hand: seven inner ribs of 2.38 m, panels of 1.25 x 2.5 m on both sides.

@@ -56,6 +56,7 @@ TEST(Raster, NamesOfTheCataloguesSetWhatChoosingThemSets) {
     EXPECT_EQ(w.d[S1].value(), 3.4);
     EXPECT_EQ(w.ln[S2].value(), 90);
     EXPECT_EQ(w.dk[S2].value(), 7.7);
+    EXPECT_EQ(achse("VMTyp1=3,2,7x60").felder.size(), 4U);  // a number sets one of them
     setze("VMKatalog2=Klammern 1,53x50", 0);
     EXPECT_EQ(w.d[S2].value(), 1.53);
     EXPECT_EQ(w.ln[S2].value(), 50);
@@ -65,7 +66,12 @@ TEST(Raster, NamesOfTheCataloguesSetWhatChoosingThemSets) {
 TEST(Raster, WhatCannotBeReadIsToldByName) {
     EXPECT_EQ(fehler("av1"), "\"av1\": erwartet FELD=WERTE, etwa av1,av2=50:150:5");
     EXPECT_EQ(fehler("av3=50"), "unbekanntes Feld \"av3\"");
-    EXPECT_EQ(fehler("av1=50:20:5"), "av1: \"50:20:5\" ist kein Bereich VON:BIS:SCHRITT");
+    for (const std::string bereich : {"50:20:5", "0:100000000000000:0.000000001", "0:1:0.0000001", "1:2"})
+        EXPECT_EQ(fehler("av1=" + bereich),
+                  "av1: \"" + bereich +
+                      "\" ist kein Bereich VON:BIS:SCHRITT (Dezimalpunkt, höchstens 1000000 Werte)");
+    EXPECT_EQ(fehler("av1,av1=50"), "av1 steht zweimal");
+    EXPECT_EQ(doppeltesFeld(Raster({achse("VMTyp1=2,7x60"), achse("d1=3")})), "zwei Achsen setzen d1");
     EXPECT_EQ(fehler("av1=500"), "av1 = 500 liegt nicht zwischen 20 und 200");
     EXPECT_EQ(fehler("Material1=OSB/5"), "Material1 = \"OSB/5\" ist keine Zahl");
     EXPECT_EQ(fehler("VMKatalog1=Nagel"), "\"Nagel\" steht nicht im Katalog der Verbindungsmittel");
