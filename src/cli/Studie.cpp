@@ -452,8 +452,9 @@ class Studie {
     }
 
     Raster raster(const std::vector<std::string>& texte) const {
-        std::vector<Achse> achsen;
-        for (const std::string& text : texte) achsen.push_back(achse(text));
+        std::vector<Achse> achsen(texte.size());
+        std::transform(texte.begin(), texte.end(), achsen.begin(),
+                       [&](const std::string& text) { return achse(text); });
         Raster raster(std::move(achsen));
         if (const auto satz = doppeltesFeld(raster)) throw Abbruch{*satz};
         return raster;

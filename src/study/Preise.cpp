@@ -13,6 +13,8 @@ namespace rippenscheibe {
 
 namespace {
 
+std::string inAnfuehrung(std::string_view text) { return "\"" + std::string(text) + "\""; }
+
 std::string_view holzname(const Wand& w) { return eintrag(Holzarten(), w.Holzart.value()); }
 std::string_view vmName(const Wand& w, Seite n) { return eintrag(VMArten(), w.VMArt[n].value()); }
 
@@ -35,22 +37,23 @@ std::variant<Preise, std::string> Preise::aus(std::string_view text, const Csvfo
             return wert ? std::optional(std::get<double>(*wert)) : std::nullopt;
         };
         const auto preis = zahl(3);
-        if (!preis || !(*preis > 0)) return ort + "\"" + (*zellen)[3] + "\" ist kein Preis";
+        if (!preis || !(*preis > 0)) return ort + inAnfuehrung((*zellen)[3]) + " ist kein Preis";
         const std::string& art = zellen->front();
         const std::string& name = (*zellen)[1];
         bool neu = true;
         if (art == "Platte") {
             const auto mm = zahl(2);
-            if (!mm) return ort + "\"" + (*zellen)[2] + "\" ist keine Dicke";
+            if (!mm) return ort + inAnfuehrung((*zellen)[2]) + " ist keine Dicke";
             neu = preise.platte(name, *mm) == nullptr;
             preise.platten_.push_back({name, *mm, *preis});
         } else if (auto* liste = preise.liste(art)) {
             neu = suche(*liste, name) == nullptr;
             liste->push_back({name, *preis});
         } else {
-            return ort + "\"" + art + "\" ist keine Art (Platte, Holz, Verbindungsmittel, Anker)";
+            return ort + inAnfuehrung(art) + " ist keine Art (Platte, Holz, Verbindungsmittel, Anker)";
         }
-        if (!neu) return ort + art + " \"" + name + "\" steht zweimal";
+        if (!neu)
+            return std::string(ort).append(art).append(" ").append(inAnfuehrung(name)) + " steht zweimal";
     }
     return preise;
 }
