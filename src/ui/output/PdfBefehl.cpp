@@ -320,6 +320,12 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
     Pdfauftrag auftrag{pfad(befehlszeile.value(optionPdf)),
                        pfad(befehlszeile.positionalArguments().constFirst()), form,
                        tafelwunsch(befehlszeile)};
+    for (const QString& option : {optionLastfaelle, optionRichtung, optionMitLuecken, optionTrotzdem})
+        if (!auftrag.tafel && befehlszeile.isSet(option))
+            return falscherAufruf(
+                QStringLiteral("--%1 gehört zu einer Bemessungstafel: Es fehlt --groesste.").arg(option));
+    if (auftrag.tafel && befehlszeile.isSet(optionForm))
+        return falscherAufruf(QStringLiteral("--form gibt es nicht für eine Bemessungstafel."));
     auftrag.regel.beideRichtungen = richtung == QStringLiteral("beide");
     auftrag.regel.mitLuecken = befehlszeile.isSet(optionMitLuecken);
     if (befehlszeile.isSet(optionLastfaelle)) auftrag.lastfaelle = pfad(befehlszeile.value(optionLastfaelle));
@@ -331,6 +337,8 @@ Rueckgabe fuehrePdfBefehlAus(const QStringList& argumente, const std::filesystem
             QStringLiteral("--pdf: \"%1\" wird gelesen.").arg(befehlszeile.value(optionPdf)));
     std::error_code fehler;
     const bool ordner = std::filesystem::is_directory(auftrag.position, fehler);
+    if (ordner && auftrag.tafel)
+        return falscherAufruf(QStringLiteral("Eine Bemessungstafel geht nur mit einer Positionsdatei."));
     if (ordner && form == formen[2])
         return falscherAufruf(QStringLiteral("--form rechenweg geht nur mit einer Positionsdatei."));
     if (ordner) return Ordnerlauf(auftrag, programmordner, ausgaben).laufe();

@@ -67,13 +67,16 @@ class Blattschreiber {
         y_ += skizzenhoehe;
     }
 
-    // Rows under a head that stands again on each page; many columns go below each other in parts.
+    // Rows under a head that stands again on each page; many columns go below each other in parts, each on
+    // one page where it fits.
     void tabelle(const std::vector<std::vector<std::string>>& zeilen) {
         const std::size_t spalten = zeilen.front().size() - 1;
         const std::size_t teile = (spalten + hoechstensSpalten - 1) / hoechstensSpalten;
         for (std::size_t teil = 0; teil < teile; ++teil) {
             const std::size_t von = 1 + teil * spalten / teile;
             const std::size_t bis = 1 + (teil + 1) * spalten / teile;
+            const double ganz = static_cast<double>(zeilen.size()) * zeilenhoehe();
+            if (ganz <= hoehe - 2 * rand) platz(ganz);
             kopfzeile(zeilen.front(), von, bis);
             for (auto zeile = zeilen.begin() + 1; zeile != zeilen.end(); ++zeile) {
                 if (platz(zeilenhoehe())) kopfzeile(zeilen.front(), von, bis);
@@ -83,12 +86,13 @@ class Blattschreiber {
         }
     }
 
-    // Names and values in columns, to be read downwards.
-    void angaben(const Angaben& angaben) {
+    // Names and values in columns under their heading, to be read downwards.
+    void angaben(const std::string& titel, const Angaben& angaben) {
         const std::size_t je = (angaben.size() + angabenspalten - 1) / angabenspalten;
         const double h = z_->zeilenhoehe(klein);
         const double spalte = satzbreite / static_cast<double>(angabenspalten);
-        platz(static_cast<double>(je) * h);
+        platz(z_->zeilenhoehe(fett) + static_cast<double>(je) * h);
+        absatz(titel, fett);
         for (std::size_t i = 0; i < angaben.size(); ++i) {
             const std::size_t nummer = i / je;
             const QPointF ort(rand + static_cast<double>(nummer) * spalte,
@@ -158,8 +162,7 @@ void schreibe(Blattschreiber&& seite, const Tafelblatt& blatt, const Wand& wand)
     seite.tabelle(blatt.zellen);
     for (const std::string& zeile : blatt.legende) seite.absatz(zeile, lauftext);
     seite.abstand(3);
-    seite.absatz("Feste Eingaben", fett);
-    seite.angaben(blatt.feste);
+    seite.angaben("Feste Eingaben", blatt.feste);
     seite.abstand(3);
     seite.absatz(blatt.vorbehalt, lauftext);
 }
