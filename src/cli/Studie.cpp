@@ -166,7 +166,8 @@ class Studie {
         if (a.ziel == Auslegungsziel::kosten) a.preise = preise();
         auto ergebnis = rippenscheibe::legeAus(a, ausfuehrung());
         if (const auto* fehler = std::get_if<std::string>(&ergebnis))
-            throw Abbruch{*fehler, Rueckgabe::dateifehler};
+            throw Abbruch{*fehler, a.raster.anzahl() > hoechstensKandidaten ? Rueckgabe::aufruf
+                                                                            : Rueckgabe::dateifehler};
         return gibAus(a, std::get<0>(ergebnis));
     }
 
@@ -210,14 +211,13 @@ class Studie {
     }
 
     static std::string festesObjekt(const Pruefstand& stand) {
-        std::string json = "{";
+        Glieder glieder;
         for (const int feld : festeFelder()) {
-            if (json.size() > 1) json += ',';
-            anfuegeJsonText(json, eingabefeld(feld).angabe.name);
-            json += ':';
-            stand.felder().anfuegeEingabe(json, feld);
+            std::string wert;
+            stand.felder().anfuegeEingabe(wert, feld);
+            glieder.emplace_back(eingabefeld(feld).angabe.name, std::move(wert));
         }
-        return json + "}";
+        return jsonObjekt(glieder);
     }
 
     static std::string festeAngaben(const Pruefstand& stand) {
@@ -292,13 +292,7 @@ class Studie {
         const auto objekt = [](const Achsenwert& wert) {
             Glieder glieder;
             anfuegeZuweisungen(glieder, wert.setzt);
-            std::string json = "{";
-            for (const auto& [name, zahl] : glieder) {
-                if (json.size() > 1) json += ',';
-                anfuegeJsonText(json, name);
-                json += ":" + zahl;
-            }
-            return json + "}";
+            return jsonObjekt(glieder);
         };
         const auto zahl = [](const std::string& text) { return zahltext(zahlAus(text)); };
         for (std::size_t i = 0; i < tafel.zellen.size(); ++i) {

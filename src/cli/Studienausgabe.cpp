@@ -48,27 +48,14 @@ void jedesGlied(const Studienzeile& zeile, Besucher besucher) {
         for (const auto& [name, wert] : *glieder) besucher(name, wert);
 }
 
-void anfuegeGlieder(std::string& json, const Glieder& glieder) {
-    for (const auto& [name, wert] : glieder) {
-        if (json.back() != '{') json += ',';
-        anfuegeJsonText(json, name);
-        json.append(":").append(wert);
-    }
-}
-
 }  // namespace
 
 std::string Zeilenausgabe::zeile(const Studienzeile& zeile) {
     if (form_ == Studienausgabe::json) {
-        std::string json = "{";
-        anfuegeGlieder(json, zeile.vorn);
-        if (!zeile.gruppe.empty()) {
-            std::string innen = "{";
-            anfuegeGlieder(innen, zeile.innen);
-            anfuegeGlieder(json, {{zeile.gruppe, innen + "}"}});
-        }
-        anfuegeGlieder(json, zeile.hinten);
-        return json + "}\n";
+        Glieder alle = zeile.vorn;
+        if (!zeile.gruppe.empty()) alle.emplace_back(zeile.gruppe, jsonObjekt(zeile.innen));
+        alle.insert(alle.end(), zeile.hinten.begin(), zeile.hinten.end());
+        return jsonObjekt(alle) + "\n";
     }
     std::vector<std::string> kopf;
     std::vector<std::string> zellen;
@@ -109,6 +96,16 @@ std::string jsonListe(const std::vector<std::string>& texte) {
         anfuegeJsonText(json, text);
     }
     return json + "]";
+}
+
+std::string jsonObjekt(const Glieder& glieder) {
+    std::string json = "{";
+    for (const auto& [name, wert] : glieder) {
+        if (json.size() > 1) json += ',';
+        anfuegeJsonText(json, name);
+        json.append(":").append(wert);
+    }
+    return json + "}";
 }
 
 void anfuegeZuweisungen(Glieder& glieder, const std::vector<std::pair<int, Feldwert>>& setzt) {

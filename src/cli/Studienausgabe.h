@@ -45,6 +45,7 @@ std::string jsonWert(const Feldwert& wert);
 std::string jsonWert(double wert);
 std::string jsonOderNull(std::string_view text);  // "" is null
 std::string jsonListe(const std::vector<std::string>& texte);
+std::string jsonObjekt(const Glieder& glieder);
 
 // What an axis value sets, as members.
 void anfuegeZuweisungen(Glieder& glieder, const std::vector<std::pair<int, Feldwert>>& setzt);

@@ -37,7 +37,6 @@ constexpr std::array<std::string_view, 21> feste{
     "gkWand",
     "NachweisVerankerung",
 };
-constexpr std::size_t hoechstensKandidaten = 50'000'000;
 constexpr std::size_t blockgroesse = 64;
 constexpr std::size_t knappe = 5;
 

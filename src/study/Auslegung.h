@@ -21,6 +21,9 @@ namespace rippenscheibe {
 
 enum class Auslegungsziel { kosten, verbindungsmittel, gewicht };
 
+// What an order by value has room for.
+inline constexpr std::size_t hoechstensKandidaten = 50'000'000;
+
 struct Auslegungsauftrag {
     Eingaben vorlage{};
     EigeneMaterialien materialien{};

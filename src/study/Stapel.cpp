@@ -15,7 +15,8 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr std::size_t lesegroesse = std::size_t{1} << 16U;
+// So small that the answers of a block fit into what the allocator keeps ready.
+constexpr std::size_t lesegroesse = std::size_t{1} << 14U;
 constexpr std::size_t laengsteZeile = std::size_t{1} << 20U;
 constexpr std::string_view kennung = "id";
 

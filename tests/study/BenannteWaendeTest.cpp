@@ -112,6 +112,38 @@ TEST(BenannteWaende, TheSecondRunMayBeTheWorse) {
     EXPECT_EQ(Pruefstand(w, {}).bewerte().maxEta, eta(2));
 }
 
+// A last bay that is shorter than the others, and a bottom plate that goes through on one side only.
+TEST(BenannteWaende, TurningTheLoadRoundMayDecide) {
+    Wand w;
+    for (const auto& [feld, wert] : {std::pair("Lastfall", 3.0),
+                                     {"Fvk", 12.0},
+                                     {"gk", 20.0},
+                                     {"qk", 3.0},
+                                     {"bRandrippe", 120.0},
+                                     {"Ankertyp", 6.0}})
+        setze(w, feld, wert);
+    w.NachweisVerankerung = true;
+    w.Wandlaenge = 3.2;
+    const auto urteilt = [&](bool beide) { return Pruefstand(w, {}, {.beideRichtungen = beide}).bewerte(); };
+    EXPECT_EQ(aufHundertstel(urteilt(false).maxEta), 0.77);
+    EXPECT_EQ(aufHundertstel(urteilt(true).maxEta), 1.17);
+    EXPECT_TRUE(urteilt(true).nachLinks);
+    EXPECT_EQ(urteilt(false).ausgang, Ausgang::besteht);
+    EXPECT_EQ(urteilt(true).ausgang, Ausgang::ueberschritten);
+
+    w.Wandlaenge = 3.75;
+    w.gk = 12;
+    w.qk = 6;
+    w.bRandrippe = 60;
+    w.Ankertyp = 2;
+    w.LagesicherungVerfahren = 2;
+    w.FussrippeLinksDurchgehend = true;
+    EXPECT_EQ(aufHundertstel(urteilt(true).maxEta), 0.43);
+    EXPECT_FALSE(urteilt(true).nachLinks);
+    w.Fvk = -12;
+    EXPECT_EQ(aufHundertstel(urteilt(false).maxEta), 0.32);
+}
+
 TEST(BenannteWaende, EitherDirectionOfTheLoadMayGovern) {
     tests::Zufallswaende waende(11);
     int rechts = 0;
