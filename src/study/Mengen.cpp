@@ -91,7 +91,7 @@ Mengen mengen(const Wand& w, const Reihenregel& regel) {
         if (!beplankt(w, n)) continue;
         Mengen seite;
         seite.platten.push_back(
-            {std::string(plattenname(w, n)), plattendicke(w, n), flaeche(w), plattenstueck(w, n)});
+            {std::string(beplankungsname(w, n)), plattendicke(w, n), flaeche(w), plattenstueck(w, n)});
         seite.verbindungsmittel.push_back({verbindungsmitteltext(w, n), vmStueck(w, n, regel)});
         addiere(m, seite);
     }
@@ -160,7 +160,7 @@ Mengensummen mengensummen(const Wand& w, const Reihenregel& regel) {
     return m;
 }
 
-std::string_view plattenname(const Wand& w, Seite n) {
+std::string_view beplankungsname(const Wand& w, Seite n) {
     constexpr int eigenes = 13;
     if (w.Material[n].value() < eigenes) return eintrag(Plattenmaterialien(), w.Material[n].value());
     const std::string* name = w.eigeneMaterialien.name(w.EigenesMaterial[n]);

@@ -68,7 +68,7 @@ Mengensummen mengensummen(const Wand& w, const Reihenregel& regel = {});
 
 // Names as the report and the drawings have them: the board or own material, "Nägel 2,7x50", "HTT5". The
 // views last as long as the inputs.
-std::string_view plattenname(const Wand& w, Seite n);
+std::string_view beplankungsname(const Wand& w, Seite n);
 std::string verbindungsmitteltext(const Wand& w, Seite n);
 std::string_view ankername(const Wand& w);
 

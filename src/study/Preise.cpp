@@ -103,7 +103,7 @@ std::optional<double> Preise::kosten(const Wand& w, const Reihenregel& regel) co
     double summe = m.holz * holz->preis;
     for (const Seite n : beideSeiten) {
         if (!beplankt(w, n)) continue;
-        const Plattenpreis* const tafel = platte(plattenname(w, n), plattendicke(w, n));
+        const Plattenpreis* const tafel = platte(beplankungsname(w, n), plattendicke(w, n));
         const Preis* const vm = suche(verbindungsmittel_, vmName(w, n));
         if (tafel == nullptr || vm == nullptr) return std::nullopt;
         summe += m.platten[n] * tafel->preis + m.verbindungsmittel[n] * vm->preis;
@@ -123,8 +123,8 @@ std::string Preise::fehlenderPreis(const Wand& w) const {
     if (suche(holz_, holzname(w)) == nullptr) return satz("Holz", holzname(w));
     for (const Seite n : beideSeiten) {
         if (!beplankt(w, n)) continue;
-        if (platte(plattenname(w, n), plattendicke(w, n)) == nullptr)
-            return satz("Platte", plattenname(w, n)) + " mit " + kommatext(plattendicke(w, n)) + " mm";
+        if (platte(beplankungsname(w, n), plattendicke(w, n)) == nullptr)
+            return satz("Platte", beplankungsname(w, n)) + " mit " + kommatext(plattendicke(w, n)) + " mm";
         if (suche(verbindungsmittel_, vmName(w, n)) == nullptr)
             return satz("Verbindungsmittel", vmName(w, n));
     }

@@ -66,7 +66,7 @@ std::string ohneNamen(std::string grund, const fs::path& datei) {
 }
 
 std::string plattenangabe(const Wand& w, Seite n) {
-    return std::string(plattenname(w, n)) + " " + kommatext(plattendicke(w, n)) + " mm";
+    return std::string(beplankungsname(w, n)) + " " + kommatext(plattendicke(w, n)) + " mm";
 }
 
 std::string befestigungsangabe(const Wand& w, Seite n) {
