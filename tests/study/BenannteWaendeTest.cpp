@@ -124,7 +124,11 @@ TEST(BenannteWaende, TurningTheLoadRoundMayDecide) {
         setze(w, feld, wert);
     w.NachweisVerankerung = true;
     w.Wandlaenge = 3.2;
-    const auto urteilt = [&](bool beide) { return Pruefstand(w, {}, {.beideRichtungen = beide}).bewerte(); };
+    const auto urteilt = [&](bool beide) {
+        Bewertungsregel regel;
+        regel.beideRichtungen = beide;
+        return Pruefstand(w, {}, regel).bewerte();
+    };
     EXPECT_EQ(aufHundertstel(urteilt(false).maxEta), 0.77);
     EXPECT_EQ(aufHundertstel(urteilt(true).maxEta), 1.17);
     EXPECT_TRUE(urteilt(true).nachLinks);

@@ -100,10 +100,6 @@ void Variantenvergleich::baueTabelle() {
     tabelle_->setSelectionBehavior(QAbstractItemView::SelectColumns);
     tabelle_->setSelectionMode(QAbstractItemView::SingleSelection);
     fuegeInTabfolge(*tabelle_);
-    tabelle_->setCornerButtonEnabled(false);
-    auto* ecke = tabelle_->findChild<QAbstractButton*>();
-    ecke->setAccessibleName(QStringLiteral("Ecke der Tabelle"));
-    ecke->setAccessibleDescription(QStringLiteral("Ohne Wirkung"));
     tabelle_->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     tabelle_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     constexpr int schmalsteSpalte = 130;
