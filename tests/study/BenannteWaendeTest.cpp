@@ -116,28 +116,29 @@ TEST(BenannteWaende, TheSecondRunMayBeTheWorse) {
 TEST(BenannteWaende, TurningTheLoadRoundMayDecide) {
     Wand w;
     for (const auto& [feld, wert] : {std::pair("Lastfall", 3.0),
-                                     {"Fvk", 12.0},
+                                     {"Fvk", 15.0},
                                      {"gk", 20.0},
-                                     {"qk", 3.0},
+                                     {"qk", 6.0},
                                      {"bRandrippe", 120.0},
                                      {"Ankertyp", 6.0}})
         setze(w, feld, wert);
     w.NachweisVerankerung = true;
-    w.Wandlaenge = 3.2;
+    w.Wandlaenge = 4.4;
+    w.LagesicherungVerfahren = 1;
     const auto urteilt = [&](bool beide) {
         Bewertungsregel regel;
         regel.beideRichtungen = beide;
         return Pruefstand(w, {}, regel).bewerte();
     };
-    EXPECT_EQ(aufHundertstel(urteilt(false).maxEta), 0.77);
-    EXPECT_EQ(aufHundertstel(urteilt(true).maxEta), 1.17);
+    EXPECT_EQ(aufHundertstel(urteilt(false).maxEta), 0.66);
+    EXPECT_EQ(aufHundertstel(urteilt(true).maxEta), 1.09);
     EXPECT_TRUE(urteilt(true).nachLinks);
     EXPECT_EQ(urteilt(false).ausgang, Ausgang::besteht);
     EXPECT_EQ(urteilt(true).ausgang, Ausgang::ueberschritten);
 
     w.Wandlaenge = 3.75;
+    w.Fvk = 12;
     w.gk = 12;
-    w.qk = 6;
     w.bRandrippe = 60;
     w.Ankertyp = 2;
     w.LagesicherungVerfahren = 2;
