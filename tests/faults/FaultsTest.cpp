@@ -105,7 +105,7 @@ std::vector<Schreiber> alleSchreiber() {
         werkzeug("bericht.rtf", {"rechne", "--ausgabe", "rtf"}, "alt"),
         werkzeug("werte.json", {"rechne", "--ausgabe", "json"}, "alt"),
         werkzeug("neu.rsw", {"uebertrage"}, positionstext(Wand())),
-        werkzeug("rechenweg.rtf", {"herleite", "--felder", "Rd1", "--ausgabe", "rtf"}, "alt"),
+        werkzeug("rechenweg.rtf", {"herleite", "--ausgabe", "rtf"}, "alt"),
         werkzeug("mengen.csv", {"stueckliste", "--ausgabe", "csv"}, "alt"),
         werkzeug("faelle.csv", {"lastfaelle", "neu"}, "alt"),
     };
