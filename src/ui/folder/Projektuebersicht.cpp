@@ -42,9 +42,9 @@ struct Spaltenmass {
     int ziffern;  // width in digits
 };
 constexpr std::array<Spaltenmass, 8> spaltenmasse{{{Projektmodell::Wand, 30},
-                                                   {Projektmodell::Masse, 12},
+                                                   {Projektmodell::Masse, 13},
                                                    {Projektmodell::Beplankung, 20},
-                                                   {Projektmodell::Befestigung, 26},
+                                                   {Projektmodell::Befestigung, 25},
                                                    {Projektmodell::Verankerung, 10},
                                                    {Projektmodell::Ausnutzung, 14},
                                                    {Projektmodell::Massgebend, 22},

@@ -247,7 +247,7 @@ void Bemessungstafel::zeige() {
                              faelle == 0 ? QString() : QStringLiteral(" Mit %1 Lastfällen.").arg(faelle)));
     fuelleTabelle();
     legende_->setText(farblegende(stand_.tafel, palette()));
-    tabelle_->setCurrentCell(0, 0);
+    waehleErsteBestehende();
     zeigeZelle();
 }
 
@@ -278,6 +278,15 @@ void Bemessungstafel::fuelleTabelle() {
     for (int i = 0; i < tabelle_->rowCount(); ++i)
         for (int j = 0; j < tabelle_->columnCount(); ++j)
             tabelle_->setItem(i, j, feld(static_cast<std::size_t>(i), static_cast<std::size_t>(j)));
+}
+
+void Bemessungstafel::waehleErsteBestehende() {
+    const auto& zellen = stand_.tafel.zellen;
+    tabelle_->setCurrentCell(0, 0);
+    for (std::size_t i = 0; i < zellen.size(); ++i)
+        for (std::size_t j = 0; j < zellen[i].size(); ++j)
+            if (zellen[i][j].besteht())
+                return tabelle_->setCurrentCell(static_cast<int>(i), static_cast<int>(j));
 }
 
 const Tafelzelle* Bemessungstafel::zelle() const {

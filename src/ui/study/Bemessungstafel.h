@@ -43,6 +43,7 @@ class Bemessungstafel : public Fenster {
     void starte();
     void zeige();
     void fuelleTabelle();
+    void waehleErsteBestehende();
     void zeigeZelle();
     // The cell that is chosen; nothing without a table.
     const Tafelzelle* zelle() const;
