@@ -20,12 +20,12 @@
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
-#include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/paper/Tafelseite.h"
 #include "ui/study/Tafelfarben.h"
 #include "ui/studyparts/Groessenwahl.h"
 #include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Laufleiste.h"
+#include "ui/studyparts/Wandblatt.h"
 
 namespace rippenscheibe {
 
@@ -51,6 +51,24 @@ bool gemeinsamesFeld(const Achse& a, const Achse& b) {
 // The horizontal load where there is one, else the first of the choice.
 std::string zuerstGesucht(const Wand& w) { return w.Lastfall == 2 ? "gk" : "Fvk"; }
 
+QString mitKomma(const std::string& zahl) {
+    return qtext(zahl).replace(QLatin1Char('.'), QLatin1Char(dezimalzeichen()));
+}
+
+// What ends the values of a cell, and where they pass again.
+QString grund(const Tafelzelle& z) {
+    QString text = qtext(z.massgebend);
+    if (z.massgebend.empty())
+        text = QStringLiteral("Bis zum Ende der Suche besteht alles.");
+    else if (z.besteht())
+        text.prepend(QStringLiteral("Am nächsten Schritt scheitert: "));
+    if (!z.hatLoecher()) return text;
+    QStringList strecken;
+    for (const auto& [von, bis] : z.intervalle)
+        strecken << QStringLiteral("%1 bis %2").arg(mitKomma(von), mitKomma(bis));
+    return text + QStringLiteral("\nEs bestehen: ") + strecken.join(QStringLiteral("; "));
+}
+
 }  // namespace
 
 Bemessungstafel::Bemessungstafel(Programm& programm, Meldungen& meldungen, QWidget* parent)
@@ -63,7 +81,8 @@ Bemessungstafel::Bemessungstafel(Programm& programm, Meldungen& meldungen, QWidg
     teiler->setHandleWidth(2 * raster);
     inhalt()->addWidget(baueKopf());
     teiler->addWidget(baueTafel());
-    teiler->addWidget(baueWand());
+    wandblatt_ = new Wandblatt;
+    teiler->addWidget(wandblatt_);
     teiler->setSizes({800, breiteWand});
     teiler->setStretchFactor(0, 1);
     inhalt()->addWidget(teiler, 1);
@@ -147,32 +166,6 @@ QWidget* Bemessungstafel::baueTafel() {
     spalte->addWidget(titel_);
     spalte->addWidget(tabelle_, 1);
     spalte->addWidget(legende_);
-    return seite;
-}
-
-QWidget* Bemessungstafel::baueWand() {
-    auto* seite = new QWidget;
-    auto* spalte = new QVBoxLayout(seite);
-    spalte->setContentsMargins(0, 0, 0, 0);
-    spalte->setSpacing(raster);
-    ansicht_ = new Zeichnungsansicht(Zeichnung::ansicht);
-    ansicht_->setzeDezimalzeichen(dezimalzeichen());
-    const auto schild = [&](const char* name) {
-        auto* neu = new QLabel(seite);
-        neu->setObjectName(QString::fromUtf8(name));
-        neu->setWordWrap(true);
-        spalte->addWidget(neu);
-        return neu;
-    };
-    wert_ = schild("Wert");
-    QFont fett = font();
-    fett.setWeight(QFont::DemiBold);
-    wert_->setFont(fett);
-    grund_ = schild("Grund");
-    grund_->setMinimumHeight(4 * fontMetrics().lineSpacing());
-    grund_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    ansicht_->setMinimumSize(260, 180);
-    spalte->addWidget(ansicht_, 1);
     return seite;
 }
 
@@ -317,30 +310,14 @@ void Bemessungstafel::zeigeZelle() {
     const Tafelzelle* z = zelle();
     const Zuweisungen setzt = gewaehlt();
     const Wand heute = studienwand(programm_);
-    ansicht_->setzeWand(mitZuweisungen(z == nullptr ? heute : stand_.wand, setzt));
+    QString wert = QStringLiteral("Wand wie heute");
+    if (z != nullptr)
+        wert = z->besteht() ? QStringLiteral("%1: bis %2 besteht die Wand.")
+                                  .arg(mitEinheit(stand_.auftrag.groesste.felder), mitKomma(z->groesste))
+                            : QStringLiteral("Schon der Anfang besteht nicht.");
+    wandblatt_->zeigeWand(mitZuweisungen(z == nullptr ? heute : stand_.wand, setzt), wert);
+    wandblatt_->zeigeGrund(z == nullptr ? QString() : grund(*z));
     uebernehmen_->setEnabled(!aenderungstext(heute, setzt).isEmpty());
-    if (z == nullptr) {
-        wert_->setText(QStringLiteral("Wand wie heute"));
-        return grund_->clear();
-    }
-    const auto mitKomma = [](const std::string& zahl) {
-        return qtext(zahl).replace(QLatin1Char('.'), QLatin1Char(dezimalzeichen()));
-    };
-    const QString groesse = mitEinheit(stand_.auftrag.groesste.felder);
-    wert_->setText(z->besteht()
-                       ? QStringLiteral("%1: bis %2 besteht die Wand.").arg(groesse, mitKomma(z->groesste))
-                       : QStringLiteral("Schon der Anfang besteht nicht."));
-    QStringList zeilen{z->massgebend.empty() ? QStringLiteral("Bis zum Ende der Suche besteht alles.")
-                       : z->besteht()
-                           ? QStringLiteral("Am nächsten Schritt scheitert: ") + qtext(z->massgebend)
-                           : qtext(z->massgebend)};
-    if (z->hatLoecher()) {
-        QStringList strecken;
-        for (const auto& [von, bis] : z->intervalle)
-            strecken << QStringLiteral("%1 bis %2").arg(mitKomma(von), mitKomma(bis));
-        zeilen << QStringLiteral("Es bestehen: ") + strecken.join(QStringLiteral("; "));
-    }
-    grund_->setText(zeilen.join(QLatin1Char('\n')));
 }
 
 // ---- Paper and files ----

@@ -16,7 +16,7 @@ namespace rippenscheibe {
 class Groessenwahl;
 class Lastfallwahl;
 class Laufleiste;
-class Zeichnungsansicht;
+class Wandblatt;
 
 // A design table of the wall: in each cell the largest value of one input for which it passes, coloured by
 // what governs. The cell that is clicked shows its wall, which can be taken over.
@@ -37,7 +37,6 @@ class Bemessungstafel : public Fenster {
 
     QWidget* baueKopf();
     QWidget* baueTafel();
-    QWidget* baueWand();
     std::variant<Tafelauftrag, QString> auftrag() const;
     void zeigeUmfang();
     void starte();
@@ -63,9 +62,7 @@ class Bemessungstafel : public Fenster {
     QLabel* titel_ = nullptr;
     QTableWidget* tabelle_ = nullptr;
     QLabel* legende_ = nullptr;
-    QLabel* wert_ = nullptr;
-    QLabel* grund_ = nullptr;
-    Zeichnungsansicht* ansicht_ = nullptr;
+    Wandblatt* wandblatt_ = nullptr;
     QPushButton* drucken_ = nullptr;
     QPushButton* speichern_ = nullptr;
     QPushButton* uebernehmen_ = nullptr;

@@ -15,11 +15,11 @@
 #include "ui/basics/Programm.h"
 #include "ui/drawings/Bildmenue.h"
 #include "ui/drawings/Kurvenansicht.h"
-#include "ui/drawings/Zeichnungsansicht.h"
 #include "ui/studyparts/Feldworte.h"
 #include "ui/studyparts/Groessenwahl.h"
 #include "ui/studyparts/Lastfallwahl.h"
 #include "ui/studyparts/Studientabelle.h"
+#include "ui/studyparts/Wandblatt.h"
 
 namespace rippenscheibe {
 
@@ -118,7 +118,7 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
       lastfaelle_(new Lastfallwahl(programm, this)),
       stand_(new QLabel(this)),
       kurven_(new Kurvenansicht),
-      ansicht_(new Zeichnungsansicht(Zeichnung::ansicht)) {
+      wandblatt_(new Wandblatt) {
     stand_->setObjectName(QStringLiteral("Stand"));
     stand_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     stand_->setToolTip(QStringLiteral("Jeder Wert ist frisch und in beiden Richtungen von Fv gerechnet"));
@@ -130,7 +130,7 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
     teiler->setChildrenCollapsible(false);
     teiler->setHandleWidth(2 * raster);
     teiler->addWidget(kurven_);
-    teiler->addWidget(baueWand());
+    teiler->addWidget(wandblatt_);
     teiler->setSizes({760, 380});
     teiler->setStretchFactor(0, 1);
     inhalt()->addWidget(wahl_);
@@ -164,34 +164,6 @@ Einfluss::Einfluss(Programm& programm, Meldungen& meldungen, QWidget* parent)
     });
     resize(1180, 740);  // room for what the value at the mark is told to change
     rechne();
-}
-
-QWidget* Einfluss::baueWand() {
-    auto* seite = new QWidget;
-    auto* spalte = new QVBoxLayout(seite);
-    spalte->setContentsMargins(0, 0, 0, 0);
-    spalte->setSpacing(raster);
-    const auto schild = [&](const char* name) {
-        auto* neu = new QLabel(seite);
-        neu->setObjectName(QString::fromUtf8(name));
-        neu->setWordWrap(true);
-        spalte->addWidget(neu);
-        return neu;
-    };
-    wert_ = schild("Wert");
-    urteil_ = schild("Urteil");
-    grund_ = schild("Grund");
-    QFont fett = font();
-    fett.setWeight(QFont::DemiBold);
-    for (QLabel* zeile : {wert_, urteil_}) zeile->setFont(fett);
-    // Room for the longest, so that nothing moves with the mark.
-    wert_->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    grund_->setMinimumHeight(4 * fontMetrics().lineSpacing());
-    grund_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    ansicht_->setMinimumSize(320, 160);
-    ansicht_->setzeDezimalzeichen(dezimalzeichen());
-    spalte->addWidget(ansicht_, 1);
-    return seite;
 }
 
 void Einfluss::rechne() {
@@ -255,9 +227,9 @@ void Einfluss::zeigeMarke(double x) {
     const Zuweisungen& setzt = verlauf_.achse.werte[i].setzt;
     const Wand wand = mitZuweisungen(verlauf_.heute, setzt);
     const QString aenderung = aenderungstext(verlauf_.heute, setzt);
-    wert_->setText(aenderung.isEmpty() ? QStringLiteral("heute: %1").arg(achsentext(verlauf_.achse, wand))
-                                       : aenderung);
-    ansicht_->setzeWand(wand);
+    wandblatt_->zeigeWand(wand, aenderung.isEmpty()
+                                    ? QStringLiteral("heute: %1").arg(achsentext(verlauf_.achse, wand))
+                                    : aenderung);
     uebernehmen_->setEnabled(!aenderung.isEmpty());
     zeigeUrteil(verlauf_.punkte[i]);
 }
@@ -266,13 +238,11 @@ void Einfluss::zeigeUrteil(const Variationspunkt& punkt) {
     const Bewertung& b = punkt.bewertung;
     const Balkenurteil art = balkenurteil(b.ausgang);
     const QString ausnutzung = ausnutzungszelle(b, verlauf_.regel).text;
-    urteil_->setText(b.ausgang == Ausgang::hinweis
-                         ? QStringLiteral("! Hinweis, keine Berechnung")
-                         : QStringLiteral("%1 %2 · größte Ausnutzung %3")
-                               .arg(urteilszeichen(art), urteilswort(art), ausnutzung));
-    QPalette farben = palette();
-    farben.setColor(QPalette::WindowText, urteilsfarbe(palette(), art));
-    urteil_->setPalette(farben);
+    wandblatt_->zeigeUrteil(b.ausgang == Ausgang::hinweis
+                                ? QStringLiteral("! Hinweis, keine Berechnung")
+                                : QStringLiteral("%1 %2 · größte Ausnutzung %3")
+                                      .arg(urteilszeichen(art), urteilswort(art), ausnutzung),
+                            art);
     const Studienzelle massgebend = massgebendzelle(b, verlauf_.regel);
     QStringList zeilen{massgebend.tip.isEmpty() ? massgebend.text : massgebend.tip};
     if (const QString richtung = richtungstext(b, verlauf_.regel, verlauf_.heute.Fvk.value());
@@ -281,10 +251,9 @@ void Einfluss::zeigeUrteil(const Variationspunkt& punkt) {
     if (!punkt.luecken.empty()) zeilen << QStringLiteral("! ") + qtext(punkt.luecken.front());
     if (punkt.luecken.size() > 1)
         zeilen.back() += QStringLiteral(" (und %1 weitere)").arg(punkt.luecken.size() - 1);
-    grund_->setText(zeilen.join(QLatin1Char('\n')));
     QStringList luecken;
     for (const std::string& luecke : punkt.luecken) luecken << qtext(luecke);
-    grund_->setToolTip(luecken.join(QLatin1Char('\n')));
+    wandblatt_->zeigeGrund(zeilen.join(QLatin1Char('\n')), luecken.join(QLatin1Char('\n')));
 }
 
 void Einfluss::oeffneBildmenue() {

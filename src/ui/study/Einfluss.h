@@ -14,7 +14,7 @@ namespace rippenscheibe {
 class Groessenwahl;
 class Kurvenansicht;
 class Lastfallwahl;
-class Zeichnungsansicht;
+class Wandblatt;
 
 // The points of one axis as curves: a section of the proofs each, without demand none. The values of a list
 // count from 0. Findings forbid the stretch about their points.
@@ -39,7 +39,6 @@ class Einfluss : public Fenster {
         bool vollstaendig = true;
     };
 
-    QWidget* baueWand();
     void rechne();
     void zeige(Verlauf verlauf);
     void zeigeMarke(double x);
@@ -53,10 +52,7 @@ class Einfluss : public Fenster {
     Lastfallwahl* lastfaelle_;
     QLabel* stand_;
     Kurvenansicht* kurven_;
-    Zeichnungsansicht* ansicht_;
-    QLabel* wert_;
-    QLabel* urteil_;
-    QLabel* grund_;
+    Wandblatt* wandblatt_;
     QPushButton* uebernehmen_;
     QPushButton* bild_;
     Hintergrund hintergrund_;  // the last: it stops before the others go
