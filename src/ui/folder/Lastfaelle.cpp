@@ -189,7 +189,7 @@ void Lastfaelle::schlageVor() {
     }
     const Meldung frage{
         Symbol::frage, QStringLiteral("Lastfälle"),
-        QStringLiteral("Soll die Tabelle durch die vorgeschlagenen Lastfälle ersetzt werden ?"),
+        QStringLiteral("Soll die Tabelle durch die vorgeschlagenen Lastfälle ersetzt werden?"),
         Knoepfe::jaNein};
     if (modell_->rowCount() > 0 && meldungen_.zeige(this, frage) != Antwort::ja) return;
     modell_->setzeFaelle(vorschlag);
@@ -230,7 +230,7 @@ bool Lastfaelle::raeumeAb(const std::filesystem::path& datei) {
     if (!std::filesystem::exists(datei, fehler) && !fehler) return true;
     const Meldung frage{
         Symbol::frage, QStringLiteral("Lastfälle"),
-        QStringLiteral("Die Tabelle ist leer. Soll die Datei\n%1\ngelöscht werden ?").arg(pfadtextVon(datei)),
+        QStringLiteral("Die Tabelle ist leer. Soll die Datei\n%1\ngelöscht werden?").arg(pfadtextVon(datei)),
         Knoepfe::jaNein};
     if (meldungen_.zeige(this, frage) != Antwort::ja) return false;
     std::filesystem::remove(datei, fehler);
@@ -266,11 +266,11 @@ void Lastfaelle::reject() {
         const bool sicherbar = sichern_->isEnabled();
         const Antwort antwort = meldungen_.zeige(
             this, sicherbar ? Meldung{Symbol::frage, QStringLiteral("Lastfälle"),
-                                      QStringLiteral("Sollen die geänderten Lastfälle gesichert werden ?"),
+                                      QStringLiteral("Sollen die geänderten Lastfälle gesichert werden?"),
                                       Knoepfe::jaNeinAbbrechen}
                             : Meldung{Symbol::frage, QStringLiteral("Lastfälle"),
                                       QStringLiteral("Die Lastfälle sind nicht gesichert. Sollen sie "
-                                                     "verworfen werden ?"),
+                                                     "verworfen werden?"),
                                       Knoepfe::jaNein});
         if (sicherbar && antwort == Antwort::ja) return accept();
         if (antwort != (sicherbar ? Antwort::nein : Antwort::ja)) return;
