@@ -30,10 +30,12 @@ namespace {
 
 constexpr int ruhe = 400;  // ms a window has to settle
 
-// One window: the control of the window before it that opens it, and the windows that open from it.
+// One window: the control of the window before it that opens it, and the windows that open from it. A window
+// that has a picture already gets another name, and no letters.
 struct Schritt {
     const char* steuerung;
     std::vector<Schritt> weiter;
+    const char* bild = nullptr;
 };
 
 QString bilderordner;
@@ -89,10 +91,11 @@ void beschrifte(QPixmap& bild, const QWidget& fenster) {
     }
 }
 
-void sichere(QWidget& fenster) {
+void sichere(QWidget& fenster, const char* name = nullptr) {
     QPixmap bild = fenster.grab();
-    beschrifte(bild, fenster);
-    sichereBild(bild, bilderordner, fenster.objectName().toLower());
+    if (name == nullptr) beschrifte(bild, fenster);
+    sichereBild(bild, bilderordner,
+                name == nullptr ? fenster.objectName().toLower() : QString::fromLatin1(name));
 }
 
 // The visible window in front of `vorher`, nullptr when none has opened.
@@ -117,7 +120,7 @@ void fotografiere(QWidget& fenster, const std::vector<Schritt>& schritte) {
         QTimer::singleShot(ruhe, &fenster, [&] {
             if (QWidget* offen = neuesFenster(fenster)) {
                 warte(ruhe);
-                sichere(*offen);
+                sichere(*offen, schritt.bild);
                 fotografiere(*offen, schritt.weiter);
                 offen->close();
             } else {
@@ -158,9 +161,11 @@ int main(int argc, char** argv) {
     programm.Positionspfad = "/home/planung/Ahornweg/";
     warte(ruhe);
     sichere(hauptfenster);
-    fotografiere(
-        hauptfenster,
-        {{"mnuProjekt", {}}, {"mnuvorb", {{"Command4", {}}}}, {"ComErgDruck", {}}, {"ComErgEin2", {}}});
+    fotografiere(hauptfenster, {{"mnuProjekt", {}},
+                                {"mnuvorb", {{"Command4", {}}}},
+                                {"ComErgDruck", {}},
+                                {"ComErgEin2", {}},
+                                {"mnuRechenweg", {}, "rechenweg"}});
     hauptfenster.hide();
 
     Programm zweites(pfad(ordner.path()));

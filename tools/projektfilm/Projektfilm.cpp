@@ -86,7 +86,6 @@ class Projektfilm {
     void auslegen() {
         oeffne("mnuAuslegen", [&](QWidget& fenster) {
             klicke(fenster, "Achse(verbindungsmittel)");  // the nails stay as they are
-            nimmAuf(fenster, "auslegen-anfang");
             klicke(fenster, "Suchen");
             warteBis([&] { return teil(fenster, "Suchen").isEnabled(); });
             nimmAuf(fenster, "auslegen");

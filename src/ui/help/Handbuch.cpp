@@ -55,7 +55,7 @@ const std::vector<Kapitel>& kapitelliste() {
 }
 
 // Window by object name and its chapter.
-constexpr std::array<std::pair<const char*, const char*>, 25> fensterkapitel{{
+constexpr auto fensterkapitel = std::to_array<std::pair<const char*, const char*>>({
     {"form0", "installation"},
     {"Form1", "hauptfenster"},
     {"Form2", "rippen"},
@@ -77,11 +77,17 @@ constexpr std::array<std::pair<const char*, const char*>, 25> fensterkapitel{{
     {"Form800", "projekte-und-bemerkungen"},
     {"Form801", "projekte-und-bemerkungen"},
     {"Form99", "eigene-materialien"},
+    {"Form3", "hauptfenster"},
     {"Form10", "hauptfenster"},
-    {"Auslegen", "viele-waende"},
-    {"Einfluss", "viele-waende"},
+    {"Form13", "hauptfenster"},
+    {"Form60", "hauptfenster"},
     {"Varianten", "urteil"},
-}};
+    {"Auslegen", "auslegen"},
+    {"Einfluss", "auslegen"},
+    {"Bemessungstafel", "auslegen"},
+    {"Lastfaelle", "lastfaelle"},
+    {"Projektuebersicht", "projekt"},
+});
 
 QUrl ort(const QString& kapitel) { return QUrl(QStringLiteral("qrc:/handbuch/%1.md").arg(kapitel)); }
 
@@ -90,9 +96,7 @@ QUrl ort(const QString& kapitel) { return QUrl(QStringLiteral("qrc:/handbuch/%1.
 QString handbuchkapitel(const QString& fenstername) {
     for (const auto& [fenster, kapitel] : fensterkapitel)
         if (fenstername == QLatin1String(fenster)) return QLatin1String(kapitel);
-    const bool klein = fenstername == QStringLiteral("Form3") || fenstername == QStringLiteral("Form13") ||
-                       fenstername == QStringLiteral("Form60");
-    return klein ? QStringLiteral("hauptfenster") : QStringLiteral("inhalt");
+    return QStringLiteral("inhalt");
 }
 
 Handbuchseite::Handbuchseite(QWidget* parent) : QTextBrowser(parent) {
