@@ -81,6 +81,7 @@ constexpr auto fensterkapitel = std::to_array<std::pair<const char*, const char*
     {"Form10", "hauptfenster"},
     {"Form13", "hauptfenster"},
     {"Form60", "hauptfenster"},
+    {"Ueber", "einfuehrung"},
     {"Varianten", "urteil"},
     {"Auslegen", "auslegen"},
     {"Einfluss", "auslegen"},
