@@ -16,10 +16,11 @@
 namespace rippenscheibe {
 namespace {
 
-// The bytes without the time they were made at.
+// The bytes without the time they were made at; newer Qt tells it a second time in the XMP metadata.
 QByteArray ohneDatum(const QByteArray& pdf) {
     return QString::fromLatin1(pdf)
-        .replace(QRegularExpression(QStringLiteral("/CreationDate \\(D:[^)]*\\)")), QString())
+        .replace(QRegularExpression(QStringLiteral("/(Creation|Mod)Date \\(D:[^)]*\\)|Date=\"[^\"]*\"")),
+                 QString())
         .toLatin1();
 }
 
