@@ -113,7 +113,7 @@ Handbuchseite::Handbuchseite(QWidget* parent) : QTextBrowser(parent) {
 }
 
 QVariant Handbuchseite::loadResource(int type, const QUrl& name) {
-    const QVariant inhalt = QTextBrowser::loadResource(type, name);
+    QVariant inhalt = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) return inhalt;
     QImage bild;
     if (inhalt.typeId() == QMetaType::QByteArray) {
