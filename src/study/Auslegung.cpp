@@ -238,6 +238,7 @@ std::string festesFeld(const Raster& raster) {
 
 std::vector<int> festeFelder() {
     std::vector<int> felder;
+    felder.reserve(feste.size());
     for (const std::string_view name : feste) felder.push_back(eingabeindex(name));
     return felder;
 }

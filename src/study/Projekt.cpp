@@ -74,7 +74,7 @@ std::string befestigungsangabe(const Wand& w, Seite n) {
 }
 
 std::string beideOderEine(const Wand& w, std::string (*text)(const Wand&, Seite)) {
-    const std::string erste = text(w, Seite::eins);
+    std::string erste = text(w, Seite::eins);
     if (w.Einseitig) return erste;
     const std::string zweite = text(w, Seite::zwei);
     return erste == zweite ? erste : erste + " | " + zweite;
@@ -191,6 +191,7 @@ std::variant<std::vector<Projektdatei>, std::string> projektdateien(const fs::pa
     std::sort(gefunden.begin(), gefunden.end(),
               [](const auto& a, const auto& b) { return stehtVor(a.first, b.first); });
     std::vector<Projektdatei> dateien;
+    dateien.reserve(gefunden.size());
     for (const auto& [name, datei] : gefunden)
         dateien.push_back({dateistand(datei), dateistand(lastfalldatei(datei))});
     return dateien;

@@ -381,7 +381,7 @@ Stapelergebnis stapel(const Stapelauftrag& auftrag, const Strom& strom, const Au
     };
     fliessband(
         ausfuehrung, [&] { return leser.naechster(); }, werkstatt, rechne,
-        [&](Antwort antwort) {
+        [&](const Antwort& antwort) {
             summe.zeilen += antwort.zaehler.zeilen;
             summe.fehlerhaft += antwort.zaehler.fehlerhaft;
             summe.nichtErfuellt += antwort.zaehler.nichtErfuellt;
