@@ -135,7 +135,7 @@ Tafelblatt tafelblatt(const Tafelauftrag& auftrag, const Tafel& tafel) {
 std::string tafelRtf(const Tafelblatt& blatt) {
     Rtfseite seite;
     seite.ueberschrift(blatt.titel);
-    for (const auto& [name, wert] : blatt.kopf) seite.absatz(name + ": " + wert);
+    for (const auto& [name, wert] : blatt.kopf) seite.absatz(std::string(name).append(": ").append(wert));
     for (const std::string& satz : blatt.gegenstand) seite.absatz(satz);
     seite.tabelle(blatt.zellen);
     for (const std::string& zeile : blatt.legende) seite.absatz(zeile);
