@@ -3,6 +3,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,6 +18,9 @@
 // at all. Text is UTF-8 here; files/Zeichensatz.h leads to the bytes of a file.
 
 namespace rippenscheibe {
+
+// Of records in a file, which counts them in 16 bits.
+inline constexpr std::size_t groessteAnzahl = std::numeric_limits<std::int16_t>::max();
 
 // A field of a statement as it stands in the file.
 struct Rohfeld {

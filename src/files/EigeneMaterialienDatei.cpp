@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <variant>
 
 #include "files/Anweisungen.h"
@@ -13,8 +12,6 @@ namespace rippenscheibe {
 namespace {
 
 using Zeile = EigeneMaterialien::Zeile;
-
-constexpr std::size_t groessteAnzahl = std::numeric_limits<std::int16_t>::max();
 
 void lies(Anweisungsleser& leser, Zeile& zeile) {
     leser.lies(ziel("Spalte 1", zeile.name));

@@ -118,6 +118,13 @@ std::optional<std::string> attribut(const fs::path& datei, const std::string& na
     return wert;
 }
 
+bool uebertrageAttribut(const fs::path& alt, int neu, const std::string& name, bool ohneGruppe) {
+    std::optional<std::string> wert = attribut(alt, name);
+    if (!wert) return false;
+    if (ohneGruppe) nimmGruppeAus(*wert);
+    return ::fsetxattr(neu, name.c_str(), wert->data(), wert->size(), 0) == 0;
+}
+
 // False when the old file has an access list that the new one cannot get.
 bool uebertrageAttribute(const fs::path& alt, int neu, bool gruppeBehalten) {
     std::string namen(65536, '\0');
@@ -130,9 +137,7 @@ bool uebertrageAttribute(const fs::path& alt, int neu, bool gruppeBehalten) {
         i = ende + 1;
         const bool liste = name == zugriffsliste;
         if (!liste && !name.starts_with("user.")) continue;
-        std::optional<std::string> wert = attribut(alt, name);
-        if (liste && wert && !gruppeBehalten) nimmGruppeAus(*wert);
-        const bool gesetzt = wert && ::fsetxattr(neu, name.c_str(), wert->data(), wert->size(), 0) == 0;
+        const bool gesetzt = uebertrageAttribut(alt, neu, name, liste && !gruppeBehalten);
         if (liste && !gesetzt) behalten = false;
     }
     return behalten;

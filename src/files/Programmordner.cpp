@@ -7,7 +7,7 @@ namespace rippenscheibe {
 namespace fs = std::filesystem;
 
 fs::path programmordner() {
-    const fs::path daneben = plattform::programmdatei().parent_path();
+    fs::path daneben = plattform::programmdatei().parent_path();
     const bool installiert = daneben.filename() == "bin";
     if (!daneben.empty() && !installiert && plattform::istBeschreibbar(daneben)) return daneben;
     const fs::path daten = plattform::datenordner();

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 
 #include "files/Anweisungen.h"
 
@@ -15,8 +14,6 @@ namespace {
 bool enthaelt(const Projektliste& liste, const Projekteintrag& eintrag) {
     return std::find(liste.eintraege.begin(), liste.eintraege.end(), eintrag) != liste.eintraege.end();
 }
-
-constexpr std::size_t groessteAnzahl = std::numeric_limits<std::int16_t>::max();
 
 }  // namespace
 
@@ -79,12 +76,12 @@ std::optional<Dateifehler> sichereProjektliste(const std::filesystem::path& date
 std::string holeUebergabe(const std::filesystem::path& datei) {
     constexpr std::chrono::milliseconds geduld{300};  // the program is starting, and its user waits
     const Dateisperre sperre(datei.parent_path(), geduld);
-    const std::string position = liesTextdatei(datei, [](std::string_view text) {
-                                     std::string name;
-                                     Anweisungsleser leser(text);
-                                     leser.lies(ziel("Posdat", name));
-                                     return name;
-                                 }).wert;
+    std::string position = liesTextdatei(datei, [](std::string_view text) {
+                               std::string name;
+                               Anweisungsleser leser(text);
+                               leser.lies(ziel("Posdat", name));
+                               return name;
+                           }).wert;
     if (!position.empty()) static_cast<void>(schreibeUebergabe(datei, ""));
     return position;
 }

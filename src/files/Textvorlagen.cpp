@@ -3,18 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <utility>
 
 #include "files/Anweisungen.h"
 
 namespace rippenscheibe {
-
-namespace {
-
-constexpr std::size_t groessteAnzahl = std::numeric_limits<std::int16_t>::max();
-
-}  // namespace
 
 Textvorlagen textvorlagenAus(std::string_view text) {
     Anweisungsleser leser(text);

@@ -47,7 +47,7 @@ QString alsDateiname(QString text) {
 
 std::optional<QString> waehleZiel(Meldungen& meldungen, QWidget* fenster, const Dateiwahl& wahl) {
     for (;;) {
-        const std::optional<QString> datei = meldungen.sichern(fenster, wahl);
+        std::optional<QString> datei = meldungen.sichern(fenster, wahl);
         if (!datei || QFileInfo(*datei).absoluteDir().exists()) return datei;
         meldungen.kritisch(
             fenster, wahl.titel,

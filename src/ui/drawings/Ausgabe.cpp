@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <QUuid>
 #include <cmath>
 
 #include "basis/Laengenmass.h"
@@ -69,19 +70,28 @@ QByteArray svg(const Bildvorlage& vorlage, const Zeichenstil& stil) {
     return bytes;
 }
 
+void richteEin(QPdfWriter& pdf, const QPageSize& format, const QString& titel, const std::string& kennung) {
+    pdf.setPageSize(format);
+    pdf.setPageMargins(QMarginsF());
+    pdf.setResolution(pdfAufloesung);
+    pdf.setTitle(titel);
+    pdf.setCreator(QStringLiteral("Rippenscheibe"));
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    pdf.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(kennung)));
+#else
+    Q_UNUSED(kennung)
+#endif
+}
+
 QByteArray pdf(const Bildvorlage& vorlage, const Zeichenstil& stil) {
-    constexpr int aufloesung = 1200;
     QByteArray bytes;
     QBuffer puffer(&bytes);
     puffer.open(QIODevice::WriteOnly);
     QPdfWriter schreiber(&puffer);
-    schreiber.setPageSize(QPageSize(vorlage.mm, QPageSize::Millimeter, {}, QPageSize::ExactMatch));
-    schreiber.setPageMargins(QMarginsF());
-    schreiber.setResolution(aufloesung);
-    schreiber.setTitle(vorlage.titel);
-    schreiber.setCreator(QStringLiteral("Rippenscheibe"));
+    richteEin(schreiber, QPageSize(vorlage.mm, QPageSize::Millimeter, {}, QPageSize::ExactMatch),
+              vorlage.titel, vorlage.titel.toStdString());
     Zeichenstil inPunkten = stil;
-    inPunkten.mm = aufloesung / mmJeZoll;
+    inPunkten.mm = pdfAufloesung / mmJeZoll;
     QPainter painter(&schreiber);
     vorlage.zeichne(painter, QRectF(QPointF(0.0, 0.0), vorlage.mm * inPunkten.mm), inPunkten);
     painter.end();

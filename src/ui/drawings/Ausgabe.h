@@ -2,14 +2,18 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QPageSize>
 #include <QPainter>
 #include <QSizeF>
 #include <QString>
 #include <functional>
+#include <string>
 
 #include "ui/drawings/Zeichnungen.h"
 
 // Drawings as pictures: for the clipboard, for rich text, for a file.
+
+class QPdfWriter;
 
 namespace rippenscheibe {
 
@@ -28,6 +32,11 @@ QImage bild(const Bildvorlage& vorlage, double aufloesung, const Zeichenstil& st
 QByteArray png(const Bildvorlage& vorlage, double aufloesung, const Zeichenstil& stil);
 // SVG of its size, text as text.
 QByteArray svg(const Bildvorlage& vorlage, const Zeichenstil& stil);
+
+inline constexpr int pdfAufloesung = 1200;  // units per inch of the coordinates
+// What all PDF files of the program have in common. Newer Qt gives each document a random number; of the same
+// `kennung` it is the same, and so is the file but for its dates.
+void richteEin(QPdfWriter& pdf, const QPageSize& format, const QString& titel, const std::string& kennung);
 // PDF of one page of its size.
 QByteArray pdf(const Bildvorlage& vorlage, const Zeichenstil& stil);
 

@@ -153,7 +153,10 @@ void jederStrich(QLineF linie, const QList<qreal>& muster, double beginn, double
     const double an = muster[0] * breite;
     const double teilung = an + muster[1] * breite;
     if (!(teilung > 0.0) || laenge / teilung > 1e5) return strich(linie.p1(), linie.p2());
-    for (double s = -std::fmod(beginn * breite, teilung); s < laenge; s += teilung) {
+    const double erster = -std::fmod(beginn * breite, teilung);
+    const auto anzahl = static_cast<int>(std::ceil((laenge - erster) / teilung));
+    for (int i = 0; i < anzahl; ++i) {
+        const double s = erster + i * teilung;
         const double ab = std::max(0.0, s);
         const double bis = std::min(laenge, s + an);
         if (bis > ab) strich(linie.pointAt(ab / laenge), linie.pointAt(bis / laenge));

@@ -135,8 +135,9 @@ void Kurvenbild::xAchse() {
     } else {
         const double breite = z_.textbreite(xText(z_, daten_, r_.xBis)) + 1.5 * t;
         const double dx = schritt(r_.xBis - r_.xVon, static_cast<int>(r_.feld.width() / breite));
-        for (double x = std::ceil(r_.xVon / dx - 1e-9) * dx; x <= r_.xBis + 1e-9 * dx; x += dx)
-            stellen.push_back(x);
+        const double erste = std::ceil(r_.xVon / dx - 1e-9) * dx;
+        const auto weitere = static_cast<int>(std::floor((r_.xBis - erste) / dx + 1e-9));
+        for (int i = 0; i <= weitere; ++i) stellen.push_back(erste + i * dx);
     }
     double frei = -1e9;  // names of a list that would meet are left out
     for (const double x : stellen) {

@@ -173,7 +173,9 @@ void Zeichner::hirnholz(const QRectF& r) {
 void Zeichner::schraffur(const QRectF& r, double abstand, const QColor& farbe) {
     if (!(abstand > 0.05) || (r.width() + r.height()) / abstand > 5000.0) return;
     QVector<QLineF> linien;
-    for (double s = abstand; s < r.width() + r.height(); s += abstand) {
+    const auto anzahl = static_cast<int>(std::ceil((r.width() + r.height()) / abstand)) - 1;
+    for (int i = 1; i <= anzahl; ++i) {
+        const double s = i * abstand;
         const double unten = std::max(0.0, s - r.width());
         const double rechts = std::min(s, r.width());
         linien.append(QLineF(r.left() + rechts, r.top() + unten, r.left() + std::max(0.0, s - r.height()),

@@ -50,7 +50,6 @@ QString titel(Zeichnung was) {
         case Zeichnung::rollbild:
             return QStringLiteral("Aufbau einer Wandtafel");
         case Zeichnung::miniatur:
-            return QStringLiteral("Wandtafel");
         case Zeichnung::startbild:
             return QStringLiteral("Wandtafel");
     }

@@ -26,7 +26,8 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr std::array<const char*, 6> koepfe{"Art", "Bezeichnung", "Maß in mm", "Stück", "Menge", "Einheit"};
+constexpr std::array<const char*, 6> mengenkoepfe{"Art",   "Bezeichnung", "Maß in mm",
+                                                  "Stück", "Menge",       "Einheit"};
 constexpr int ersteZahl = 3;
 constexpr int letzteZahl = 4;
 
@@ -63,9 +64,9 @@ Mengenseite::Mengenseite(Programm& programm, Meldungen& meldungen, QWidget* pare
     tabelle_->setAlternatingRowColors(true);
     tabelle_->setUniformRowHeights(true);
     QStringList namen;
-    for (const char* kopf : koepfe) namen << qtext(kopf);
+    for (const char* kopf : mengenkoepfe) namen << qtext(kopf);
     tabelle_->setHeaderLabels(namen);
-    tabelle_->setColumnCount(static_cast<int>(koepfe.size()));
+    tabelle_->setColumnCount(static_cast<int>(mengenkoepfe.size()));
     for (int spalte = ersteZahl; spalte <= letzteZahl; ++spalte)
         tabelle_->headerItem()->setTextAlignment(spalte, Qt::AlignRight | Qt::AlignVCenter);
     tabelle_->header()->setStretchLastSection(false);
@@ -137,7 +138,7 @@ void Mengenseite::drucke() {
     for (int spalte = 0; spalte < tabelle_->columnCount(); ++spalte)
         html += QStringLiteral("<th align='%1'>%2</th>")
                     .arg(istZahl(spalte) ? QStringLiteral("right") : QStringLiteral("left"),
-                         qtext(koepfe[static_cast<std::size_t>(spalte)]));
+                         qtext(mengenkoepfe[static_cast<std::size_t>(spalte)]));
     for (const Mengenzeile& zeile : zeilen_) {
         html += QStringLiteral("</tr><tr>");
         const QStringList texte = zellen(zeile);
@@ -163,7 +164,7 @@ void Mengenseite::sichereCsv() {
     if (!ziel) return;
     const Csvform form{';', dezimalzeichen()};
     std::string text = "\xEF\xBB\xBF";  // so that spreadsheets take it for UTF-8
-    std::vector<std::string> kopf(koepfe.begin(), koepfe.end());
+    std::vector<std::string> kopf(mengenkoepfe.begin(), mengenkoepfe.end());
     text += csvZeile(kopf, form);
     for (const Mengenzeile& zeile : zeilen_)
         text +=

@@ -42,7 +42,7 @@ QString mittel(const Wand& w, Seite n) {
 // "1: ...; 2: ..." when the sides differ.
 template <class Text>
 QString beideOderEine(const Wand& w, const Text& text) {
-    const QString erste = text(w, Seite::eins);
+    QString erste = text(w, Seite::eins);
     const QString zweite = text(w, Seite::zwei);
     if (w.Einseitig || erste == zweite) return erste;
     return QStringLiteral("1: %1; 2: %2").arg(erste, zweite);

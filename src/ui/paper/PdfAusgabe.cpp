@@ -2,23 +2,17 @@
 
 #include <QFileInfo>
 #include <QPagedPaintDevice>
-#include <QUuid>
 
 #include "basis/Laengenmass.h"
 #include "files/Positionsdatei.h"
 #include "ui/basics/Meldungen.h"
 #include "ui/basics/Programm.h"
 #include "ui/basics/Zieldatei.h"
+#include "ui/drawings/Ausgabe.h"
 #include "ui/paper/Druckpuffer.h"
 #include "ui/paper/Seitenmaler.h"
 
 namespace rippenscheibe {
-
-namespace {
-
-constexpr int aufloesung = 1200;  // dots per inch of the PDF's coordinates
-
-}  // namespace
 
 Ausdruck standardausdruck(const Wand& w, const Einstellungen& e, const QImage& logo) {
     Ausdruck a;
@@ -71,17 +65,7 @@ QString abgeschnittenText(const QString& zeile) {
 
 Pdfdokument::Pdfdokument(const QString& titel, const std::string& kennung) {
     puffer_.open(QIODevice::WriteOnly);
-    schreiber_.setPageSize(QPageSize(QPageSize::A4));
-    schreiber_.setPageMargins(QMarginsF());
-    schreiber_.setResolution(aufloesung);
-    schreiber_.setTitle(titel);
-    schreiber_.setCreator(QStringLiteral("Rippenscheibe"));
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    // Newer Qt gives each document a random number; the same position gives the same file.
-    schreiber_.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(kennung)));
-#else
-    Q_UNUSED(kennung)
-#endif
+    richteEin(schreiber_, QPageSize(QPageSize::A4), titel, kennung);
 }
 
 Druckergebnis Pdfdokument::haengeAn(const Wand& w, const Ausdruck& ausdruck, const std::string& name) {

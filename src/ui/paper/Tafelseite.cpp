@@ -4,12 +4,13 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QUuid>
 #include <algorithm>
 #include <optional>
 
+#include "basis/Laengenmass.h"
 #include "files/Positionsdatei.h"
 #include "ui/basics/Programm.h"
+#include "ui/drawings/Ausgabe.h"
 #include "ui/drawings/Zeichner.h"
 #include "ui/drawings/Zeichnungen.h"
 #include "ui/paper/PdfAusgabe.h"
@@ -18,9 +19,7 @@ namespace rippenscheibe {
 
 namespace {
 
-constexpr double mmJeZoll = 25.4;
-constexpr int aufloesung = 1200;  // dots per inch of the PDF's coordinates
-constexpr double punkteJeMm = aufloesung / mmJeZoll;
+constexpr double einheitenJeMm = pdfAufloesung / mmJeZoll;
 
 // A4 and its margins, mm.
 constexpr double breite = 210;
@@ -45,7 +44,8 @@ class Blattschreiber {
         // All is placed from the corner of the paper, at the same dots on every device.
         const int punkte = papier.logicalDpiX();
         painter_.translate(-papier.pageLayout().paintRectPixels(punkte).topLeft());
-        painter_.scale(static_cast<double>(punkte) / aufloesung, static_cast<double>(punkte) / aufloesung);
+        painter_.scale(static_cast<double>(punkte) / pdfAufloesung,
+                       static_cast<double>(punkte) / pdfAufloesung);
         beginneSeite();
     }
 
@@ -60,8 +60,8 @@ class Blattschreiber {
     void skizze(const Wand& w) {
         platz(skizzenhoehe);
         z_.reset();  // a drawing sets the painter up for itself
-        const QRectF flaeche(rand * punkteJeMm, y_ * punkteJeMm, satzbreite * punkteJeMm,
-                             skizzenhoehe * punkteJeMm);
+        const QRectF flaeche(rand * einheitenJeMm, y_ * einheitenJeMm, satzbreite * einheitenJeMm,
+                             skizzenhoehe * einheitenJeMm);
         zeichne(painter_, flaeche, Zeichnung::ansicht, w, stil());
         beginneZeichnen();
         y_ += skizzenhoehe;
@@ -104,10 +104,10 @@ class Blattschreiber {
     }
 
   private:
-    static Zeichenstil stil() { return Zeichenstil::papier(punkteJeMm); }
+    static Zeichenstil stil() { return Zeichenstil::papier(einheitenJeMm); }
 
     void beginneZeichnen() {
-        z_.emplace(painter_, QRectF(0, 0, breite * punkteJeMm, hoehe * punkteJeMm), stil());
+        z_.emplace(painter_, QRectF(0, 0, breite * einheitenJeMm, hoehe * einheitenJeMm), stil());
     }
     void beginneSeite() {
         beginneZeichnen();
@@ -178,14 +178,8 @@ QByteArray tafelPdf(const Tafelblatt& blatt, const Wand& wand) {
     QBuffer puffer(&bytes);
     puffer.open(QIODevice::WriteOnly);
     QPdfWriter papier(&puffer);
-    papier.setPageSize(QPageSize(QPageSize::A4));
-    papier.setPageMargins(QMarginsF());
-    papier.setResolution(aufloesung);
-    papier.setTitle(dokumenttitel(wand) + QStringLiteral(" - Bemessungstafel"));
-    papier.setCreator(QStringLiteral("Rippenscheibe"));
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    papier.setDocumentId(QUuid::createUuidV5(QUuid(), QByteArray::fromStdString(positionstext(wand))));
-#endif
+    richteEin(papier, QPageSize(QPageSize::A4), dokumenttitel(wand) + QStringLiteral(" - Bemessungstafel"),
+              positionstext(wand));
     druckeTafel(papier, blatt, wand);
     return bytes;
 }

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QTabWidget>
+#include <QVBoxLayout>
 
 #include "ui/basics/Programm.h"
 #include "ui/study/Suchseite.h"

@@ -86,7 +86,7 @@ QString werttext(int feld, const Wand& w) {
     Wand kopie = w;
     const Feldzugriff felder(kopie);
     const Feldangabe& a = angabe(feld);
-    const QString eintrag = listeneintrag(a.name, static_cast<int>(felder.zahl(feld)));
+    QString eintrag = listeneintrag(a.name, static_cast<int>(felder.zahl(feld)));
     if (!eintrag.isEmpty()) return eintrag;
     std::string text;
     felder.anfuegeEingabe(text, feld);

@@ -12,7 +12,6 @@ namespace rippenscheibe {
 namespace {
 
 constexpr int rand = 6;  // px
-constexpr int balkenhoehe = 8;
 constexpr int balkenbreite = 56;
 
 // The cell as the style draws it, without what stands in it.

@@ -14,7 +14,6 @@ namespace {
 
 constexpr double markeBei = 0.75;  // of the length of a bar stands for 1,00
 constexpr double luecke = 3.0;     // px, where a bar breaks
-constexpr int balkenhoehe = 8;
 constexpr int abstand = 8;
 constexpr int kuerzester = 48;  // px, a bar in a narrow row
 constexpr int ueblicher = 140;
@@ -148,7 +147,7 @@ int Ausnutzungsbalken::namensbreite() const { return fontMetrics().horizontalAdv
 
 // What holds needs no sign; everything else says what it is without its colour.
 QString Ausnutzungsbalken::werttext() const {
-    const QString zeichen = urteilszeichen(wert_.urteil);
+    QString zeichen = urteilszeichen(wert_.urteil);
     if (wert_.wert.isEmpty()) return zeichen;
     return wert_.urteil == Balkenurteil::erfuellt ? wert_.wert : zeichen + QLatin1Char(' ') + wert_.wert;
 }

@@ -30,6 +30,8 @@ QColor urteilsfarbe(const QPalette& palette, Balkenurteil urteil);
 QString urteilszeichen(Balkenurteil urteil);
 QString urteilswort(Balkenurteil urteil);
 
+inline constexpr int balkenhoehe = 8;  // px
+
 // The bar itself: a track with 1,00 at a fixed mark. Beyond it the bar breaks and goes on in the colour of
 // failure. Without demand a thin line, without a proof a hatched track. `eta` may be infinite.
 void maleBalken(QPainter& painter, const QRectF& flaeche, double eta, Balkenurteil urteil,

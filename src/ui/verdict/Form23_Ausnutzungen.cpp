@@ -16,7 +16,6 @@ constexpr int Zeilennummer = Ausnutzungsbaum::rolleZeile;
 enum Rolle { Abschnittsnummer = Zeilennummer + 1, Eta, Urteilsart, Name, Wert };
 
 constexpr int rand = 6;  // px
-constexpr int balkenhoehe = 8;
 
 // "5.1 Scheibenschub parallel | bar | 0,61  ✓ erfüllt"; a row without a bar is a heading.
 class Balkenzeile : public QStyledItemDelegate {
