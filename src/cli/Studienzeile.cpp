@@ -181,12 +181,12 @@ void fuegeListenverbenHinzu(const Studienverben& verben, Studienauftrag& auftrag
         verben.befehl("lastfaelle", "schlägt Lastfälle einer Wand vor: lastfaelle neu DATEI",
                       static_cast<int>(Befehl::lastfaelle));
     lastfaelle
-        .add_option_function<std::string>("neu",
-                                          [](const std::string& wort) {
-                                              if (wort != "neu")
-                                                  throw CLI::ValidationError("lastfaelle",
-                                                                             nichtZulaessig(wort, "neu"));
-                                          })
+        .add_option_function<std::string>(
+            "neu",
+            [](const std::string& wort) {
+                if (wort != "neu") throw CLI::ValidationError("lastfaelle", nichtZulaessig(wort, "neu"));
+            },
+            "was getan wird: Lastfälle vorschlagen")
         ->required()
         ->option_text(" ");
     verben.dateien(lastfaelle, false);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <span>
+#include <utility>
 
 #include "model/Feldangaben.h"
 #include "model/Kataloge.h"
@@ -74,6 +75,16 @@ int katalogzeile(std::string_view feld, std::string_view wert) {
     return treffer == eintraege.end() ? 0 : static_cast<int>(treffer - eintraege.begin()) + 1;
 }
 
+// "Material1 = "OSB/5" steht nicht in der Liste: OSB/2; OSB/3; ..."
+std::string fehltInListe(std::string_view feld, std::string_view wert) {
+    std::string satz = std::string(feld) + " = \"" + std::string(wert) + "\" steht nicht in der Liste: ";
+    std::string_view trenner;
+    for (const std::string_view eintrag : katalog(feld)) {
+        satz.append(std::exchange(trenner, "; ")).append(eintrag);
+    }
+    return satz;
+}
+
 int vmKatalogzeile(std::string_view wert) {
     for (int zeile = 1; zeile <= static_cast<int>(VMKatalog().size()); ++zeile)
         if (katalogzeilenname(zeile) == wert) return zeile;
@@ -116,6 +127,7 @@ std::variant<std::vector<std::pair<int, Feldwert>>, std::string> zuweisungen(con
         return std::vector{std::pair(achse.feld, Feldwert(static_cast<double>(zeile)))};
     }
     const std::optional<Feldwert> gelesen = feldwertAus(feld, wert);
+    if (!gelesen && !katalog(feld.angabe.name).empty()) return fehltInListe(feld.angabe.name, wert);
     const std::string geschrieben = gelesen ? std::string(wert) : "\"" + std::string(wert) + "\"";
     if (const auto satz = einwand(feld, gelesen.value_or(Feldwert(std::string(wert))), geschrieben, grenzen))
         return *satz;
