@@ -296,12 +296,12 @@ Projektfilter::Projektfilter(QObject* parent) : QSortFilterProxyModel(parent) {
 
 void Projektfilter::suche(const QString& text) {
     worte_ = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    invalidateFilter();
+    invalidate();
 }
 
 void Projektfilter::waehle(Wahl wahl) {
     wahl_ = wahl;
-    invalidateFilter();
+    invalidate();
 }
 
 bool Projektfilter::gewaehlt(const QModelIndex& index) const {
