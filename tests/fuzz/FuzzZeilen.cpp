@@ -34,9 +34,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t lae
     auftrag.felder = {"av1", "Rd1", "Ftd", "Position"};
     if (text.front() == 'c') auftrag.eingabe = auftrag.ausgabe = Zeilenform::csv;
     text.erase(0, 1);
-    if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
     Textstrom strom(text, 7);
     const Stapelergebnis ergebnis = stapel(auftrag, strom.strom(), {});
+    if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);  // no part of the first line
     const auto zeilen = [](const std::string& t) {
         return static_cast<std::size_t>(std::count(t.begin(), t.end(), '\n'));
     };
