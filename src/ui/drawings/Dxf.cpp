@@ -154,8 +154,7 @@ void jederStrich(QLineF linie, const QList<qreal>& muster, double beginn, double
     const double teilung = an + muster[1] * breite;
     if (!(teilung > 0.0) || laenge / teilung > 1e5) return strich(linie.p1(), linie.p2());
     const double erster = -std::fmod(beginn * breite, teilung);
-    const auto anzahl = static_cast<int>(std::ceil((laenge - erster) / teilung));
-    for (int i = 0; i < anzahl; ++i) {
+    for (int i = 0; erster + i * teilung < laenge; ++i) {
         const double s = erster + i * teilung;
         const double ab = std::max(0.0, s);
         const double bis = std::min(laenge, s + an);

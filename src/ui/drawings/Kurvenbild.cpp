@@ -136,8 +136,7 @@ void Kurvenbild::xAchse() {
         const double breite = z_.textbreite(xText(z_, daten_, r_.xBis)) + 1.5 * t;
         const double dx = schritt(r_.xBis - r_.xVon, static_cast<int>(r_.feld.width() / breite));
         const double erste = std::ceil(r_.xVon / dx - 1e-9) * dx;
-        const auto weitere = static_cast<int>(std::floor((r_.xBis - erste) / dx + 1e-9));
-        for (int i = 0; i <= weitere; ++i) stellen.push_back(erste + i * dx);
+        for (int i = 0; erste + i * dx <= r_.xBis + 1e-9 * dx; ++i) stellen.push_back(erste + i * dx);
     }
     double frei = -1e9;  // names of a list that would meet are left out
     for (const double x : stellen) {

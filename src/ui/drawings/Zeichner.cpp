@@ -173,8 +173,7 @@ void Zeichner::hirnholz(const QRectF& r) {
 void Zeichner::schraffur(const QRectF& r, double abstand, const QColor& farbe) {
     if (!(abstand > 0.05) || (r.width() + r.height()) / abstand > 5000.0) return;
     QVector<QLineF> linien;
-    const auto anzahl = static_cast<int>(std::ceil((r.width() + r.height()) / abstand)) - 1;
-    for (int i = 1; i <= anzahl; ++i) {
+    for (int i = 1; i * abstand < r.width() + r.height(); ++i) {
         const double s = i * abstand;
         const double unten = std::max(0.0, s - r.width());
         const double rechts = std::min(s, r.width());
