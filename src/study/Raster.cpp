@@ -75,13 +75,12 @@ int katalogzeile(std::string_view feld, std::string_view wert) {
     return treffer == eintraege.end() ? 0 : static_cast<int>(treffer - eintraege.begin()) + 1;
 }
 
-// "Material1 = "OSB/5" steht nicht in der Liste: OSB/2; OSB/3; ..."
+// `Material1 = "OSB/5" steht nicht in der Liste: ...`
 std::string fehltInListe(std::string_view feld, std::string_view wert) {
     std::string satz = std::string(feld) + " = \"" + std::string(wert) + "\" steht nicht in der Liste: ";
     std::string_view trenner;
-    for (const std::string_view eintrag : katalog(feld)) {
+    for (const std::string_view eintrag : katalog(feld))
         satz.append(std::exchange(trenner, "; ")).append(eintrag);
-    }
     return satz;
 }
 
